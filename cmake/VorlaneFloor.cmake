@@ -1,0 +1,38 @@
+# A floor of the house is a folder of rooms and a static library of the same name, vorlane::<name>. Its headers are a
+# file set, so that CMake can prove that each of them compiles alone. A floor without a room yet is passed over.
+#
+#   vorlane_floor(<name> [FOLDERS <folder>...] [USES <floor>...])
+function(vorlane_floor name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS;USES")
+  if(NOT arg_FOLDERS)
+    set(arg_FOLDERS ${name})
+  endif()
+  set(sources)
+  set(headers)
+  foreach(folder IN LISTS arg_FOLDERS)
+    file(GLOB cpp CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
+    file(GLOB h CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.h)
+    list(APPEND sources ${cpp})
+    list(APPEND headers ${h})
+  endforeach()
+  if(NOT sources)
+    return()
+  endif()
+
+  set(target vorlane_${name})
+  add_library(${target} STATIC ${sources})
+  add_library(vorlane::${name} ALIAS ${target})
+  target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${headers})
+  set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON AUTOMOC OFF)
+  target_link_libraries(${target} PRIVATE vorlane_options)
+  vorlane_link_floors(${target} PUBLIC ${arg_USES})
+endfunction()
+
+# Links the floors that exist.
+function(vorlane_link_floors target scope)
+  foreach(floor IN LISTS ARGN)
+    if(TARGET vorlane_${floor})
+      target_link_libraries(${target} ${scope} vorlane_${floor})
+    endif()
+  endforeach()
+endfunction()

@@ -1,0 +1,163 @@
+// The desktop: what the library asks of the system it runs on, as a set of small roles. A control gets the set in its
+// constructor and keeps it; nothing here is global. All calls come from the one user-interface thread.
+//
+// Two desktops exist: the headless one (tests, servers) and the Qt one (real windows).
+#pragma once
+
+#include "platform/color.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
+#include "platform/picture.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vorlane {
+
+// Names a window of the desktop, 0 for none.
+using Hwnd = int32_t;
+
+// Time, timers and the message loop.
+class Clock {
+public:
+    using TimerId = int32_t;
+    virtual ~Clock() = default;
+
+    // Milliseconds since some fixed moment; never goes back.
+    virtual int64_t Now() const = 0;
+    // Calls tick every interval milliseconds (1 or more) from the message loop until stopped. Never returns 0.
+    virtual TimerId StartTimer(int32_t interval, std::function<void()> tick) = 0;
+    // Harmless on a timer that is stopped already; the timer may stop itself from its tick.
+    virtual void StopTimer(TimerId timer) = 0;
+    // Lets everything that waits in the message loop run, then returns.
+    virtual void DoEvents() = 0;
+    // Blocks the thread; nothing of the message loop runs meanwhile.
+    virtual void Sleep(int32_t milliseconds) = 0;
+};
+
+// The screen, the pointer on it and the mouse capture.
+class Screen {
+public:
+    virtual ~Screen() = default;
+
+    virtual float TwipsPerPixelX() const = 0;
+    virtual float TwipsPerPixelY() const = 0;
+    // The pointer, in screen pixels.
+    virtual Point CursorPos() const = 0;
+    virtual void SetCursorPos(Point place) = 0;
+    // The pointer's shape for the whole program; 0 leaves it to the controls, 11 is the hourglass.
+    virtual int16_t MousePointer() const = 0;
+    virtual void SetMousePointer(int16_t shape) = 0;
+    // A system colour by its number, as a plain colour in the present theme. An unknown number gives black.
+    virtual OLE_COLOR SysColor(int32_t number) const = 0;
+    // All mouse events go to window until ReleaseCapture.
+    virtual void SetCapture(Hwnd window) = 0;
+    virtual void ReleaseCapture() = 0;
+};
+
+class Keyboard {
+public:
+    virtual ~Keyboard() = default;
+
+    // Whether the key or mouse button of that virtual code is down now: 1 left button, 2 right button, 16 Shift,
+    // 17 Ctrl, 18 Alt, 27 Escape, ...
+    virtual bool KeyIsDown(int32_t virtualKey) const = 0;
+};
+
+// Text sizes in pixels.
+class TextMetrics {
+public:
+    virtual ~TextMetrics() = default;
+
+    virtual float TextWidth(const Font& font, std::string_view text) const = 0;
+    virtual float TextHeight(const Font& font, std::string_view text) const = 0;
+};
+
+// The windows that hold controls.
+class Windows {
+public:
+    virtual ~Windows() = default;
+
+    // The window's whole rectangle, in screen pixels. Empty for a window that is not there.
+    virtual WinRect GetWindowRect(Hwnd window) const = 0;
+    // Its inside, from (0, 0).
+    virtual WinRect GetClientRect(Hwnd window) const = 0;
+    virtual Point ClientToScreen(Hwnd window, Point place) const = 0;
+    // Repaints part of the window, in its own pixels, before returning when flags say so (256: update now; 64: not
+    // its children; 1: count it as changed).
+    virtual void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) = 0;
+};
+
+// Messages to the user.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+
+    // Shows text until the user answers. style: 0 plain, 16 error, 48 warning, 64 information.
+    virtual void MsgBox(std::string_view text, int32_t style, std::string_view caption) = 0;
+};
+
+// The library's own artwork.
+enum class Artwork : uint8_t {
+    ZoomCorner,
+    InfoButton,
+    FileSubstitute,  // a file that can't be shown
+    FileSound,
+    FileVideo,
+    FileDocument,
+    FileOther,
+    Play,
+    Stop,
+    PlayMusic,
+    PlayComment,
+    ShowText,
+    SoundMissing,
+};
+
+// Decoding and scaling.
+class Pictures {
+public:
+    virtual ~Pictures() = default;
+
+    // The decoded picture of a file, turned as its orientation mark says; nothing when the file can't be read.
+    virtual std::optional<Picture> LoadImageFile(const std::string& path) = 0;
+    // picture at a new size in pixels, both 1 or more. Fails with InvalidPicture() when it can't.
+    virtual Picture ResizePicture(const Picture& picture, int32_t width, int32_t height) = 0;
+    virtual Picture Get(Artwork artwork) = 0;
+};
+
+// What plays and measures sounds.
+class Sounds {
+public:
+    virtual ~Sounds() = default;
+
+    // Length of a sound file in seconds; 0 when it can't be read.
+    virtual double SoundSeconds(const std::string& path) = 0;
+};
+
+// The texts of the user's language, by message number.
+class Texts {
+public:
+    virtual ~Texts() = default;
+
+    // Nothing for a number that is not known.
+    virtual std::optional<std::string> Text(std::string_view number) const = 0;
+};
+
+// The roles together, as a control holds them. The desktop that gives them outlives its controls.
+struct Desktop {
+    Clock& clock;
+    Screen& screen;
+    Keyboard& keyboard;
+    TextMetrics& metrics;
+    Windows& windows;
+    Dialogs& dialogs;
+    Pictures& pictures;
+    Sounds& sounds;
+    Texts& texts;
+};
+
+}  // namespace vorlane

@@ -1,0 +1,135 @@
+// Surface: what has been drawn on a control, as a recording. Each drawing call appends one plain command; Cls empties
+// the recording, and what was drawn stays until then. The surface owns no pixel: a desktop replays the commands when
+// the revision has moved.
+//
+// Coordinates are pixels of the control, as Singles; a replay rounds them to whole pixels like every conversion.
+// Colours are stored as given, so a system colour follows the theme at each replay.
+#pragma once
+
+#include "platform/color.h"
+#include "platform/event.h"
+#include "platform/font.h"
+#include "platform/geometry.h"
+#include "platform/picture.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace vorlane {
+
+namespace draw {
+
+struct Line {  // both ends drawn
+    float X1, Y1, X2, Y2;
+    OLE_COLOR Color;
+};
+struct OutlinedBox {  // one-pixel outline, both corners drawn
+    float X1, Y1, X2, Y2;
+    OLE_COLOR Color;
+};
+struct FilledBox {  // both corners drawn
+    float X1, Y1, X2, Y2;
+    OLE_COLOR Color;
+};
+struct TextOutA {  // left and top of the text
+    int32_t X, Y;
+    std::string Text;
+    OLE_COLOR Color;
+    vorlane::Font Font;
+};
+struct TRIVERTEX {
+    int32_t X, Y;
+    uint16_t Red, Green, Blue, Alpha;  // 0 to 0xFF00
+};
+struct GRADIENT_RECT {  // indices of two vertices, the corners
+    uint32_t UpperLeft, LowerRight;
+};
+struct GradientFill {
+    std::vector<TRIVERTEX> Vertices;
+    std::vector<GRADIENT_RECT> Rects;
+    uint32_t Mode;  // 0 left to right, 1 top to bottom
+};
+struct DrawEdge {
+    WinRect Rect;
+    uint32_t Edge, Flags;
+};
+struct Polygon {  // closed
+    std::vector<Point> Points;
+    OLE_COLOR Outline, Fill;
+};
+struct RoundRect {  // outline only; right and bottom outside, width and height of the corner ellipses
+    WinRect Rect;
+    int32_t CornerWidth, CornerHeight;
+    OLE_COLOR Outline;
+};
+struct SetPixel {
+    int32_t X, Y;
+    OLE_COLOR Color;
+};
+struct BitBlt {  // a picture, unscaled
+    int32_t X, Y, Width, Height;
+    vorlane::Picture Source;
+    int32_t SourceX, SourceY;
+};
+
+using Command =
+    std::variant<Line, OutlinedBox, FilledBox, TextOutA, GradientFill, DrawEdge, Polygon, RoundRect, SetPixel, BitBlt>;
+
+}  // namespace draw
+
+class Surface {
+public:
+    // The state that later commands take over.
+    OLE_COLOR BackColor() const { return backColor_; }
+    // Fills the ground with color at once; what is drawn stays.
+    void SetBackColor(OLE_COLOR color);
+    OLE_COLOR ForeColor() const { return foreColor_; }
+    void SetForeColor(OLE_COLOR color) { foreColor_ = color; }
+    const vorlane::Font& Font() const { return font_; }
+    void SetFont(vorlane::Font font) { font_ = std::move(font); }
+    OLE_COLOR FillColor() const { return fillColor_; }
+    void SetFillColor(OLE_COLOR color) { fillColor_ = color; }
+    // 0 solid, 1 transparent.
+    int16_t FillStyle() const { return fillStyle_; }
+    void SetFillStyle(int16_t style) { fillStyle_ = style; }
+
+    // Empties the recording: only the back colour is left.
+    void Cls();
+    void Line(double x1, double y1, double x2, double y2, OLE_COLOR color);
+    void LineBox(double x1, double y1, double x2, double y2, OLE_COLOR color);
+    void LineFilledBox(double x1, double y1, double x2, double y2, OLE_COLOR color);
+    // In ForeColor and Font.
+    void TextOutA(int32_t x, int32_t y, std::string_view text);
+    void GradientFill(std::vector<draw::TRIVERTEX> vertices, std::vector<draw::GRADIENT_RECT> rects, uint32_t mode);
+    void DrawEdge(const WinRect& rect, uint32_t edge, uint32_t flags);
+    // Outline in ForeColor, inside in FillColor.
+    void Polygon(std::vector<Point> points);
+    // Outline in ForeColor.
+    void RoundRect(const WinRect& rect, int32_t cornerWidth, int32_t cornerHeight);
+    void SetPixel(int32_t x, int32_t y, OLE_COLOR color);
+    void BitBlt(int32_t x, int32_t y, int32_t width, int32_t height, Picture source, int32_t sourceX, int32_t sourceY);
+
+    const std::vector<draw::Command>& Commands() const { return commands_; }
+    // Moves on with every change of what a replay would show.
+    uint64_t Revision() const { return revision_; }
+    // The back colour and the commands as text, one a line: "Box 0,0 99,74 #8C021B".
+    std::string dump() const;
+
+    Event<> Changed;  // behind every change of the revision
+
+private:
+    void Append(draw::Command command);
+
+    OLE_COLOR backColor_ = FromSystem(SystemColor::ButtonFace);
+    OLE_COLOR foreColor_ = 0;
+    OLE_COLOR fillColor_ = 0;
+    int16_t fillStyle_ = 1;
+    vorlane::Font font_;
+    std::vector<draw::Command> commands_;
+    uint64_t revision_ = 0;
+};
+
+}  // namespace vorlane
