@@ -2,8 +2,8 @@
 // the recording, and what was drawn stays until then. The surface owns no pixel: a desktop replays the commands when
 // the revision has moved.
 //
-// Coordinates are pixels of the control, as Singles; a replay rounds them to whole pixels like every conversion.
-// Colours are stored as given, so a system colour follows the theme at each replay.
+// Coordinates are pixels of the control, as Singles; a replay rounds them to whole pixels like every conversion, and
+// every recorded one can be rounded. Colours are stored as given, so a system colour follows the theme at each replay.
 #pragma once
 
 #include "platform/color.h"
@@ -13,6 +13,7 @@
 #include "platform/picture.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -58,7 +59,8 @@ struct DrawEdge {
 };
 struct Polygon {  // closed
     std::vector<Point> Points;
-    OLE_COLOR Outline, Fill;
+    OLE_COLOR Outline;
+    std::optional<OLE_COLOR> Fill;  // nothing leaves the inside as it is
 };
 struct RoundRect {  // outline only; right and bottom outside, width and height of the corner ellipses
     WinRect Rect;
@@ -84,7 +86,7 @@ class Surface {
 public:
     // The state that later commands take over.
     OLE_COLOR BackColor() const { return backColor_; }
-    // Fills the ground with color at once; what is drawn stays.
+    // Fills the ground with color at once; what is drawn stays above it.
     void SetBackColor(OLE_COLOR color);
     OLE_COLOR ForeColor() const { return foreColor_; }
     void SetForeColor(OLE_COLOR color) { foreColor_ = color; }
@@ -92,22 +94,25 @@ public:
     void SetFont(vorlane::Font font) { font_ = std::move(font); }
     OLE_COLOR FillColor() const { return fillColor_; }
     void SetFillColor(OLE_COLOR color) { fillColor_ = color; }
-    // 0 solid, 1 transparent.
+    // 0 solid, anything else transparent.
     int16_t FillStyle() const { return fillStyle_; }
     void SetFillStyle(int16_t style) { fillStyle_ = style; }
 
     // Empties the recording: only the back colour is left.
     void Cls();
+    // Lines and boxes fail with Overflow() for a coordinate that is no 32-bit number when rounded.
     void Line(double x1, double y1, double x2, double y2, OLE_COLOR color);
     void LineBox(double x1, double y1, double x2, double y2, OLE_COLOR color);
     void LineFilledBox(double x1, double y1, double x2, double y2, OLE_COLOR color);
     // In ForeColor and Font.
     void TextOutA(int32_t x, int32_t y, std::string_view text);
+    // Fails with SubscriptOutOfRange() for a rectangle over a vertex that is not given, and with InvalidCall() for an
+    // unknown mode.
     void GradientFill(std::vector<draw::TRIVERTEX> vertices, std::vector<draw::GRADIENT_RECT> rects, uint32_t mode);
     void DrawEdge(const WinRect& rect, uint32_t edge, uint32_t flags);
-    // Outline in ForeColor, inside in FillColor.
+    // Outline in ForeColor, inside in FillColor when FillStyle is solid.
     void Polygon(std::vector<Point> points);
-    // Outline in ForeColor.
+    // Outline in ForeColor, whatever FillStyle.
     void RoundRect(const WinRect& rect, int32_t cornerWidth, int32_t cornerHeight);
     void SetPixel(int32_t x, int32_t y, OLE_COLOR color);
     void BitBlt(int32_t x, int32_t y, int32_t width, int32_t height, Picture source, int32_t sourceX, int32_t sourceY);
@@ -115,13 +120,16 @@ public:
     const std::vector<draw::Command>& Commands() const { return commands_; }
     // Moves on with every change of what a replay would show.
     uint64_t Revision() const { return revision_; }
-    // The back colour and the commands as text, one a line: "Box 0,0 99,74 #8C021B".
+    // The back colour, then the commands, one a line: "BackColor sys15", "Box 0,0 99,74 #8C021B". A colour is "#" and
+    // the six digits of its value, blue first, or "sys" and its number. A coordinate has up to three decimals and no
+    // idle zeros. A text stands in quotes, with \ in front of quotes and backslashes and \xNN for control codes.
     std::string dump() const;
 
     Event<> Changed;  // behind every change of the revision
 
 private:
     void Append(draw::Command command);
+    void Touch();
 
     OLE_COLOR backColor_ = FromSystem(SystemColor::ButtonFace);
     OLE_COLOR foreColor_ = 0;
