@@ -30,35 +30,47 @@ public:
     OLE_COLOR ColorShift(OLE_COLOR color, int32_t red, int32_t green, int32_t blue) const;
 
     // --- Paths ---
-    // Part 2: the file name without folder. 3: the extension without the point. 4: the file name without folder and
-    // extension, which is what a rename edits. Both "/" and "\" end a folder. Part 2 is empty when the name has no
-    // extension; part 4 is not. An unknown part gives an empty text.
+    // Both "/" and "\" end a folder. The extension of a name is what stands behind its last point; points at the very
+    // front start no extension. So "a.tar.gz" has "gz", "name." an empty one, ".profile" and "name" have none.
+    //
+    // Part 2: the file name without folder, empty when it has no extension ("name." gives "name."). 3: the extension
+    // without the point. 4: the file name without folder, extension and its point, also of a name without extension;
+    // it is what a rename edits. An unknown part gives an empty text.
     static std::string FilePart(std::string_view path, int16_t part);
     // The file name without folder, whatever its extension.
     static std::string FileName(std::string_view path);
     // By extension, in any case: 0 a picture, 1 a sound, 2 a video, 3 a document, 5 anything else. A name without
-    // extension counts as a picture, for only its content can tell.
+    // extension, or with an empty one, counts as a picture, for only its content can tell.
+    //   0: avif bmp dib gif heic heif ico jfif jpe jpeg jpg jxl pbm pgm png pnm ppm svg svgz tga tif tiff webp xbm xpm
+    //   1: aac aif aiff flac m4a mid midi mp3 oga ogg opus wav wma
+    //   2: 3gp avi flv m2ts m4v mkv mov mp4 mpeg mpg mts ogv webm wmv
+    //   3: csv doc docx htm html md odp ods odt pdf ppt pptx rtf txt xls xlsx
     static int16_t FileKind(std::string_view path);
+    // Follows links. A file is a regular one. Anything that can't be looked at does not exist.
     static bool PathExists(const std::string& path, PathKind kind);
-    // A folder without doubled separators and with one at its end; an empty text stays empty.
+    // A folder without doubled separators and with one at its end; an empty text stays empty and "/" stays "/". The
+    // separator is "/"; in a text that holds "\" and no "/" it is "\", and a doubled one in front, which starts the
+    // name of a server, stays.
     static std::string NormalizePath(std::string_view folder);
-    // kind 0: the file's last modification; 1: its creation, or the earliest date known of it where the system keeps
-    // none. As "yyyy-mm-dd hh:nn:ss", local time. Fails with FileNotFound().
+    // kind 0: the file's last modification; any other: its creation, or the earliest date known of it where the system
+    // keeps none. As "yyyy-mm-dd hh:nn:ss", local time. Fails with FileNotFound().
     static std::string FileDateText(const std::string& path, int16_t kind);
-    // Bytes. Fails with FileNotFound().
+    // Bytes. Fails with FileNotFound(), for a folder too.
     static uint64_t FileLength(const std::string& path);
-    // The key of a typed character, or 0 for one that a file name can't hold: / \ : * ? " < > | and control codes.
+    // The key of a typed character, or 0 for one that a file name can't hold: / \ : * ? " < > | and control codes,
+    // but for those that are commands of an edit box: 1 select all, 3 copy, 8 backspace, 22 paste, 24 cut, 26 undo.
     static int16_t FilterNameKey(int16_t keyAscii);
 
     // --- Texts ---
-    // The n-th piece, from 1, of text cut at separator; empty beyond the last.
+    // The n-th piece, from 1, of text cut at separator; empty for any other n. An empty separator cuts nothing.
     static std::string FieldAt(std::string_view text, int32_t n, std::string_view separator);
-    // How many separators text holds.
+    // How many separators text holds; an empty separator is nowhere.
     static int32_t CountOf(std::string_view text, std::string_view separator);
-    // Small letters of the Latin, Greek and Cyrillic alphabets, in UTF-8; bytes that are no UTF-8 stay as they are.
+    // Small letters of the Latin (up to U+017F), Greek and Cyrillic alphabets, letter by letter in UTF-8, whatever the
+    // locale. Everything else, also bytes that are no UTF-8, stays as it is.
     static std::string LowerCase(std::string_view text);
-    // withUnits false: "m:ss", or "h:mm:ss" from an hour on. withUnits true: "2 h 05 min 09 s". Negative seconds get
-    // a leading "-".
+    // withUnits false: "m:ss", or "h:mm:ss" from an hour on. withUnits true: "2 h 05 min 09 s", without the units in
+    // front that are zero: "5 min 09 s", "9 s". Negative seconds get a leading "-".
     static std::string SecondsToText(int32_t seconds, bool withUnits);
     // The text of a message number in the user's language; ResMissing() for an unknown number.
     std::string ResText(std::string_view number) const;
@@ -66,6 +78,7 @@ public:
 
     // --- Lists ---
     // First index whose ItemData is the number that keyText spells; -1 for none, or when it spells no number.
+    // The separator between an item's sort data and its file name has no part in it.
     static int32_t FindListItem(const ListBox& list, std::string_view keyText, std::string_view separator);
 
     // --- Pictures and sounds ---
