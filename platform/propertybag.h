@@ -1,6 +1,11 @@
 // PropertyBag: the persisted properties of a control, values by key. A value equal to its default is not stored; a
 // missing key reads as its default; a value of another kind converts where that loses nothing, else the read fails
-// with TypeMismatch() or Overflow().
+// with TypeMismatch() or Overflow():
+//   - a flag is the number -1 or 0; the numbers -1 and 1 are true, 0 is false, others are no flag;
+//   - a real number without a fraction is a whole one; a real number is rounded to a Single;
+//   - a text that spells a number and nothing else is that number, and a number is the text that spells it;
+//   - a negative 32-bit number is the colour of the same bits;
+//   - fonts and pictures are only themselves.
 #pragma once
 
 #include "platform/font.h"
