@@ -56,6 +56,8 @@ public:
     // All mouse events go to window until ReleaseCapture.
     virtual void SetCapture(Hwnd window) = 0;
     virtual void ReleaseCapture() = 0;
+    // The window that asked for the capture, 0 for none.
+    virtual Hwnd Captured() const = 0;
 };
 
 class Keyboard {

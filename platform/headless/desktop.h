@@ -1,0 +1,39 @@
+// The headless desktop: the roles together, for tests and servers. What was asked of it stands in one trace. Its end
+// checks for leaks: a timer, a window or a capture that is still there calls OnLeak, which aborts unless a test says
+// otherwise.
+#pragma once
+
+#include "platform/headless/roles.h"
+
+#include <functional>
+#include <string>
+
+namespace vorlane::headless {
+
+class Desktop {
+public:
+    Desktop();
+    ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    vorlane::Desktop Roles() { return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts}; }
+
+    // What is still running, one line each; empty when all is released.
+    std::string Leaks() const;
+
+    Trace trace;
+    FakeClock clock{trace};
+    FakeScreen screen{trace};
+    FakeKeyboard keyboard;
+    FakeTextMetrics metrics;
+    FakeWindows windows{trace};
+    FakeDialogs dialogs{trace};
+    FakePictures pictures{trace};
+    FakeSounds sounds;
+    FakeTexts texts;
+
+    std::function<void(const std::string& leaks)> OnLeak;
+};
+
+}  // namespace vorlane::headless

@@ -1,0 +1,170 @@
+#include "platform/inputrouter.h"
+
+#include "platform/failure.h"
+
+#include <cmath>
+
+namespace vorlane {
+
+namespace {
+
+constexpr int16_t kEnter = 0;
+constexpr int16_t kLeave = 1;
+constexpr int16_t kOver = 2;
+
+struct Place {
+    float x;
+    float y;
+};
+
+// A place of the root in the control's own event units.
+Place InUnitsOf(const Control& control, float x, float y) {
+    const Box box = control.BoundsInRoot();
+    const bool surface = dynamic_cast<const UserControl*>(&control) != nullptr;
+    const float unit = surface ? 1.0F : kTwipsPerPixel;
+    return {(x - box.Left) * unit, (y - box.Top) * unit};
+}
+
+Control* Topmost(UserControl& container, float x, float y) {
+    const float frame = container.BorderStyle() == 0 ? 0.0F : 1.0F;
+    for (Control* child : container.Children()) {
+        const float inX = x - frame - child->Left();
+        const float inY = y - frame - child->Top();
+        if (!child->Visible() || !child->HitTest(inX, inY)) continue;
+        auto* inner = dynamic_cast<UserControl*>(child);
+        return inner == nullptr ? child : Topmost(*inner, inX, inY);
+    }
+    return &container;
+}
+
+}  // namespace
+
+Control* InputRouter::At(float x, float y) const {
+    return root_.HitTest(x, y) ? Topmost(root_, x, y) : nullptr;
+}
+
+InputRouter::Target InputRouter::Pin(Control* control) const {
+    return control == nullptr ? Target{} : Target{control, control->KeepAlive()};
+}
+
+InputRouter::Target InputRouter::Answering(float x, float y) const {
+    Control* found = At(x, y);
+    for (Control* control = found; control != nullptr; control = control->Container()) {
+        if (!control->Enabled()) found = control->Container();
+    }
+    return Pin(found);
+}
+
+InputRouter::Target InputRouter::MouseTarget(float x, float y) const {
+    const Hwnd captured = root_.Desktop().screen.Captured();
+    if (captured != 0) return captured == root_.Hwnd() ? Target{&root_} : Target{};
+    return pressed_ ? pressed_ : Answering(x, y);
+}
+
+void InputRouter::Raise(const Target& target, MouseEvent InputEvents::*event, int16_t button, int16_t shift, float x,
+                        float y) {
+    const Place place = InUnitsOf(*target.control, x, y);
+    Attempt([&] { (target.control->Input.*event)(button, shift, place.x, place.y); });
+}
+
+bool InputRouter::IsDoubleClick(const Target& target, int16_t button, float x, float y) const {
+    return last_.control == target.control && last_.button == button &&
+           root_.Desktop().clock.Now() - last_.time <= DoubleClickTime &&
+           std::abs(x - last_.x) <= DoubleClickDistance && std::abs(y - last_.y) <= DoubleClickDistance;
+}
+
+void InputRouter::MouseDown(int16_t button, int16_t shift, float x, float y) {
+    const Target target = MouseTarget(x, y);
+    held_ = static_cast<int16_t>(held_ | button);
+    if (!target) return;
+    if (!pressed_) pressed_ = target;
+    doubled_ = IsDoubleClick(target, button, x, y);
+    last_ = doubled_ ? LastPress{} : LastPress{target.control, button, root_.Desktop().clock.Now(), x, y};
+    if (doubled_) {
+        Attempt([&] { target.control->Input.DblClick(); });
+    } else {
+        Raise(target, &InputEvents::MouseDown, button, shift, x, y);
+    }
+}
+
+void InputRouter::MouseUp(int16_t button, int16_t shift, float x, float y) {
+    const Target target = MouseTarget(x, y);
+    held_ = static_cast<int16_t>(held_ & ~button);
+    const Target pressed = pressed_;
+    if (held_ == 0) pressed_ = {};
+    if (!target) return;
+    const bool clicked = !doubled_ && pressed.control == target.control && Answering(x, y).control == target.control;
+    Raise(target, &InputEvents::MouseUp, button, shift, x, y);
+    if (clicked) Attempt([&] { target.control->Input.Click(); });
+}
+
+void InputRouter::MouseMove(int16_t shift, float x, float y) {
+    if (const Target target = MouseTarget(x, y)) Raise(target, &InputEvents::MouseMove, held_, shift, x, y);
+}
+
+void InputRouter::Wheel(double notches, float x, float y) {
+    const Target target = Answering(x, y);
+    for (Control* control = target.control; control != nullptr; control = control->Container()) {
+        bool used = false;
+        if (!Attempt([&] { used = control->Wheel(notches); }) || used) return;
+    }
+}
+
+void InputRouter::SetFocus(Control* control) {
+    focus_ = Pin(control == &root_ ? nullptr : control);
+}
+
+void InputRouter::KeyDown(int16_t& keyCode, int16_t shift) {
+    const Target target = focus_ ? focus_ : Target{&root_};
+    if (target.control->Enabled()) Attempt([&] { target.control->Input.KeyDown(keyCode, shift); });
+}
+
+void InputRouter::KeyPress(int16_t& keyAscii) {
+    const Target target = focus_ ? focus_ : Target{&root_};
+    if (target.control->Enabled()) Attempt([&] { target.control->Input.KeyPress(keyAscii); });
+}
+
+void InputRouter::KeyUp(int16_t& keyCode, int16_t shift) {
+    const Target target = focus_ ? focus_ : Target{&root_};
+    if (target.control->Enabled()) Attempt([&] { target.control->Input.KeyUp(keyCode, shift); });
+}
+
+void InputRouter::DragTo(const Target& target, DataObject& data, int32_t& effect, int16_t button, int16_t shift,
+                         float x, float y, int16_t state) {
+    const Place place = InUnitsOf(*target.control, x, y);
+    Attempt([&] { target.control->Input.OLEDragOver(data, effect, button, shift, place.x, place.y, state); });
+}
+
+void InputRouter::DragOver(DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y) {
+    const Target target = Answering(x, y);
+    const bool entered = target.control != dragged_.control;
+    if (entered) DragLeave(data);
+    dragged_ = target;
+    if (!target) {
+        effect = 0;
+        return;
+    }
+    if (entered) DragTo(target, data, effect, button, shift, x, y, kEnter);
+    DragTo(target, data, effect, button, shift, x, y, kOver);
+}
+
+void InputRouter::DragLeave(DataObject& data) {
+    const Target left = std::exchange(dragged_, {});
+    if (!left) return;
+    int32_t effect = 0;
+    const Box box = left.control->BoundsInRoot();
+    DragTo(left, data, effect, 0, 0, box.Left, box.Top, kLeave);
+}
+
+void InputRouter::DragDrop(DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y) {
+    dragged_ = {};
+    const Target target = Answering(x, y);
+    if (!target) {
+        effect = 0;
+        return;
+    }
+    const Place place = InUnitsOf(*target.control, x, y);
+    Attempt([&] { target.control->Input.OLEDragDrop(data, effect, button, shift, place.x, place.y); });
+}
+
+}  // namespace vorlane
