@@ -33,8 +33,8 @@ void Control::Move(double left, double top) {
 }
 
 void Control::Move(double left, double top, double width, double height) {
-    const Box next{static_cast<float>(left), static_cast<float>(top), static_cast<float>(width),
-                   static_cast<float>(height)};
+    Box next{static_cast<float>(left), static_cast<float>(top), static_cast<float>(width), static_cast<float>(height)};
+    if (container_ != nullptr) next = container_->Aligned(align_, next);
     if (next == box_) return;
     const Box before = box_;
     box_ = next;
@@ -46,7 +46,7 @@ void Control::Move(double left, double top, double width, double height) {
 void Control::SetAlign(vorlane::Align align) {
     if (align == align_) return;
     align_ = align;
-    if (container_ != nullptr) container_->PlaceAligned(*this);
+    Move(box_.Left, box_.Top);
 }
 
 void Control::SetVisible(bool visible) {
@@ -84,9 +84,10 @@ Control& Control::Root() {
 Box Control::BoundsInRoot() const {
     Box box = box_;
     if (container_ == nullptr) return {0, 0, box.Width, box.Height};
-    for (const Control* outer = container_; outer->container_ != nullptr; outer = outer->container_) {
-        box.Left += outer->box_.Left;
-        box.Top += outer->box_.Top;
+    for (const UserControl* outer = container_; outer != nullptr; outer = outer->container_) {
+        const bool root = outer->container_ == nullptr;
+        box.Left += outer->FrameWidth() + (root ? 0.0F : outer->box_.Left);
+        box.Top += outer->FrameWidth() + (root ? 0.0F : outer->box_.Top);
     }
     return box;
 }
@@ -105,6 +106,7 @@ void Control::Invalidate() {
 }
 
 void Control::InvalidateOuter(const Box& part) {
+    if (part.Empty()) return;
     if (container_ != nullptr) {
         container_->ChildChanged(part);
     } else if (auto* root = dynamic_cast<UserControl*>(this)) {

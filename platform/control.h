@@ -67,7 +67,8 @@ public:
     void Move(double left, double top);
     void Move(double left, double top, double width, double height);
 
-    // Sticks the control to a side of its container, whose size it follows with its own thickness kept.
+    // Sticks the control to a side of its container, whose size it follows with its own thickness kept. While it
+    // sticks, only its thickness can be set.
     vorlane::Align Align() const { return align_; }
     void SetAlign(vorlane::Align align);
 

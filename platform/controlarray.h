@@ -49,10 +49,10 @@ public:
     void Unload(int32_t index) {
         if (index == 0) throw failures::InvalidCall();
         const std::shared_ptr<T> element = Item(index);
-        element->SetVisible(false);
         elements_[At(index)].reset();
         while (!elements_.back()) elements_.pop_back();
         --count_;
+        element->SetVisible(false);  // last, for it may call handlers
     }
 
 private:

@@ -20,13 +20,13 @@ struct Place {
 // A place of the root in the control's own event units.
 Place InUnitsOf(const Control& control, float x, float y) {
     const Box box = control.BoundsInRoot();
-    const bool surface = dynamic_cast<const UserControl*>(&control) != nullptr;
-    const float unit = surface ? 1.0F : kTwipsPerPixel;
-    return {(x - box.Left) * unit, (y - box.Top) * unit};
+    const auto* surface = dynamic_cast<const UserControl*>(&control);
+    if (surface == nullptr) return {(x - box.Left) * kTwipsPerPixel, (y - box.Top) * kTwipsPerPixel};
+    return {x - box.Left - surface->FrameWidth(), y - box.Top - surface->FrameWidth()};
 }
 
 Control* Topmost(UserControl& container, float x, float y) {
-    const float frame = container.BorderStyle() == 0 ? 0.0F : 1.0F;
+    const float frame = container.FrameWidth();
     for (Control* child : container.Children()) {
         const float inX = x - frame - child->Left();
         const float inY = y - frame - child->Top();

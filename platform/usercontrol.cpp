@@ -27,12 +27,16 @@ void UserControl::Start(const PropertyBag& saved) {
     Show();
 }
 
+float UserControl::FrameWidth() const {
+    return borderStyle_ == 0 ? 0.0F : 1.0F;
+}
+
 float UserControl::ScaleWidth() const {
-    return Width() - (borderStyle_ == 0 ? 0.0F : 2.0F);
+    return Width() - 2 * FrameWidth();
 }
 
 float UserControl::ScaleHeight() const {
-    return Height() - (borderStyle_ == 0 ? 0.0F : 2.0F);
+    return Height() - 2 * FrameWidth();
 }
 
 float UserControl::ToContainer(double pixels) const {
@@ -47,7 +51,7 @@ void UserControl::SetBorderStyle(int32_t style) {
 }
 
 void UserControl::OnResize() {
-    for (Control* child : std::vector<Control*>(children_)) PlaceAligned(*child);
+    for (Control* child : std::vector<Control*>(children_)) child->Move(child->Left(), child->Top());
     Resized();
 }
 
@@ -72,29 +76,29 @@ void UserControl::Restack(Control& child, ZOrderPosition position) {
     children_.insert(place, &child);
 }
 
-void UserControl::PlaceAligned(Control& child) {
+Box UserControl::Aligned(vorlane::Align align, const Box& box) const {
     const float width = ScaleWidth();
     const float height = ScaleHeight();
-    switch (child.Align()) {
+    switch (align) {
         case Align::None:
-            return;
+            return box;
         case Align::Top:
-            return child.Move(0, 0, width, child.Height());
+            return {0, 0, width, box.Height};
         case Align::Bottom:
-            return child.Move(0, height - child.Height(), width, child.Height());
+            return {0, height - box.Height, width, box.Height};
         case Align::Left:
-            return child.Move(0, 0, child.Width(), height);
+            return {0, 0, box.Width, height};
         case Align::Right:
-            return child.Move(width - child.Width(), 0, child.Width(), height);
+            return {width - box.Width, 0, box.Width, height};
     }
+    return box;
 }
 
 void UserControl::ChildChanged(const Box& part) {
     if (!Visible() && Container() != nullptr) return;
-    const float frame = borderStyle_ == 0 ? 0.0F : 1.0F;
     Box outer = part;
-    outer.Left += frame;
-    outer.Top += frame;
+    outer.Left += FrameWidth();
+    outer.Top += FrameWidth();
     if (Container() == nullptr) return Damaged(outer);
     outer.Left += Left();
     outer.Top += Top();

@@ -35,7 +35,9 @@ public:
     const vorlane::Ambient& Ambient() const { return ambient_; }
     vorlane::Hwnd Hwnd() const { return ambient_.Window; }
 
-    // Inner size in pixels: without the frame of BorderStyle 1, which takes one pixel on each side.
+    // Pixels that the frame of BorderStyle takes on each side. Children and surface lie inside of it.
+    float FrameWidth() const;
+    // Inner size in pixels: without the frame.
     float ScaleWidth() const;
     float ScaleHeight() const;
     // value, along either axis, from pixels to the container's scale.
@@ -67,7 +69,8 @@ private:
     void AddChild(Control& child);
     void RemoveChild(Control& child);
     void Restack(Control& child, ZOrderPosition position);
-    void PlaceAligned(Control& child);
+    // The place of a child of that size that sticks to a side.
+    Box Aligned(vorlane::Align align, const Box& box) const;
     void ChildChanged(const Box& part);
 
     vorlane::Desktop desktop_;
