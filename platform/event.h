@@ -17,9 +17,9 @@ namespace vorlane {
 
 namespace detail {
 
-class Slots {
+class HandlerList {
 public:
-    virtual ~Slots() = default;
+    virtual ~HandlerList() = default;
     virtual void Disconnect(unsigned id) = 0;
     virtual bool Connected(unsigned id) const = 0;
 };
@@ -30,21 +30,21 @@ public:
 class Connection {
 public:
     Connection() = default;
-    Connection(std::weak_ptr<detail::Slots> slots, unsigned id) : slots_(std::move(slots)), id_(id) {}
+    Connection(std::weak_ptr<detail::HandlerList> list, unsigned id) : list_(std::move(list)), id_(id) {}
 
     // Harmless on a connection that is gone.
     void disconnect() {
-        if (const auto slots = slots_.lock()) slots->Disconnect(id_);
-        slots_.reset();
+        if (const auto list = list_.lock()) list->Disconnect(id_);
+        list_.reset();
     }
 
     bool connected() const {
-        const auto slots = slots_.lock();
-        return slots && slots->Connected(id_);
+        const auto list = list_.lock();
+        return list && list->Connected(id_);
     }
 
 private:
-    std::weak_ptr<detail::Slots> slots_;
+    std::weak_ptr<detail::HandlerList> list_;
     unsigned id_ = 0;
 };
 
@@ -103,22 +103,22 @@ private:
         bool connected = true;
     };
 
-    struct List final : detail::Slots {
+    struct List final : detail::HandlerList {
         unsigned Add(Handler handler) {
-            slots.push_back(std::make_shared<Slot>(Slot{++lastId, std::move(handler)}));
+            entries.push_back(std::make_shared<Slot>(Slot{++lastId, std::move(handler)}));
             ++live;
             return lastId;
         }
 
         void Disconnect(unsigned id) override {
-            for (const auto& slot : slots) {
+            for (const auto& slot : entries) {
                 if (slot->id == id) live -= std::exchange(slot->connected, false) ? 1 : 0;
             }
             Sweep();
         }
 
         bool Connected(unsigned id) const override {
-            for (const auto& slot : slots) {
+            for (const auto& slot : entries) {
                 if (slot->id == id) return slot->connected;
             }
             return false;
@@ -133,9 +133,9 @@ private:
                     list.Sweep();
                 }
             } depth(*this);
-            const size_t count = slots.size();
+            const size_t count = entries.size();
             for (size_t i = 0; i < count; ++i) {
-                const std::shared_ptr<Slot> slot = slots[i];  // survives its own disconnection
+                const std::shared_ptr<Slot> slot = entries[i];  // survives its own disconnection
                 if (slot->connected) slot->handler(args...);
             }
         }
@@ -143,14 +143,14 @@ private:
         // Forgets disconnected handlers once no raise walks over them. They are destroyed behind the loop, since
         // what a handler holds may come back here as it goes.
         void Sweep() {
-            if (raising > 0 || static_cast<size_t>(live) == slots.size()) return;
+            if (raising > 0 || static_cast<size_t>(live) == entries.size()) return;
             std::vector<std::shared_ptr<Slot>> gone;
             std::vector<std::shared_ptr<Slot>> kept;
-            for (auto& slot : slots) (slot->connected ? kept : gone).push_back(std::move(slot));
-            slots = std::move(kept);
+            for (auto& slot : entries) (slot->connected ? kept : gone).push_back(std::move(slot));
+            entries = std::move(kept);
         }
 
-        std::vector<std::shared_ptr<Slot>> slots;
+        std::vector<std::shared_ptr<Slot>> entries;
         unsigned lastId = 0;
         int live = 0;
         int raising = 0;

@@ -2,8 +2,9 @@
 // the recording, and what was drawn stays until then. The surface owns no pixel: a desktop replays the commands when
 // the revision has moved.
 //
-// Coordinates are pixels of the control, as Singles; a replay rounds them to whole pixels like every conversion, and
-// every recorded one can be rounded. Colours are stored as given, so a system colour follows the theme at each replay.
+// Coordinates are pixels of the control, as Singles, and every recorded one can be rounded. A replay snaps them to the
+// device's own pixels, halves upwards, so that what touches on the surface touches on every screen. Colours are stored
+// as given, so a system colour follows the theme at each replay.
 #pragma once
 
 #include "platform/color.h"
@@ -13,6 +14,7 @@
 #include "platform/picture.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -82,6 +84,12 @@ using Command =
 
 }  // namespace draw
 
+// What a desktop keeps of its last replay of a surface.
+class SurfaceImage {
+public:
+    virtual ~SurfaceImage() = default;
+};
+
 class Surface {
 public:
     // The state that later commands take over.
@@ -125,6 +133,10 @@ public:
     // idle zeros. A text stands in quotes, with \ in front of quotes and backslashes and \xNN for control codes.
     std::string dump() const;
 
+    // The desktop's own, and gone with the surface.
+    const std::shared_ptr<SurfaceImage>& Image() const { return image_; }
+    void KeepImage(std::shared_ptr<SurfaceImage> image) const { image_ = std::move(image); }
+
     Event<> Changed;  // behind every change of the revision
 
 private:
@@ -138,6 +150,7 @@ private:
     vorlane::Font font_;
     std::vector<draw::Command> commands_;
     uint64_t revision_ = 0;
+    mutable std::shared_ptr<SurfaceImage> image_;
 };
 
 }  // namespace vorlane
