@@ -69,6 +69,10 @@ void Control::SetMousePointer(int16_t shape) {
     Assign(mousePointer_, shape);
 }
 
+void Control::SetMouseIcon(Picture icon) {
+    Assign(mouseIcon_, std::move(icon));
+}
+
 void Control::ZOrder(ZOrderPosition position) {
     if (container_ == nullptr) return;
     container_->Restack(*this, position);

@@ -8,6 +8,7 @@
 
 #include "platform/event.h"
 #include "platform/geometry.h"
+#include "platform/picture.h"
 
 #include <memory>
 #include <string>
@@ -84,6 +85,9 @@ public:
 
     int16_t MousePointer() const { return mousePointer_; }
     void SetMousePointer(int16_t shape);
+    // The pointer's picture where MousePointer is 99.
+    const Picture& MouseIcon() const { return mouseIcon_; }
+    void SetMouseIcon(Picture icon);
 
     // 0 none, 1 manual, 2 automatic (for drops) as the platform counts them.
     int16_t OLEDragMode() const { return oleDragMode_; }
@@ -146,6 +150,7 @@ private:
     bool visible_ = true;
     bool enabled_ = true;
     int16_t mousePointer_ = 0;
+    Picture mouseIcon_;
     int16_t oleDragMode_ = 0;
     int16_t oleDropMode_ = 0;
     std::string tag_;
