@@ -1,4 +1,5 @@
 // The slide's persisted properties: one table for reading, writing and new slides.
+#include "platform/boxing.h"
 #include "slide/ediapolight.h"
 
 #include <functional>
@@ -11,52 +12,6 @@ namespace {
 
 constexpr OLE_COLOR kWhite = 0xFFFFFF;
 constexpr OLE_COLOR kDesignForeColor = 0;
-
-BagValue Boxed(bool value) {
-    return value;
-}
-BagValue Boxed(const std::string& value) {
-    return value;
-}
-BagValue Boxed(const Font& value) {
-    return value;
-}
-BagValue Boxed(const Picture& value) {
-    return value;
-}
-template <class Number>
-requires std::is_integral_v<Number> || std::is_enum_v<Number> BagValue Boxed(Number value) {
-    return static_cast<int64_t>(value);
-}
-
-bool Unboxed(const PropertyBag& bag, const std::string& key, bool otherwise) {
-    return bag.ReadFlag(key, otherwise);
-}
-uint8_t Unboxed(const PropertyBag& bag, const std::string& key, uint8_t otherwise) {
-    return bag.ReadByte(key, otherwise);
-}
-int16_t Unboxed(const PropertyBag& bag, const std::string& key, int16_t otherwise) {
-    return bag.ReadInt16(key, otherwise);
-}
-int32_t Unboxed(const PropertyBag& bag, const std::string& key, int32_t otherwise) {
-    return bag.ReadInt32(key, otherwise);
-}
-OLE_COLOR Unboxed(const PropertyBag& bag, const std::string& key, OLE_COLOR otherwise) {
-    return bag.ReadColor(key, otherwise);
-}
-std::string Unboxed(const PropertyBag& bag, const std::string& key, const std::string& otherwise) {
-    return bag.ReadText(key, otherwise);
-}
-Font Unboxed(const PropertyBag& bag, const std::string& key, const Font& otherwise) {
-    return bag.ReadFont(key, otherwise);
-}
-Picture Unboxed(const PropertyBag& bag, const std::string& key, const Picture&) {
-    return bag.ReadPicture(key);
-}
-template <class Number>
-requires std::is_enum_v<Number> Number Unboxed(const PropertyBag& bag, const std::string& key, Number otherwise) {
-    return static_cast<Number>(bag.ReadInt32(key, static_cast<int32_t>(otherwise)));
-}
 
 }  // namespace
 
