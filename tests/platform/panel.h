@@ -1,6 +1,7 @@
 // A control made of children, as plain as can be, and what its container would notice of it.
 #pragma once
 
+#include "platform/controlvisitor.h"
 #include "platform/headless/desktop.h"
 #include "platform/propertybag.h"
 #include "platform/usercontrol.h"
