@@ -78,9 +78,11 @@ public:
 
     // --- Picture and file ---
     const vorlane::Picture& Picture() const { return Img.Picture(); }
-    // An empty picture clears the slide. Nothing at all, like any failure, shows the owner's substitute and raises
-    // InvalidPicture.
-    void SetPicture(const std::optional<vorlane::Picture>& picture);
+    // The empty picture clears the slide. Every statement of the assignment that fails shows the owner's substitute and
+    // raises InvalidPicture with an empty name, and the next one runs.
+    void SetPicture(const vorlane::Picture& picture);
+    // Nothing at all is such a failure, and nothing further happens.
+    void SetPicture(std::nullopt_t) { ShowFailedAssignment(); }
     // Full name of the file. Setting it loads nothing.
     const std::string& ImageFullPath() const { return Img.Tag(); }
     void SetImageFullPath(const std::string& path);
@@ -362,6 +364,7 @@ private:
     std::optional<vorlane::Picture> LoadFilePicture(const std::string& path, const vorlane::Picture& thumb);
     vorlane::Picture LoadPictureFile(const std::string& path, const vorlane::Picture& thumb);
     vorlane::Picture SubstituteFor(DiapoPictureIndex index, const std::string& playable);
+    void ClearPicture();
     void PlaceAssigned();
     void ShowAssigned(const vorlane::Picture& picture);
     bool ShowsThumbOf(const vorlane::Picture& picture) const;

@@ -2,6 +2,8 @@
 
 #include "platform/numbers.h"
 
+#include <algorithm>
+
 namespace vorlane {
 
 uint8_t FrameThickness(DiapoBorderStyle style) {
@@ -45,8 +47,7 @@ FrameColors ColorsOf(bool raised) {
 
 uint8_t ShadowLines(const FrameBox& box, uint8_t shadowWidth) {
     const uint8_t tenth = ToByte(Min(0.1 * (box.X2 - box.X1), 0.1 * (box.Y2 - box.Y1)));
-    const uint8_t lines = ToByte(static_cast<double>(Min(tenth, shadowWidth)));
-    return lines == 0 ? uint8_t{1} : lines;
+    return std::max<uint8_t>(1, std::min(tenth, shadowWidth));
 }
 
 ShadowFade::ShadowFade(const Rgb& shadow, const Rgb& background, uint8_t lines)

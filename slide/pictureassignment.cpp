@@ -44,16 +44,16 @@ void eDiapoLight::ShowNoFile() {
 void eDiapoLight::ShowFile(const std::string& path, const vorlane::Picture& thumb) {
     Img.SetTag(path);
     image_.HasGivenThumb = thumb.Type() > 0;
-    const bool picture = Trelmic6::FileKind(path) == 0;
+    const bool toolsRow = Trelmic6::FileKind(path) == 0 && settings_.ShowDiapoTools;
     BtPlay.SetVisible(media_.SoundMusic);
-    SetButtonPicture(
-        BtPlay, picture && settings_.ShowDiapoTools ? DiapoPictureIndex::PicBtPlay : DiapoPictureIndex::PicBtPlayPlain,
-        media_.InvalidMusic);
+    SetButtonPicture(BtPlay, toolsRow ? DiapoPictureIndex::PicBtPlay : DiapoPictureIndex::PicBtPlayPlain,
+                     media_.InvalidMusic);
     BtComment.SetVisible(media_.SoundComment);
     SetButtonPicture(BtComment, DiapoPictureIndex::PicBtComment, media_.InvalidComm);
     BtTexte.SetVisible(media_.Texte);
     SetButtonPicture(BtTexte, DiapoPictureIndex::PicBtText, false);
-    SetPicture(LoadFilePicture(path, thumb));
+    const std::optional<vorlane::Picture> picture = LoadFilePicture(path, thumb);
+    picture ? SetPicture(*picture) : SetPicture(std::nullopt);
     image_.HasGivenThumb = false;
     LblTop.SetCaption(Trelmic6::FilePart(path, kFileName));
 }
@@ -103,27 +103,29 @@ Picture eDiapoLight::SubstituteFor(DiapoPictureIndex index, const std::string& p
 
 // --- Assignment ---
 
-// Each statement that fails puts the owner's substitute in place and the next one runs.
-void eDiapoLight::SetPicture(const std::optional<vorlane::Picture>& picture) {
+void eDiapoLight::SetPicture(const vorlane::Picture& picture) {
     const auto step = [this](auto&& statement) {
         if (!Attempt(statement)) ShowFailedAssignment();
     };
-    if (!picture) return ShowFailedAssignment();
-    if (picture->Type() <= 0) {
-        Img.SetPicture({});
-        Img.SetTag("");
-        image_.IsSubstitute = false;
-        Img.SetVisible(true);
+    if (picture.Type() <= 0) {
+        step([&] { ClearPicture(); });
+        step([&] { Img.SetVisible(true); });
         return;
     }
-    const PictureSize pixels = PixelSize(*picture);
+    const PictureSize pixels = PixelSize(picture);
     image_.Native = {static_cast<float>(Round(pixels.Width)), static_cast<float>(Round(pixels.Height))};
-    step([&] { FitImage(*picture); });
+    step([&] { FitImage(picture); });
     step([&] { Img.SetVisible(false); });
     step([&] { PlaceAssigned(); });
-    step([&] { ShowAssigned(*picture); });
+    step([&] { ShowAssigned(picture); });
     if (settings_.AutoAdjust) Layout();
     step([&] { Img.SetVisible(true); });
+}
+
+void eDiapoLight::ClearPicture() {
+    Img.SetPicture({});
+    Img.SetTag("");
+    image_.IsSubstitute = false;
 }
 
 // Without AutoAdjust the place is computed from the area's far corner; the next layout puts it right.
