@@ -322,6 +322,11 @@ private:
         std::string DataSort;
         bool SelectedTmp = false;
     };
+    // The button that is down, of the three and the info button; only one can be.
+    struct ButtonPress {
+        bool Down = false;
+        float Top = 0;  // where it stood before
+    };
     struct Measures;
 
     // persistence.cpp
@@ -377,13 +382,17 @@ private:
     void ForwardMouse(Control& child);
     void ForwardDrag(Control& child);
     void ForwardDragState(Control& source);
-    void ConnectButtons();
-    void ConnectCorners();
     void ConnectGround();
-    void ClickSound(bool fromComment);
     // A place on a child, in its twips, in the container's scale from the slide's corner.
     float ForwardedX(const Control& child, float twips) const;
     float ForwardedY(const Control& child, float twips) const;
+
+    // buttons.cpp
+    void ConnectButtons();
+    void ConnectButton(Image& image);
+    void ClickSound(bool fromComment);
+    void ConnectInfo();
+    void ConnectCorner();
 
     Trelmic6 utilities_;
     Settings settings_;
@@ -392,6 +401,7 @@ private:
     Media media_;
     ImageState image_;
     Place place_;
+    ButtonPress press_;
     int16_t lastButton_ = 0;  // Button of the last press on the slide or a child, which Click and DblClick tell
     PendingError pending_;
 };

@@ -18,9 +18,9 @@ void eDiapoLight::ConnectInput() {
         ForwardMouse(*part);
         ForwardDrag(*part);
     }
-    for (Image* button : {&BtPlay, &BtComment, &BtTexte}) ForwardMouse(*button);
     ConnectButtons();
-    ConnectCorners();
+    ConnectInfo();
+    ConnectCorner();
     ConnectGround();
 }
 
@@ -64,38 +64,6 @@ void eDiapoLight::ForwardDragState(Control& source) {
         [this](int32_t& effect, bool& cursors) { Events.OLEGiveFeedback(effect, cursors); });
     source.Input.OLESetData.connect([this](DataObject& data, int16_t& format) { Events.OLESetData(data, format); });
     source.Input.OLECompleteDrag.connect([this](int32_t& effect) { Events.OLECompleteDrag(effect); });
-}
-
-void eDiapoLight::ConnectButtons() {
-    BtPlay.Input.Click.connect([this] { ClickSound(false); });
-    BtComment.Input.Click.connect([this] { ClickSound(true); });
-    BtTexte.Input.Click.connect([this] {
-        Events.Click(lastButton_);
-        Events.ClickText();
-    });
-}
-
-void eDiapoLight::ClickSound(bool fromComment) {
-    Events.Click(lastButton_);
-    Events.ClickPlay(fromComment);
-}
-
-// The info button and the zoom corner report their presses as events of their own; only moves over them count as
-// moves over the slide. The zoom corner's position goes out in its twips.
-void eDiapoLight::ConnectCorners() {
-    ImgInfo.Input.MouseDown.connect(
-        [this](int16_t button, int16_t shift, float x, float y) { Events.InfoMouseDown(button, shift, x, y); });
-    ImgInfo.Input.MouseMove.connect([this](int16_t button, int16_t shift, float x, float y) {
-        Events.InfoMouseMove(button, shift, x, y);
-        Events.MouseMove(button, shift, ForwardedX(ImgInfo, x), ForwardedY(ImgInfo, y));
-    });
-    ImgInfo.Input.MouseUp.connect(
-        [this](int16_t button, int16_t shift, float x, float y) { Events.InfoMouseUp(button, shift, x, y); });
-    CornerResize.Input.MouseDown.connect(
-        [this](int16_t button, int16_t shift, float x, float y) { Events.ZoomMouseDown(button, shift, x, y); });
-    CornerResize.Input.MouseMove.connect([this](int16_t button, int16_t shift, float x, float y) {
-        Events.MouseMove(button, shift, ToContainer(CornerResize.Left() + x), ToContainer(CornerResize.Top() + y));
-    });
 }
 
 // The ground's own input comes in pixels of the slide.
