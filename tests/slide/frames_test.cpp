@@ -6,15 +6,8 @@
 namespace vorlane::headless {
 namespace {
 
-class FramesTest : public SlideTest {
+class FramesTest : public LaidSlideTest {
 protected:
-    FramesTest() {
-        slide.Start();
-        slide.Move(0, 0, 160, 140);
-        slide.SetBorderDouble(false);
-        slide.SetShadowWidth(2);
-    }
-
     // What is drawn after a layout, one command a line, behind a line feed.
     std::string Drawn() {
         slide.Refresh();

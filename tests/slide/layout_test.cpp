@@ -5,16 +5,8 @@
 namespace vorlane::headless {
 namespace {
 
-class LayoutTest : public SlideTest {
+class LayoutTest : public LaidSlideTest {
 protected:
-    LayoutTest() {
-        slide.Start();
-        slide.Move(0, 0, 160, 140);
-        slide.SetBorderDouble(false);
-        slide.SetShadowWidth(2);
-        slide.Refresh();
-    }
-
     // One child a line: its place, and "hidden" if it is.
     std::string Children() const {
         std::string text = "\n";

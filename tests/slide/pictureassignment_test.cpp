@@ -1,24 +1,11 @@
-// Files and pictures on a slide of 160 x 140, whose area takes pictures of 146 x 86.
+// From files to pictures on a slide.
 #include "platform/failure.h"
 #include "slidetest.h"
 
 namespace vorlane::headless {
 namespace {
 
-class PictureTest : public SlideTest {
-protected:
-    PictureTest() {
-        slide.Start();
-        slide.Move(0, 0, 160, 140);
-        slide.SetBorderDouble(false);
-        slide.SetShadowWidth(2);
-        slide.Refresh();
-        desktop.trace.Clear();
-    }
-
-    std::string Shown() const { return NameOf(slide.Picture()); }
-    std::string LoadsAndEvents() { return desktop.trace.Take({"load", "resize", "slide"}); }
-};
+class PictureTest : public LaidSlideTest {};
 
 // --- Files ---
 
@@ -187,91 +174,6 @@ TEST_F(PictureTest, ABadFileLeavesTheButtonsOfAToolsRow) {
     EXPECT_TRUE(slide.BtCommentVisible());
 }
 
-// --- Buttons of a file ---
-
-TEST_F(PictureTest, TheToolsRowAsksForTheSoundsOwnPlayPicture) {
-    OwnAnswers();
-    slide.SetShowDiapoTools(true);
-    slide.SetOnGetThumb(true);
-    slide.SetHaveInvalidMusic(true);
-    slide.SetHaveSoundMusic(true);
-    slide.SetHaveInvalidComm(true);
-    slide.SetHaveSoundComment(true);
-    slide.SetHaveTexte(true);
-    slide.SetOnGetThumb(false);
-    slide.PictureByString("/a.jpg", Bitmap(20, 20));
-    EXPECT_EQ(LoadsAndEvents(), "slide SetPicture 5 invalid\nslide SetPicture 6 invalid\nslide SetPicture 7\n");
-    EXPECT_EQ(NameOf(slide.BtPlayPicture()), "owner5");
-    EXPECT_EQ(NameOf(slide.BtCommentPicture()), "owner6");
-    EXPECT_EQ(NameOf(slide.BtTextPicture()), "owner7");
-    EXPECT_TRUE(slide.BtPlayVisible());
-    EXPECT_TRUE(slide.BtCommentVisible());
-    EXPECT_TRUE(slide.BtTextVisible());
-}
-
-TEST_F(PictureTest, OtherFilesInAToolsRowAskForThePlainPlayPicture) {
-    slide.SetShowDiapoTools(true);
-    slide.SetOnGetThumb(true);
-    slide.SetHaveSoundMusic(true);
-    slide.PictureByString("/a.mp3");
-    EXPECT_EQ(LoadsAndEvents(), "slide SetPicture 8\nslide SetPicture 1\n");
-}
-
-TEST_F(PictureTest, AHiddenButtonLosesItsPicture) {
-    slide.SetBtPlayPicture(Bitmap(16, 16));
-    slide.SetBtCommentPicture(Bitmap(16, 16));
-    slide.SetBtTextPicture(Bitmap(16, 16));
-    slide.PictureByString("/a.jpg", Bitmap(20, 20));
-    EXPECT_EQ(slide.BtPlayPicture().Type(), 0);
-    EXPECT_EQ(slide.BtCommentPicture().Type(), 0);
-    EXPECT_EQ(slide.BtTextPicture().Type(), 0);
-}
-
-TEST_F(PictureTest, MusicLaysOutBeforeItsPictureIsAsked) {
-    bool laidOut = false;
-    slide.Events.SetPicture.connect([&](DiapoPictureIndex, Picture&, bool) {
-        laidOut = slide.Surface().dump().find("SetPixel") == std::string::npos;
-    });
-    EXPECT_TRUE(LaysOut([&] { slide.SetHaveSoundMusic(true); }));
-    EXPECT_TRUE(laidOut);
-    EXPECT_TRUE(LaysOut([&] { slide.SetHaveSoundComment(true); }));
-    EXPECT_TRUE(laidOut);
-    EXPECT_TRUE(LaysOut([&] { slide.SetHaveTexte(true); }));
-    EXPECT_FALSE(laidOut);
-}
-
-TEST_F(PictureTest, MusicAlwaysAsksForPictureFive) {
-    slide.SetHaveInvalidMusic(true);
-    slide.SetHaveSoundMusic(true);
-    EXPECT_EQ(LoadsAndEvents(), "slide SetPicture 5 invalid\n");
-    slide.SetHaveSoundMusic(true);
-    EXPECT_EQ(LoadsAndEvents(), "");
-    slide.SetHaveSoundMusic(false);
-    EXPECT_EQ(LoadsAndEvents(), "");
-    EXPECT_FALSE(slide.BtPlayVisible());
-}
-
-TEST_F(PictureTest, CommentAndTextAskForTheirPictures) {
-    slide.SetHaveInvalidComm(true);
-    slide.SetHaveSoundComment(true);
-    slide.SetHaveTexte(true);
-    EXPECT_EQ(LoadsAndEvents(), "slide SetPicture 6 invalid\nslide SetPicture 7\n");
-    EXPECT_TRUE(slide.BtCommentVisible());
-    EXPECT_TRUE(slide.BtTextVisible());
-}
-
-TEST_F(PictureTest, UnderOnGetThumbSoundsAndTextOnlyStore) {
-    slide.SetOnGetThumb(true);
-    EXPECT_FALSE(LaysOut([&] {
-        slide.SetHaveSoundMusic(true);
-        slide.SetHaveSoundComment(true);
-        slide.SetHaveTexte(true);
-    }));
-    EXPECT_EQ(LoadsAndEvents(), "");
-    EXPECT_TRUE(slide.HaveSoundMusic() && slide.HaveSoundComment() && slide.HaveTexte());
-    EXPECT_FALSE(slide.BtPlayVisible() || slide.BtCommentVisible() || slide.BtTextVisible());
-}
-
 // --- Assignment ---
 
 TEST_F(PictureTest, TheEmptyPictureClearsPictureAndFile) {
@@ -329,56 +231,6 @@ TEST_F(PictureTest, AFailedThumbnailLeavesTheSubstitute) {
     EXPECT_EQ(Shown(), "owner0");
     EXPECT_EQ(slide.Img.Width(), 32);
     EXPECT_TRUE(slide.Img.Visible());
-}
-
-// --- Thumbnails ---
-
-TEST_F(PictureTest, ALargeBitmapIsShownThroughAThumbnailWhenAsked) {
-    slide.SetPicture(Bitmap(300, 150));
-    EXPECT_EQ(Shown(), "bitmap");
-    slide.SetThumbnail(true);
-    slide.SetPicture(Bitmap(300, 150));
-    EXPECT_EQ(LoadsAndEvents(), "resize bitmap 150x75\n");
-    EXPECT_EQ(Shown(), "resized:bitmap");
-    EXPECT_EQ(slide.ImageWidth(), 300);
-    EXPECT_EQ(slide.Img.Width(), 146);
-}
-
-TEST_F(PictureTest, ABitmapThatFitsIsNotReduced) {
-    slide.SetThumbnail(true);
-    slide.SetPicture(Bitmap(146, 86));
-    EXPECT_EQ(Shown(), "bitmap");
-    slide.SetPicture(Bitmap(20, 87));
-    EXPECT_EQ(Shown(), "resized:bitmap");
-}
-
-TEST_F(PictureTest, APictureThatIsNoBitmapIsNeverReduced) {
-    slide.SetThumbnail(true);
-    const Picture icon = FakePictures::Make("icon", 300, 300, PictureType::Icon);
-    slide.SetPicture(icon);
-    EXPECT_EQ(Shown(), "icon");
-    EXPECT_EQ(slide.Thumb(icon), icon);
-    EXPECT_EQ(LoadsAndEvents(), "");
-}
-
-TEST_F(PictureTest, ThumbTakesTheSlidesOwnSizeOrTheOneGiven) {
-    EXPECT_EQ(NameOf(*slide.Thumb(Bitmap(300, 150))), "resized:bitmap");
-    slide.SetThumbnailResolution(DiapoThumbResolution::ThumbResolutionHigh);
-    slide.Thumb(Bitmap(300, 150));
-    slide.Thumb(Bitmap(300, 150), 100);
-    slide.Thumb(Bitmap(150, 300), 100);
-    EXPECT_EQ(LoadsAndEvents(),
-              "resize bitmap 150x75\nresize bitmap 500x250\nresize bitmap 100x50\nresize bitmap 50x100\n");
-}
-
-TEST_F(PictureTest, ThumbOfTheEmptyPictureIsNothing) {
-    EXPECT_FALSE(slide.Thumb(Picture{}).has_value());
-    EXPECT_EQ(LoadsAndEvents(), "");
-}
-
-TEST_F(PictureTest, ThumbOfNoSizeFailsAndIsReported) {
-    EXPECT_FALSE(slide.Thumb(Bitmap(300, 150), 0).has_value());
-    EXPECT_EQ(LoadsAndEvents(), "resize bitmap 0x0\nslide Error 481 [Image incorrecte] Vorlane 0 [DpLight Thumb ]\n");
 }
 
 // --- Failures ---

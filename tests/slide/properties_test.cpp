@@ -6,10 +6,7 @@
 namespace vorlane::headless {
 namespace {
 
-class PropertiesTest : public SlideTest {
-protected:
-    PropertiesTest() { Lay(160, 140); }
-};
+class PropertiesTest : public LaidSlideTest {};
 
 struct Setting {
     const char* key;
@@ -52,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Set("BackColor", &S::SetBackColor, OLE_COLOR{0x123456}),
                     Set("BorderColor", &S::SetBorderColor, OLE_COLOR{0x123456}),
                     Set("BorderColorExt", &S::SetBorderColorExt, OLE_COLOR{0x123456}),
-                    Set("BorderDouble", &S::SetBorderDouble, false), Set("BorderSize", &S::SetBorderSize, uint8_t{9}),
+                    Set("BorderDouble", &S::SetBorderDouble, true), Set("BorderSize", &S::SetBorderSize, uint8_t{9}),
                     Set("BorderStyle", &S::SetBorderStyle, DiapoBorderStyle::BorderRaised),
                     Set("BorderStyleExt", &S::SetBorderStyleExt, DiapoBorderStyle::BorderRaised),
                     Set("CaptionBottomNbLig", &S::SetCaptionBottomNbLig, int16_t{1}),

@@ -78,14 +78,6 @@ class SlideTest : public testing::Test {
 protected:
     SlideTest() { Listen(desktop.trace, slide); }
 
-    // A new slide of that size, laid out.
-    void Lay(double width, double height) {
-        slide.Start();
-        slide.Move(0, 0, width, height);
-        slide.Refresh();
-        desktop.trace.Clear();
-    }
-
     // The owner answers every request with a picture of its own, "owner<index>" of that size.
     void OwnAnswers(int32_t width = 32, int32_t height = 32) {
         slide.Events.SetPicture.connect([=](DiapoPictureIndex index, vorlane::Picture& picture, bool) {
@@ -108,6 +100,22 @@ protected:
 
     Desktop desktop;
     eDiapoLight slide{desktop.Roles(), Ambient{}};
+};
+
+// A slide of 160 x 140 with two lines of shadow and single frames. Its area takes pictures of 146 x 86 from 9, 10 on.
+class LaidSlideTest : public SlideTest {
+protected:
+    LaidSlideTest() {
+        slide.Start();
+        slide.Move(0, 0, 160, 140);
+        slide.SetBorderDouble(false);
+        slide.SetShadowWidth(2);
+        slide.Refresh();
+        desktop.trace.Clear();
+    }
+
+    std::string LoadsAndEvents() { return desktop.trace.Take({"load", "resize", "slide"}); }
+    std::string Shown() const { return NameOf(slide.Picture()); }
 };
 
 }  // namespace vorlane::headless
