@@ -3,6 +3,7 @@
 // otherwise.
 #pragma once
 
+#include "platform/headless/fakeforms.h"
 #include "platform/headless/roles.h"
 
 #include <functional>
@@ -32,6 +33,8 @@ public:
     FakePictures pictures{trace};
     FakeSounds sounds;
     FakeTexts texts;
+    FakeForms forms{trace, windows};
+    FakeFilms films{trace};
 
     std::function<void(const std::string& leaks)> OnLeak;
 };
