@@ -163,6 +163,31 @@ void ReadScattered(benchmark::State& state) {
 }
 BENCHMARK(ReadScattered)->Name("List(i), anywhere");
 
+// What the memory itself costs: the same with one string an item.
+void ReadStrings(benchmark::State& state) {
+    std::vector<std::string> strings;
+    for (int32_t i = 0; i < kItems; ++i) strings.push_back(ItemText(i));
+    const auto indices = Scattered(100'000, kItems);
+    size_t next = 0;
+    for (auto _ : state) {
+        std::string text = strings[static_cast<size_t>(indices[next])];
+        benchmark::DoNotOptimize(text);
+        if (++next == indices.size()) next = 0;
+    }
+}
+BENCHMARK(ReadStrings)->Name("  beside it: std::vector<std::string>, anywhere");
+
+void ReadScreens(benchmark::State& state) {
+    const MemoryListBox& list = SharedList();
+    const auto indices = Scattered(100'000, list.ListCount() - 36);
+    size_t next = 0;
+    for (auto _ : state) {
+        for (int32_t i = 0; i < 36; ++i) benchmark::DoNotOptimize(list.List(indices[next] + i));
+        if (++next == indices.size()) next = 0;
+    }
+}
+BENCHMARK(ReadScreens)->Name("List(i) to List(i + 35), anywhere");
+
 void ReadAllTexts(benchmark::State& state) {
     const MemoryListBox& list = SharedList();
     for (auto _ : state) {

@@ -149,12 +149,5 @@ TEST_F(FileList, RefusesIndicesOutsideTheList) {
     EXPECT_EQ(list.ListIndex(), -1);
 }
 
-TEST_F(FileList, ListsThousandsOfFiles) {
-    for (int i = 0; i < 3'000; ++i) folder.File("img " + std::to_string(10'000 + i) + ".jpg");
-    list.SetPath(folder.Path());
-    ASSERT_EQ(list.ListCount(), 3'000);
-    EXPECT_EQ(list.List(2'345), "img 12345.jpg");
-}
-
 }  // namespace
 }  // namespace vorlane
