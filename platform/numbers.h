@@ -3,6 +3,7 @@
 // overflow failure. Nothing else in the library casts a real number to an integer.
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <type_traits>
 
@@ -18,6 +19,20 @@ double Int(double value);
 int16_t ToInt16(double value);
 int32_t ToInt32(double value);
 uint8_t ToByte(double value);
+
+// The same for whole numbers; from 2^53 on they lose digits, but never their way out of range.
+template <std::integral Number>
+int16_t ToInt16(Number value) {
+    return ToInt16(static_cast<double>(value));
+}
+template <std::integral Number>
+int32_t ToInt32(Number value) {
+    return ToInt32(static_cast<double>(value));
+}
+template <std::integral Number>
+uint8_t ToByte(Number value) {
+    return ToByte(static_cast<double>(value));
+}
 
 // The smaller and the larger of two numbers of any numeric types, in their common type; signed and unsigned operands
 // of up to 32 bits meet in a 64-bit integer, so that no sign is lost.
