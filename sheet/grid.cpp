@@ -41,8 +41,8 @@ int16_t PoolSize(int16_t columns, int16_t rows) {
 Spread ComputeSpread(const Area& area, int16_t columns, int16_t rows, double slideWidth, double slideHeight,
                      int16_t minGap, bool autoAdjust) {
     if (!autoAdjust) return {minGap, minGap, ToInt16(area.StartX), ToInt16(area.StartY)};
-    const double freeX = area.Width - columns * slideWidth;
-    const double freeY = area.Height - rows * slideHeight;
+    const double freeX = area.AreaWidth - columns * slideWidth;
+    const double freeY = area.AreaHeight - rows * slideHeight;
     return {ToInt16(Max(Int(Quotient(freeX, columns)), minGap)), ToInt16(Max(Int(Quotient(freeY, rows)), minGap)),
             ToInt16(Max(Int(Quotient(freeX, columns + 1)), area.StartX)),
             ToInt16(Max(Int(Quotient(freeY, rows + 1)), area.StartY))};

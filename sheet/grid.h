@@ -25,10 +25,10 @@ struct Frame {
 
 // Where the cells go, the extra row or column included.
 struct Area {
-    float StartX = 0;
+    float StartX = 0;  // left and top of the first cell before spreading
     float StartY = 0;
-    float Width = 0;
-    float Height = 0;
+    float AreaWidth = 0;
+    float AreaHeight = 0;
 };
 
 // The gaps between the cells and the place of the first one. The gap divides the free room by the count, the first

@@ -30,28 +30,28 @@ TEST(Grid, AreaLeavesOutBarAndMarginsAndAddsOneRow) {
     const Area area = ComputeArea(Usual(), 5);
     EXPECT_EQ(area.StartX, 5);
     EXPECT_EQ(area.StartY, 5);
-    EXPECT_EQ(area.Width, 614);
-    EXPECT_EQ(area.Height, 545);
+    EXPECT_EQ(area.AreaWidth, 614);
+    EXPECT_EQ(area.AreaHeight, 545);
 }
 
 TEST(Grid, AreaOfASidewaysSheetAddsOneColumnAndTakesTheBarsWidthOffItsHeight) {
     const Area area = ComputeArea(Sideways(), 5);
-    EXPECT_EQ(area.Width, 640 - 10 + 100);
-    EXPECT_EQ(area.Height, 480 - 640 - 10);
+    EXPECT_EQ(area.AreaWidth, 640 - 10 + 100);
+    EXPECT_EQ(area.AreaHeight, 480 - 640 - 10);
 }
 
 TEST(Grid, AreaOfAnUnknownDirectionAddsAColumnAndHasNoBar) {
     Frame frame = Sideways();
     frame.Direction = static_cast<ScrollDirectionType>(7);
     const Area area = ComputeArea(frame, 5);
-    EXPECT_EQ(area.Width, 730);
-    EXPECT_EQ(area.Height, 470);
+    EXPECT_EQ(area.AreaWidth, 730);
+    EXPECT_EQ(area.AreaHeight, 470);
 }
 
 TEST(Grid, UsualSheetHasFiveColumnsAndSixRows) {
     const Area area = ComputeArea(Usual(), 5);
-    EXPECT_EQ(CountThatFit(area.Width, 100, 5), 5);
-    EXPECT_EQ(CountThatFit(area.Height, 75, 5), 6);
+    EXPECT_EQ(CountThatFit(area.AreaWidth, 100, 5), 5);
+    EXPECT_EQ(CountThatFit(area.AreaHeight, 75, 5), 6);
     EXPECT_EQ(PoolSize(5, 6), 30);
 }
 

@@ -1,0 +1,83 @@
+// The sheet's grid: what is computed from its present size and slides.
+#include "platform/numbers.h"
+#include "sheet/vorlane.h"
+
+namespace vorlane {
+
+namespace {
+
+constexpr double kHeightByWidth = 0.76;  // of a slide
+
+}  // namespace
+
+grid::Frame Vorlane::Frame() const {
+    return {ScaleWidth(),      ScaleHeight(),        VScroll.Width(), VScroll.Height(),
+            VScroll.Visible(), bar_.ScrollDirection, First().Width(), First().Height()};
+}
+
+void Vorlane::ComputeArea() {
+    grid_.Area = grid::ComputeArea(Frame(), grid_.Marges);
+}
+
+int16_t Vorlane::ComputeCountX() const {
+    return grid::CountThatFit(grid_.Area.AreaWidth, First().Width(), grid_.MargeDiapoMin);
+}
+
+int16_t Vorlane::ComputeCountY() const {
+    if (bar_.ScrollDirection == ScrollDirectionType::sdHorizontal) return 1;
+    return grid::CountThatFit(grid_.Area.AreaHeight, First().Height(), grid_.MargeDiapoMin);
+}
+
+int16_t Vorlane::RowLength() const {
+    return bar_.ScrollDirection == ScrollDirectionType::sdVertical ? grid_.CountDiapoX : grid_.CountDiapoY;
+}
+
+int16_t Vorlane::RowCount() const {
+    return bar_.ScrollDirection == ScrollDirectionType::sdVertical ? grid_.CountDiapoY : grid_.CountDiapoX;
+}
+
+// Gives the gaps to the grid and the place of the first cell back.
+grid::Spread Vorlane::SpreadCells(double slideWidth, double slideHeight) {
+    const grid::Spread spread = grid::ComputeSpread(grid_.Area, grid_.CountDiapoX, grid_.CountDiapoY, slideWidth,
+                                                    slideHeight, grid_.MargeDiapoMin, grid_.MargeDiapoAutoAdjust);
+    grid_.MargeX = spread.MargeX;
+    grid_.MargeY = spread.MargeY;
+    return spread;
+}
+
+int16_t Vorlane::GetDiapoFromCol(float& x, float& y, bool& rightPart) {
+    const auto find = [&] {
+        const int16_t cell = grid::CellAt(Frame(), grid_.CountDiapoX, grid_.CountDiapoY, x, y);
+        const int16_t index = ToInt16(Min(cell, Diapo.Count() - 1));
+        const auto slide = Diapo.Item(index);
+        if (First().Picture().Handle() != 0) rightPart = x - slide->Left() > First().Width() / 2;
+        x -= Max(0.0F, slide->Left());
+        y -= Max(0.0F, slide->Top());
+        return index;
+    };
+    return Guard(int16_t{0}, find, "GetDiapoFromCol", x, y, rightPart);
+}
+
+int16_t Vorlane::DiapoWidth(bool withInterval) const {
+    return ToInt16(First().Width() + (withInterval ? grid_.MargeX : 0));
+}
+
+int16_t Vorlane::DiapoHeight(bool withInterval) const {
+    return ToInt16(First().Height() + (withInterval ? grid_.MargeY : 0));
+}
+
+void Vorlane::SetDiapoWidth(int16_t width) {
+    if (width == First().Width()) return;
+    First().SetWidth(width);
+    DiapoSizeChange(true, width, ToInt16(width * kHeightByWidth));
+    PropertyChanged("DiapoWidth");
+}
+
+void Vorlane::SetDiapoHeight(int16_t height) {
+    if (height == First().Height()) return;
+    First().SetHeight(height);
+    DiapoSizeChange(true, ToInt16(First().Width()), height);
+    PropertyChanged("DiapoHeight");
+}
+
+}  // namespace vorlane

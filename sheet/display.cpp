@@ -1,0 +1,267 @@
+// The display pipeline: one synchronous pass puts a run of list items on slides. Whatever it calls may lead back into
+// the sheet, so it looks at the slides and the list afresh behind every such call.
+#include "platform/numbers.h"
+#include "platform/trelmic6.h"
+#include "sheet/hourglass.h"
+#include "sheet/vorlane.h"
+
+namespace vorlane {
+
+// --- Where to start ---
+
+int16_t Vorlane::StartLecture(const std::string& startImageName, int32_t diapoKey) {
+    const auto start = [&]() -> int16_t {
+        ComputeArea();
+        if (diapoKey < 0 && diapoKey != -1 && startImageName.empty()) return 0;
+        const std::optional<int32_t> wanted = WantedItem(startImageName, diapoKey);
+        return wanted ? PositionOn(*wanted) : FillFromTop();
+    };
+    return Guard(int16_t{0}, start, "StartLecture", startImageName, diapoKey);
+}
+
+// The item of that key; without a key the first item of that name, in any case of letters.
+std::optional<int32_t> Vorlane::WantedItem(const std::string& startImageName, int32_t diapoKey) {
+    if (diapoKey >= 0) {
+        const int32_t index = GetListIndexFromItemData(diapoKey);
+        const bool found = index >= 0 && index < ListCount();
+        return found ? std::optional(index) : std::nullopt;
+    }
+    if (startImageName.empty()) return std::nullopt;
+    const std::string wanted = Trelmic6::LowerCase(startImageName);
+    const int32_t count = ListCount();
+    for (int32_t i = 0; i < count; ++i) {
+        if (Trelmic6::LowerCase(ItemFullPath(i)) == wanted) return i;
+    }
+    return std::nullopt;
+}
+
+// Moves the bar to the item and fills from where it then stands; a bar at its end can't follow any further. A fill is
+// wanted in any case: the list may have changed, so that the looks of the slides are not worth a copy.
+int16_t Vorlane::PositionOn(int32_t listIndex) {
+    Bound().SetListIndex(listIndex);
+    InitVScroll(false);
+    bar_.JumpNext = true;
+    VScroll.SetValue(listIndex);
+    const bool moved = !std::exchange(bar_.JumpNext, false);
+    if (!moved) StartLect(VScroll.Value(), -1, -1);
+    bar_.ScrollValue = VScroll.Value();
+    return SlotFromListIndex(listIndex);
+}
+
+int16_t Vorlane::FillFromTop() {
+    Bound().SetListIndex(ListCount() > 0 ? 0 : -1);
+    InitVScroll(true);
+    bar_.ScrollValue = VScroll.Value();
+    StartLect(0, -1, -1);
+    return 0;
+}
+
+// --- The pass ---
+
+// Fills read the live token and are never stopped by it; layouts keep a copy and are.
+bool Vorlane::StartLect(int32_t start, int16_t slot, int16_t count) {
+    pass_.LectToken = random_.Next();
+    return Lect(start, slot, count);
+}
+
+bool Vorlane::Lect(int32_t start, int16_t slot, int16_t count) {
+    const auto run = [&] {
+        const int16_t pool = CountDiapo();
+        if (ListCount() <= pool) slot = 0;
+        pass_.StopLect = false;
+        VScroll.SetVisible(ListCount() > pool - RowLength());
+        pass_.FirstListIndex = start;
+        Fill fill{start, slot, count, pool, ToInt16(Max(slot, 0))};
+        const bool complete = RunFill(fill);
+        Events.DisplayEnd();
+        return complete;
+    };
+    return Guard(false, run, "Lect", start, slot, count);
+}
+
+// A stopped pass leaves the gauge where it is: a newer pass owns it.
+bool Vorlane::RunFill(Fill& fill) {
+    const Hourglass hourglass(Desktop().screen);
+    ShowGauge(true);
+    if (!MayGoOn(fill)) return false;
+    const int32_t listEnd = ToInt32(Min(ListCount() - 1, int64_t{fill.Start} + fill.Pool - 1));
+    Jauge.SetMax(fill.Count > -1 ? fill.Start + fill.Count - 1 : listEnd);
+    Jauge.SetMin(fill.Start);
+    Events.DisplayStart();
+    return FillSlots(fill);
+}
+
+bool Vorlane::MayGoOn(const Fill& fill) const {
+    return fill.Pool == CountDiapo() && pass_.FirstListIndex == fill.Start && !pass_.StopLect;
+}
+
+bool Vorlane::FillSlots(Fill& fill) {
+    const int32_t last = CountDiapo() + fill.Start - 1;
+    for (int32_t i = fill.Start; i <= last; ++i) {
+        Jauge.SetValue(i);
+        if (i > ListCount() - 1) break;
+        const Filled filled = FillSlot(fill.Cursor, i);
+        if (filled == Filled::Lost) return false;
+        if (filled == Filled::Refused) continue;
+        ++fill.Cursor;
+        if (fill.Count > -1 && fill.Cursor >= fill.Slot + fill.Count) {
+            ShowGauge(false);
+            return true;
+        }
+        if (gauge_.ShowJauge) Repaint();
+        if (!MayGoOn(fill)) return false;
+    }
+    Jauge.SetValue(Jauge.Max());
+    for (int32_t k = Diapo.Count() - 1; k >= fill.Cursor; --k) UnloadDiapo(k);
+    ShowGauge(false);
+    return true;
+}
+
+Vorlane::Filled Vorlane::FillSlot(int16_t cursor, int32_t listIndex) {
+    const std::string name = ItemFullPath(listIndex);
+    const bool missing = (cursor == 0 && pass_.NoSlideYet) || cursor > Diapo.Count() - 1;
+    if (missing) {
+        if (AddInterne(name, listIndex, false) == -1) return Filled::Refused;
+    } else {
+        Rebind(cursor, name, listIndex);
+    }
+    if (!Diapo.Loaded(cursor)) return Filled::Lost;
+    const auto slide = Diapo.Item(cursor);
+    slide->SetValue(listIndex);
+    SweepByBand(*slide);
+    return Filled::Yes;
+}
+
+void Vorlane::Rebind(int16_t cursor, const std::string& name, int32_t listIndex) {
+    const auto slide = Diapo.Item(cursor);
+    if (listIndex != selection_.CurrentListIndex) {
+        slide->SetBackColorSelected(selection_.SelectedColor);
+    } else {
+        if (slide->Selected()) {
+            slide->SetBackColorSelectedChange(selection_.BackColorCurrent);
+        } else {
+            slide->SetBackColorSelected(selection_.BackColorCurrent);
+        }
+        selection_.CurrentSlot = cursor;
+    }
+    slide->SetSelected(Bound().Selected(listIndex));
+    slide->SetNoResize(false);
+    slide->SetVisible(true);
+    slide->SetValue(listIndex);
+    if (SetDiapoPicture(cursor, name)) Events.Added(cursor, name);
+}
+
+// A slide that comes to show while the rubber band runs takes part in its selection.
+void Vorlane::SweepByBand(eDiapoLight& slide) const {
+    if (!selection_.BandActive) return;
+    if (!grid::BandTouches(SelRect.Bounds(), {slide.Col(), slide.Lig(), slide.Width(), slide.Height()})) return;
+    slide.SetBackColorSelected(selection_.SelectedColor);
+    slide.SetSelected(true);
+    slide.SetSelectedTmp(true);
+}
+
+// --- One slide ---
+
+// Makes the next slide of the grid for a file; a blank sheet uses slide 0. Gives its index, also when a handler has
+// unloaded it meanwhile; -1 when the pool is full or the host refuses the file.
+int16_t Vorlane::AddInterne(const std::string& imageName, int32_t listIndex, bool silent) {
+    const auto add = [&]() -> int16_t {
+        const bool blank = First().Picture().Handle() == 0;
+        if (!blank && Diapo.Count() >= CountDiapo()) {
+            InitVScroll(false);
+            return -1;
+        }
+        const NextCell cell = FindNextCell(blank);
+        std::string name = imageName;
+        if (Refused(name)) return -1;
+        const int16_t index = blank ? int16_t{0} : LoadFor(listIndex);
+        const auto slide = Diapo.Item(index);
+        slide->SetCol(cell.X);
+        slide->SetLig(cell.Y);
+        slide->Move(cell.X, cell.Y, First().Width(), First().Height());
+        if (SetDiapoImage(index, name, listIndex) && !silent) {
+            slide->SetVisible(true);
+            Events.Added(index, name);
+        }
+        First().SetNoResize(false);
+        pass_.NoSlideYet = false;
+        InitVScroll(false);
+        return index;
+    };
+    return Guard(int16_t{-1}, add, "AddInterne", imageName, listIndex, silent);
+}
+
+// Whether the host refuses the file, whose name it may change.
+bool Vorlane::Refused(std::string& imageName) {
+    bool cancel = false;
+    Events.BeforeAdd(imageName, Trelmic6::LowerCase(Trelmic6::FilePart(imageName, 3)), cancel);
+    return cancel;
+}
+
+// The place behind the last slide. Without spreading, rows after the first start at the very left edge; the next
+// layout of all slides puts them right.
+Vorlane::NextCell Vorlane::FindNextCell(bool blank) {
+    const auto last = Last();
+    const grid::Area& area = grid_.Area;
+    const grid::Spread spread = SpreadCells(First().Width(), First().Height());
+    const bool spreads = grid_.MargeDiapoAutoAdjust;
+    NextCell cell{last->Col(), last->Lig()};
+    if (blank) {
+        cell = spreads ? NextCell{static_cast<float>(spread.FirstLeft), static_cast<float>(spread.FirstTop)}
+                       : NextCell{area.StartX, area.StartY};
+    }
+    const float rowStart = !spreads ? 0 : blank ? cell.X : First().Col();
+    if (!blank) cell.X += First().Width() + static_cast<float>(grid_.MargeX);
+    if (First().Width() + cell.X > area.AreaWidth + area.StartX) {
+        cell = {rowStart, cell.Y + First().Height() + static_cast<float>(grid_.MargeY)};
+    }
+    return cell;
+}
+
+// Loads the next slide, blank but for the selection of its item. Slide 0 keeps still until the slide is filled.
+int16_t Vorlane::LoadFor(int32_t listIndex) {
+    First().SetNoResize(true);
+    const int16_t index = ToInt16(Diapo.Count());
+    Diapo.Load(index);
+    ResetDiapo(index);
+    const auto slide = Diapo.Item(index);
+    slide->SetBackColorSelected(selection_.SelectedColor);
+    if (listIndex <= -1) return index;
+    if (listIndex == selection_.CurrentListIndex) slide->SetBackColorSelected(selection_.BackColorCurrent);
+    slide->SetSelected(Bound().Selected(listIndex));
+    return index;
+}
+
+// Both give whether the slide is still there.
+bool Vorlane::SetDiapoImage(int16_t slot, const std::string& imageName, int32_t listIndex) {
+    const auto slide = Diapo.Item(slot);
+    slide->SetNoResize(false);
+    const double longest = Max(slide->Width(), slide->Height());
+    slide->SetThumbnailSizeNormal(ToInt16(Max(longest, thumbnailSizeNormal_)));
+    if (listIndex > -1) slide->SetValue(listIndex);
+    return imageName.empty() || SetDiapoPicture(slot, imageName);
+}
+
+bool Vorlane::SetDiapoPicture(int16_t slot, const std::string& imageName) {
+    if (Diapo.Item(slot)->ImageFullPath() == imageName) return true;
+    vorlane::Picture picture;
+    bool haveSound = false;
+    bool haveComment = false;
+    bool haveTexte = false;
+    bool invalidMusic = false;
+    bool invalidCom = false;
+    Events.BeforeSetPicture(slot, imageName, picture, haveSound, haveComment, haveTexte, invalidMusic, invalidCom);
+    if (!Diapo.Loaded(slot)) return false;
+    const auto slide = Diapo.Item(slot);
+    slide->SetOnGetThumb(true);
+    slide->SetHaveInvalidMusic(invalidMusic);
+    slide->SetHaveSoundMusic(haveSound);
+    slide->SetHaveInvalidComm(invalidCom);
+    slide->SetHaveSoundComment(haveComment);
+    slide->SetHaveTexte(haveTexte);
+    slide->SetOnGetThumb(false);
+    slide->PictureByString(imageName, picture, true);
+    return Diapo.Loaded(slot);
+}
+
+}  // namespace vorlane

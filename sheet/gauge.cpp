@@ -1,0 +1,78 @@
+// The gauge of a fill: in the lower right corner beside the bar, at once or sliding in and out.
+#include "platform/numbers.h"
+#include "sheet/vorlane.h"
+
+namespace vorlane {
+
+namespace {
+
+constexpr float kSlidingWidth = 200;  // at most
+constexpr float kSlidingHeight = 15;
+constexpr float kSlidingGap = 2;    // at its right
+constexpr int32_t kStepPause = 10;  // milliseconds
+
+constexpr int32_t kInvalidate = 1;
+constexpr int32_t kNoChildren = 64;
+constexpr int32_t kUpdateNow = 256;
+
+WinRect ToWinRect(const Box& box) {
+    return {ToInt32(box.Left), ToInt32(box.Top), ToInt32(box.Right()), ToInt32(box.Bottom())};
+}
+
+}  // namespace
+
+// --- Repainting at once ---
+
+void Vorlane::Repaint() {
+    Desktop().windows.RedrawWindow(Hwnd(), ToWinRect({0, 0, ScaleWidth(), ScaleHeight()}), kUpdateNow | kInvalidate);
+}
+
+// The slide's width and height stand in the places of right and bottom.
+void Vorlane::RepaintSlide(const eDiapoLight& slide) {
+    const WinRect part{ToInt32(slide.Left()), ToInt32(slide.Top()), ToInt32(slide.Width()), ToInt32(slide.Height())};
+    Desktop().windows.RedrawWindow(Hwnd(), part, kUpdateNow | kNoChildren);
+}
+
+// --- The gauge ---
+
+// The corner of what the bar leaves free, as the size from the sheet's own corner.
+Box Vorlane::GaugeArea() const {
+    const bool below = bar_.ScrollDirection == ScrollDirectionType::sdHorizontal && VScroll.Visible();
+    const bool beside = bar_.ScrollDirection == ScrollDirectionType::sdVertical && VScroll.Visible();
+    return {0, 0, ScaleWidth() - (beside ? VScroll.Width() : 0), ScaleHeight() - (below ? VScroll.Height() : 0)};
+}
+
+void Vorlane::ShowGauge(bool show) {
+    if (!gauge_.ShowJauge) return;
+    if (gauge_.JaugeAnimation) {
+        if (show != Jauge.Visible()) show ? SlideGaugeIn() : SlideGaugeOut();
+        return;
+    }
+    const Box area = GaugeArea();
+    if (show) Jauge.Move(area.Right() - Jauge.Width(), area.Bottom() - Jauge.Height());
+    Jauge.SetVisible(show);
+}
+
+void Vorlane::SlideGaugeIn() {
+    const Box area = GaugeArea();
+    Jauge.SetMin(0);
+    Jauge.SetValue(0);
+    const float start = area.Bottom() + 1;
+    Jauge.Move(area.Right() - Jauge.Width() - kSlidingGap, start, Min(kSlidingWidth, area.Right()), kSlidingHeight);
+    Jauge.SetVisible(true);
+    for (float top = start; top >= area.Bottom() - Jauge.Height(); top -= 1) StepGauge(area, top);
+}
+
+void Vorlane::SlideGaugeOut() {
+    const Box area = GaugeArea();
+    for (float top = Jauge.Top(); top <= area.Bottom() + 1; top += 1) StepGauge(area, top);
+    Jauge.SetVisible(false);
+}
+
+void Vorlane::StepGauge(const Box& area, float top) {
+    Jauge.Move(area.Right() - Jauge.Width() - kSlidingGap, top);
+    Desktop().windows.RedrawWindow(Hwnd(), ToWinRect(Jauge.Bounds()), kUpdateNow | kNoChildren);
+    Desktop().clock.Sleep(kStepPause);
+}
+
+}  // namespace vorlane

@@ -1,0 +1,107 @@
+// The sheet from its making to its end.
+#include "sheet/vorlane.h"
+
+#include <cmath>
+#include <vector>
+
+namespace vorlane {
+
+namespace {
+
+constexpr int32_t kSoundInterval = 1000;  // milliseconds
+constexpr int32_t kDragInterval = 10;
+constexpr int32_t kResizeInterval = 1;
+constexpr int32_t kUnloadInterval = 100;
+
+// A number for the n-th list of the sheet in that window, which no list of the host's should bear.
+Hwnd ListHandle(Hwnd window, uint32_t n) {
+    return static_cast<Hwnd>(0x80000000U | ((static_cast<uint32_t>(window) + n * 0x20000000U) & 0x7FFFFFFFU));
+}
+
+ImageList PicturesOf(const Desktop& desktop, std::initializer_list<Artwork> artworks) {
+    ImageList list;
+    for (const Artwork artwork : artworks) list.Add(desktop.pictures.Get(artwork));
+    return list;
+}
+
+}  // namespace
+
+Vorlane::Vorlane(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, UserControl* container)
+    : UserControl(desktop, ambient, container),
+      LstInterne(ListHandle(ambient.Window, 1)),
+      FileInterne(ListHandle(ambient.Window, 2)),
+      TmpFile(ListHandle(ambient.Window, 3)),
+      ImgLst(PicturesOf(desktop, {Artwork::FileSubstitute, Artwork::FileSound, Artwork::FileVideo,
+                                  Artwork::FileDocument, Artwork::FileOther})),
+      ImgLstBtPlay(PicturesOf(desktop, {Artwork::Play, Artwork::Stop, Artwork::PlayMusic, Artwork::PlayComment,
+                                        Artwork::ShowText, Artwork::SoundMissing})),
+      TimerSon(desktop.clock, kSoundInterval),
+      TimerDrag(desktop.clock, kDragInterval),
+      TimerResize(desktop.clock, kResizeInterval),
+      TimerUnload(desktop.clock, kUnloadInterval),
+      Diapo([this](int32_t index) { return MakeSlide(index); }),
+      random_(desktop.clock.Now()) {
+    for (Control* child : std::initializer_list<Control*>{&Txt, &ImgDrag, &Jauge, &SelRect}) child->SetVisible(false);
+    VScroll.SetOrientation(Orientation::Vertical);
+    VScroll.SetAlign(vorlane::Align::Right);
+    items_.Liste = &LstInterne;
+    for (const PersistedProperty& property : PersistedProperties()) property.Read(*this, PropertyBag{});
+    selection_.SelectedColor = First().BackColorSelected();
+
+    Diapos.iItem.connect([this](int16_t index, std::shared_ptr<eDiapoLight>& slide) { slide = Diapo.Item(index); });
+    VScroll.Change.connect([this](int32_t value) { BarChanged(value); });
+    TimerResize.Tick.connect([this] { Attempt([this] { ResizeTick(); }); });
+    TimerUnload.Tick.connect([this] { Attempt([this] { UnloadTick(); }); });
+}
+
+Vorlane::~Vorlane() {
+    Terminate();
+}
+
+void Vorlane::Terminate() {
+    items_.Liste = nullptr;
+    for (Timer* timer : {&TimerDrag, &TimerResize, &TimerSon, &TimerUnload}) timer->SetEnabled(false);
+}
+
+// A new sheet has the defaults of its properties, but shows thumbnails and leaves their least size open.
+void Vorlane::InitProperties() {
+    First().SetThumbnail(true);
+    First().SetThumbnailResolution(DiapoThumbResolution::ThumbResolutionNormal);
+    thumbnailSizeNormal_ = 0;
+    Begin();
+}
+
+// A value that can't be read leaves its property as it was.
+void Vorlane::ReadProperties(const PropertyBag& bag) {
+    for (const PersistedProperty& property : PersistedProperties()) {
+        Attempt([&] { property.Read(*this, bag); });
+    }
+    Begin();
+}
+
+void Vorlane::Begin() {
+    selection_.SelectedColor = First().BackColorSelected();
+    if (Ambient().UserMode) First().SetVisible(false);  // the template shows in a designer only
+    layout_.Ready = true;
+}
+
+void Vorlane::WriteProperties(PropertyBag& bag) const {
+    for (const PersistedProperty& property : PersistedProperties()) {
+        Attempt([&] { bag.Write(property.Key, property.Value(*this), property.Default(*this)); });
+    }
+}
+
+void Vorlane::Show() {
+    layout_.NotShown = false;
+}
+
+bool Vorlane::Wheel(double notches) {
+    if (!VScroll.Visible()) return false;
+    double whole = 0;
+    bar_.WheelRest = std::modf(bar_.WheelRest + notches, &whole);
+    const double wanted = VScroll.Value() - whole * VScroll.SmallChange();
+    VScroll.SetValue(ToInt32(Min(Max(wanted, VScroll.Min()), VScroll.Max())));
+    return true;
+}
+
+}  // namespace vorlane

@@ -1,0 +1,112 @@
+// Scrolling over the pool: one step copies the looks of the slides by a row and reads only the new row; a longer way
+// binds all slides anew. A bar value is the list index that slide 0 should show.
+#include "platform/numbers.h"
+#include "sheet/hourglass.h"
+#include "sheet/vorlane.h"
+
+#include <cstdlib>
+#include <limits>
+
+namespace vorlane {
+
+// The last value shows the list's end in the rows that fit, with the extra row empty. After a failure the bar stays
+// dead until this succeeds.
+void Vorlane::InitVScroll(bool reset) {
+    const auto init = [&] {
+        bar_.InVScrollInit = true;
+        if (reset) {
+            VScroll.SetValue(0);
+            bar_.ScrollValue = -1;
+        }
+        const int32_t row = RowLength();
+        const int32_t count = ListCount();
+        VScroll.SetSmallChange(row);
+        VScroll.SetLargeChange(CountDiapo() - row);
+        VScroll.SetMax(ToInt32(Max(VScroll.Min(), int64_t{row} + count - CountDiapo())));
+        VScroll.SetVisible(count > CountDiapo() - row);
+        bar_.InVScrollInit = false;
+    };
+    GuardVoid(init, "InitVScroll", reset);
+}
+
+void Vorlane::BarChanged(int32_t value) {
+    const auto change = [&] {
+        if (bar_.InVScrollInit) return;
+        const bool jump = std::exchange(bar_.JumpNext, false);
+        if (!jump && value == bar_.ScrollValue) return;
+        const int64_t distance = int64_t{value} - bar_.ScrollValue;
+        MoveCurrentSlot(distance);
+        bool complete = false;
+        if (!jump && std::abs(distance) <= VScroll.SmallChange()) {
+            const bool back = distance <= 0;
+            if (back ? First().Value() == 0 : AtListEnd()) return;
+            complete = Scroll(back ? 1 : 0);
+        } else {
+            complete = Jump(value);
+        }
+        Events.Scroll(value, bar_.ScrollValue);
+        if (complete) bar_.ScrollValue = value;
+    };
+    GuardVoid(change, "VScroll_Change", value);
+}
+
+// The current slide moves with the list; above the first slide it drops off.
+void Vorlane::MoveCurrentSlot(int64_t distance) {
+    const int64_t slot = Max(-1, CurrentDiapo() - distance);
+    selection_.CurrentSlot = ToInt16(Min(slot, std::numeric_limits<int16_t>::max()));
+}
+
+bool Vorlane::Jump(int32_t value) {
+    const int16_t current = CurrentDiapo();
+    if (current > -1) Diapo.Item(current)->SetBackColorSelectedChange(selection_.SelectedColor);
+    return StartLect(value, -1, -1);
+}
+
+// Whether the last slide fits and stands for the place behind the list's last item.
+bool Vorlane::AtListEnd() const {
+    const auto last = Last();
+    const bool fits = bar_.ScrollDirection == ScrollDirectionType::sdVertical
+                          ? grid_.Area.AreaHeight - First().Height() >= last->Top() + last->Height()
+                          : grid_.Area.AreaWidth - First().Width() >= last->Left() + last->Width();
+    return fits && ListCount() == last->Value();
+}
+
+bool Vorlane::Scroll(int16_t up) {
+    return Guard(
+        false, [&] { return up == 0 ? ScrollForward() : ScrollBack(); }, "Scroll", up);
+}
+
+bool Vorlane::ScrollForward() {
+    if (AtListEnd()) return false;
+    const int16_t row = RowLength();
+    const int32_t next = Last()->Value() + 1;
+    if (RowCount() > 1) {
+        const Hourglass hourglass(Desktop().screen);
+        const auto copies = ToInt16(Max(Diapo.Count() - 1 - row, 0));
+        for (int16_t k = 0; k <= copies; ++k) CopyDiapo(ToInt16(k + row), k);
+        const int32_t end = Diapo.Count();
+        const bool nothingLeft = ListCount() == next;
+        for (int32_t k = end - row; k < end; ++k) nothingLeft ? UnloadDiapo(k) : ResetDiapo(k);
+        if (nothingLeft) return true;
+    }
+    return StartLect(next, ToInt16((RowCount() - 1) * row), row);
+}
+
+bool Vorlane::ScrollBack() {
+    const int16_t row = RowLength();
+    const auto start = ToInt32(Max(First().Value() - row, 0));
+    if (RowCount() >= 2) {
+        const Hourglass hourglass(Desktop().screen);
+        if (Diapo.Count() < row * RowCount()) {
+            for (int16_t n = 0; n < row; ++n) AddInterne("", -1, true);
+        }
+        for (auto k = ToInt16(Diapo.Count() - 1 - row); k >= 0; --k) {
+            CopyDiapo(k, ToInt16(k + row));
+            Diapo.Item(k + row)->SetVisible(true);
+        }
+        for (int32_t k = 0; k < row; ++k) ResetDiapo(k);
+    }
+    return StartLect(start, 0, row);
+}
+
+}  // namespace vorlane

@@ -1,0 +1,524 @@
+// Vorlane: the contact sheet, a list of picture files shown as a grid of slides. The list may be far longer than the
+// grid: the sheet owns a small pool of slides, as many as the grid has cells with one row (or column) more than fits,
+// and scrolling moves their looks and binds them anew. A slide's Value is the list index that it shows, and the only
+// link between the two. The list is the truth for selection and keys; the host may bind a list of its own.
+//
+// Lengths are pixels; events to the host are in the container's scale. Adding items shows nothing: StartLecture puts
+// them on slides, in one synchronous pass that calls the host at each slide. Whatever the host's handlers do to the
+// sheet meanwhile takes effect at once; a pass that finds its grid, its start or its slides changed stops.
+//
+// An operation that fails raises Error and gives 0, false or, where it gives an index, -1. Property accessors and
+// Clear fail to their caller.
+#pragma once
+
+#include "platform/controlarray.h"
+#include "platform/failure.h"
+#include "platform/filelistbox.h"
+#include "platform/imagelist.h"
+#include "platform/memorylistbox.h"
+#include "platform/ombrel.h"
+#include "platform/propertybag.h"
+#include "platform/scrollbarplus.h"
+#include "platform/shape.h"
+#include "platform/textbox.h"
+#include "platform/timer.h"
+#include "sheet/clsdiapo.h"
+#include "sheet/grid.h"
+#include "sheet/itemtext.h"
+#include "sheet/log.h"
+#include "sheet/random.h"
+#include "sheet/types.h"
+#include "slide/ediapolight.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace vorlane {
+
+class Vorlane final : public UserControl {
+public:
+    // One persisted property: how it is read and written.
+    struct PersistedProperty {
+        std::string Key;
+        // The value that a missing key stands for, and that is not stored.
+        std::function<BagValue(const Vorlane&)> Default;
+        std::function<BagValue(const Vorlane&)> Value;
+        std::function<void(Vorlane&, const PropertyBag&)> Read;
+    };
+    // All of them, in the order of reading.
+    static const std::vector<PersistedProperty>& PersistedProperties();
+
+    Vorlane(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, UserControl* container = nullptr);
+    ~Vorlane() override;
+
+    // --- Life cycle ---
+    void InitProperties() override;
+    void ReadProperties(const PropertyBag& bag) override;
+    void WriteProperties(PropertyBag& bag) const override;
+    void Show() override;
+    // Ends the sheet's work: no list, no timers. Harmless when called again.
+    void Terminate();
+    void Accept(ControlVisitor& visitor) const override { visitor.Visit(*this); }
+    // Turns the bar by whole notches of one row each.
+    bool Wheel(double notches) override;
+
+    // --- Children, front to back ---
+    TextBox Txt{this};                // renames in place
+    OmbrelGradient ImgDrag{this};     // the insertion mark of a drag
+    OmbrelProgressBar Jauge{this};    // how far a fill is
+    ScrollbarPlus VScroll{this};      // the one scroll bar, at the right or at the bottom
+    Shape SelRect{this};              // the rubber band
+    MemoryListBox LstInterne;         // the sheet's own list
+    FileListBox FileInterne;          // reads a folder for the sheet's own list
+    FileListBox TmpFile;              // reads a dropped folder
+    ImageList ImgLst;                 // what stands for a file: substitute, sound, video, document, other
+    ImageList ImgLstBtPlay;           // buttons: play, stop, play music, play comment, show text, sound missing
+    Timer TimerSon;                   // polls the sounds
+    Timer TimerDrag;                  // moves a drag on
+    Timer TimerResize;                // the layout that a resize has put off
+    Timer TimerUnload;                // unloads surplus slides
+    ControlArray<eDiapoLight> Diapo;  // the pool; slide 0 is always there, the template and the measure of all
+    ClsDiapo Diapos;                  // the slides by index, for hosts
+
+    // --- Items ---
+    // Adds a file, at the end or in front of list index insertBefore. Key -1 becomes the item's index. Gives the index
+    // of the new item; 0 when nothing was added.
+    int32_t Add(const std::string& imageName, const std::string& multipleDataSort, int32_t key = -1,
+                int32_t insertBefore = -1);
+    // Unloads the slides and empties the sheet's own list; a list of the host's keeps its items.
+    void Clear();
+    // Clear and StartLecture: shows a host's list anew, and leaves an empty sheet otherwise.
+    void Refresh();
+    // Binds a list: newList, which must outlive its use here, or the sheet's own one that mode names. A path or a
+    // pattern that is not empty is set; without stdSortArgs (a sum of SortArgsType) the last ones stay.
+    void InitListe(ListeModeType mode, ListControl* newList = nullptr, const std::string& newPath = {},
+                   const std::string& newPattern = {}, std::optional<int32_t> stdSortArgs = {});
+    // List index of the item with that key, -1 for none.
+    int32_t GetListIndexFromItemData(int32_t key);
+    // Index of the slide that shows the item with that key, -1 for none.
+    int16_t GetIndexFromKey(int32_t key) const;
+    // Key and file of the item at a list index; 0 and "" unless the list is a ListBox.
+    int32_t Key(int32_t listIndex) const;
+    std::string ImageFullPath(int32_t listIndex) const;
+
+    // --- Display ---
+    // Fills the slides from the item of that key, without a key from the first item of that file name, else from the
+    // top. Gives the index of the slide that shows the wanted item, 0 when started from the top.
+    int16_t StartLecture(const std::string& startImageName = {}, int32_t diapoKey = -1);
+    // The slide whose cell lies under a point, by equal parts of the visible size. Turns the point into that slide's
+    // coordinates; rightPart tells its half where the sheet shows slides.
+    int16_t GetDiapoFromCol(float& x, float& y, bool& rightPart);
+    // Gives all slides (dimAll) of a sheet that shows some another size, in pixels; otherwise only slide 0.
+    void DiapoSizeChange(bool dimAll, int16_t newWidth, int16_t newHeight);
+    // A reduced copy of picture, as slide 0 makes it.
+    std::optional<vorlane::Picture> Thumb(const vorlane::Picture& picture, int16_t resolution = -1) const;
+
+    // --- State ---
+    int16_t Count() const;  // items; fails with Overflow() beyond 16 bits
+    int16_t CountDiapo() const { return grid::PoolSize(grid_.CountDiapoX, grid_.CountDiapoY); }
+    int16_t CountDiapoX() const { return grid_.CountDiapoX; }
+    int16_t CountDiapoY() const { return grid_.CountDiapoY; }
+    int16_t CountAffiché() const;   // loaded slides
+    int32_t CountSelected() const;  // selected items
+    int16_t CurrentDiapo() const;   // first slide on the ground of BackColorCurrent, -1 for none
+    bool Selected(int16_t index) const { return Diapo.Item(index)->Selected(); }
+    void SetSelected(int16_t index, bool selected);
+    int32_t hDC() const { return Hwnd(); }
+    ListControl* Liste() const { return items_.Liste; }  // nullptr once the sheet has ended
+
+    // --- Properties of the sheet ---
+    const std::string& AliasMusic() const { return sound_.AliasMusic; }
+    void SetAliasMusic(const std::string& alias) { sound_.AliasMusic = alias; }
+    const std::string& AliasComment() const { return sound_.AliasComment; }
+    void SetAliasComment(const std::string& alias) { sound_.AliasComment = alias; }
+    OLE_COLOR BackColor() const { return Surface().BackColor(); }
+    void SetBackColor(OLE_COLOR color);
+    void SetBorderStyle(int32_t style);
+    void SetEnabled(bool enabled);  // of the control and of its slides
+    const std::string& CaptionWait() const { return captionWait_; }
+    void SetCaptionWait(const std::string& caption) { Store(captionWait_, caption, "CaptionWait"); }
+    // Path and Pattern do not read their folder while this is set.
+    void SetFromInit(bool fromInit) { items_.FromInit = fromInit; }
+    // Whether a folder is read into the sheet's own list.
+    bool ListAutoFill() const { return items_.ListAutoFill; }
+    void SetListAutoFill(bool fill) { Store(items_.ListAutoFill, fill, "ListAutoFill"); }
+    const std::string& Path() const { return items_.Path; }
+    void SetPath(const std::string& path);
+    const std::string& Pattern() const { return items_.Pattern; }
+    void SetPattern(const std::string& pattern);
+    // The margin around the grid, the least gap between slides, and whether gaps spread over the free room. All three
+    // take effect at the next resize.
+    int16_t Marges() const { return grid_.Marges; }
+    void SetMarges(int16_t margin) { Store(grid_.Marges, margin, "Marges"); }
+    int16_t MargeDiapoMin() const { return grid_.MargeDiapoMin; }
+    void SetMargeDiapoMin(int16_t gap) { Store(grid_.MargeDiapoMin, gap, "MargeDiapoMin"); }
+    bool MargeDiapoAutoAdjust() const { return grid_.MargeDiapoAutoAdjust; }
+    void SetMargeDiapoAutoAdjust(bool adjust) { Store(grid_.MargeDiapoAutoAdjust, adjust, "MargeDiapoAutoAdjust"); }
+    // Size of the slides, with the gap to the next one when asked for. Setting the width sets the height to 0.76 of it.
+    int16_t DiapoWidth(bool withInterval = false) const;
+    void SetDiapoWidth(int16_t width);
+    int16_t DiapoHeight(bool withInterval = false) const;
+    void SetDiapoHeight(int16_t height);
+    ScrollDirectionType ScrollDirection() const { return bar_.ScrollDirection; }
+    void SetScrollDirection(ScrollDirectionType direction);
+    // Place, width and ground of the window that follows the thumb.
+    ScrollWindowPosType ScrollWindowPos() const { return bar_.ScrollWindowPos; }
+    void SetScrollWindowPos(ScrollWindowPosType place) { Store(bar_.ScrollWindowPos, place, "ScrollWindowPos"); }
+    int16_t ScrollWindowWidth() const { return bar_.ScrollWindowWidth; }
+    void SetScrollWindowWidth(int16_t width) { Store(bar_.ScrollWindowWidth, width, "ScrollWindowWidth"); }
+    OLE_COLOR ScrollWindowBackColor() const { return bar_.ScrollWindowBackColor; }
+    void SetScrollWindowBackColor(OLE_COLOR color) {
+        Store(bar_.ScrollWindowBackColor, color, "ScrollWindowBackColor");
+    }
+    bool SelectionMultiple() const { return selection_.SelectionMultiple; }
+    void SetSelectionMultiple(bool multiple) { Store(selection_.SelectionMultiple, multiple, "SelectionMultiple"); }
+    // The ground of the last selected slide.
+    OLE_COLOR BackColorCurrent() const { return selection_.BackColorCurrent; }
+    void SetBackColorCurrent(OLE_COLOR color) { Store(selection_.BackColorCurrent, color, "BackColorCurrent"); }
+    // Whether a fill shows its gauge, and whether that slides in and out.
+    bool ShowJauge() const { return gauge_.ShowJauge; }
+    void SetShowJauge(bool show) { Store(gauge_.ShowJauge, show, "ShowJauge"); }
+    bool JaugeAnimation() const { return gauge_.JaugeAnimation; }
+    void SetJaugeAnimation(bool animate) { Store(gauge_.JaugeAnimation, animate, "JaugeAnimation"); }
+    // Whether items get sort keys and may be sorted, which way, and on which criterion they were last.
+    bool Sorted() const { return sort_.Sorted; }
+    void SetSorted(bool sorted) { Store(sort_.Sorted, sorted, "Sorted"); }
+    SortSensType SortedSens() const { return sort_.SortedSens; }
+    void SetSortedSens(SortSensType way) { Store(sort_.SortedSens, way, "SortedSens"); }
+    uint8_t SortCurrent() const { return sort_.SortCurrent; }
+    void SetSortCurrent(uint8_t criterion) { sort_.SortCurrent = criterion; }
+    static std::string SepSortArg() { return {kSepSortArg}; }
+    static std::string SepSortWithData() { return {kSepSortWithData}; }
+    // The least thumbnail size of the slides; a slide larger than this takes its own longer side.
+    int16_t ThumbnailSizeNormal() const { return thumbnailSizeNormal_; }
+    void SetThumbnailSizeNormal(int16_t size);
+    // 0 none, 1 manual, 2 automatic. The slides drag by themselves only in 2, and take drops by the sheet's hand.
+    int16_t OLEDragMode() const { return oleDragMode_; }
+    void SetOLEDragMode(int16_t mode);
+    int16_t OLEDropMode() const { return oleDropMode_; }
+    void SetOLEDropMode(int16_t mode);
+
+    // --- Properties of the slides: read from slide 0, set on all that are loaded ---
+    bool AutoAdjust() const { return First().AutoAdjust(); }
+    void SetAutoAdjust(bool adjust);
+    bool AutoCornerResize() const { return First().AutoCornerResize(); }
+    void SetAutoCornerResize(bool automatic);
+    OLE_COLOR BackColorDiapo() const { return First().BackColor(); }
+    void SetBackColorDiapo(OLE_COLOR color);
+    OLE_COLOR BackColorSelected() const { return First().BackColorSelected(); }
+    void SetBackColorSelected(OLE_COLOR color);
+    OLE_COLOR BorderColorDiapo() const { return First().BorderColor(); }
+    void SetBorderColorDiapo(OLE_COLOR color);
+    OLE_COLOR BorderColorDiapoExt() const { return First().BorderColorExt(); }
+    void SetBorderColorDiapoExt(OLE_COLOR color);
+    bool BorderDouble() const { return First().BorderDouble(); }
+    void SetBorderDouble(bool twice);
+    int16_t BorderSize() const { return First().BorderSize(); }
+    void SetBorderSize(int16_t size);  // fails with Overflow() outside a byte
+    DiapoBorderStyle BorderStyleDiapo() const { return First().BorderStyle(); }
+    void SetBorderStyleDiapo(DiapoBorderStyle style);
+    DiapoBorderStyle BorderStyleDiapoExt() const { return First().BorderStyleExt(); }
+    void SetBorderStyleDiapoExt(DiapoBorderStyle style);
+    OLE_COLOR ForeColor() const { return First().ForeColor(); }
+    void SetForeColor(OLE_COLOR color);
+    const vorlane::Font& FontImageName() const { return First().FontImageName(); }
+    void SetFontImageName(const vorlane::Font& font);
+    uint8_t ImageMarge() const { return First().ImageMarge(); }
+    void SetImageMarge(uint8_t margin);
+    const vorlane::Font& LegendeFont() const { return First().FontBottom(); }
+    void SetLegendeFont(const vorlane::Font& font);
+    int16_t LegendeNbLig() const { return First().CaptionBottomNbLig(); }
+    void SetLegendeNbLig(int16_t lines);
+    const vorlane::Picture& MouseIcon() const { return First().MouseIcon(); }
+    void SetMouseIcon(const vorlane::Picture& icon);
+    int16_t MousePointer() const { return First().MousePointer(); }
+    void SetMousePointer(int16_t shape);
+    OLE_COLOR ShadowColor() const { return First().ShadowColor(); }
+    void SetShadowColor(OLE_COLOR color);
+    int16_t ShadowWidth() const { return First().ShadowWidth(); }
+    void SetShadowWidth(int16_t width);  // fails with Overflow() outside a byte
+    bool ShowDiapoTools() const { return First().ShowDiapoTools(); }
+    void SetShowDiapoTools(bool show);
+    bool ShowShadow() const { return First().ShowShadow(); }
+    void SetShowShadow(bool show);
+    bool ShowFileName() const { return First().ShowFileName(); }
+    void SetShowFileName(bool show);
+    bool ShowInfo() const { return First().ShowInfo(); }
+    void SetShowInfo(bool show);
+    bool ShowDiapoJauge() const { return First().ShowJauge(); }
+    void SetShowDiapoJauge(bool show);
+    bool ShowZoom() const { return First().ShowZoom(); }
+    void SetShowZoom(bool show);
+    bool Thumbnail() const { return First().Thumbnail(); }
+    void SetThumbnail(bool thumbnail);
+    DiapoThumbResolution ThumbnailResolution() const { return First().ThumbnailResolution(); }
+    void SetThumbnailResolution(DiapoThumbResolution resolution);
+    int16_t ThumbnailSizeHigh() const { return First().ThumbnailSizeHigh(); }
+    void SetThumbnailSizeHigh(int16_t size);
+    const std::string& ToolTipBtPlay() const { return First().ToolTipBtPlay(); }
+    void SetToolTipBtPlay(const std::string& text);
+    const std::string& ToolTipBtComment() const { return First().ToolTipBtComment(); }
+    void SetToolTipBtComment(const std::string& text);
+    const std::string& ToolTipBtText() const { return First().ToolTipBtText(); }
+    void SetToolTipBtText(const std::string& text);
+
+    struct Events {
+        // A fill or a layout begins its work; it has ended, or was stopped. They need not pair up.
+        Event<> DisplayStart;
+        Event<> DisplayEnd;
+        // A slide is about to be made for a file: FileName, Extension, Cancel.
+        Event<std::string&, const std::string&, bool&> BeforeAdd;
+        // A slide has its file: Index, FileName.
+        Event<int16_t, const std::string&> Added;
+        // A slide is about to take a file; the host may hand over a thumbnail and the state of its sounds:
+        // Index, FileName, Picture, HaveSound, HaveComment, HaveTexte, InvalidMusic, InvalidCom.
+        Event<int16_t, const std::string&, vorlane::Picture&, bool&, bool&, bool&, bool&, bool&> BeforeSetPicture;
+        Event<int16_t, const std::string&> InvalidPicture;           // Index, FileName
+        Event<int32_t, int32_t&> Scroll;                             // Value, AsValue: the value last acted on
+        Event<> TLClear;                                             // the sheet has been cleared
+        Event<int32_t, int32_t> TraitementFeedBack;                  // Value, Max: how far a long operation is
+        Event<const std::string&, int32_t&, bool&> OLENewFileAdded;  // FileName, Key, Cancel
+        // Number, Description, Source, LastDllError, Valeur: the log line
+        Event<int32_t, const std::string&, const std::string&, int32_t, const std::string&> Error;
+    } Events;
+
+private:
+    struct Grid {
+        int16_t CountDiapoX = 0;  // columns and rows of the pool
+        int16_t CountDiapoY = 0;
+        grid::Area Area;     // as last computed
+        int16_t MargeX = 0;  // present gaps between columns and rows
+        int16_t MargeY = 0;
+        int16_t Marges = 0;
+        int16_t MargeDiapoMin = 0;
+        bool MargeDiapoAutoAdjust = false;
+    };
+    struct Items {
+        ListControl* Liste = nullptr;  // the bound list; none once the sheet has ended
+        std::string Path;
+        std::string Pattern = "*.*";
+        bool ListAutoFill = false;
+        int32_t StdSortArgs = 30;   // what sort keys hold, a sum of SortArgsType
+        bool FromInit = false;      // Path and Pattern do not read the folder
+        bool InternalCopy = false;  // LstInterne is bound and wants filling from a folder
+        bool InInitListe = false;   // InitListe is running
+    };
+    struct Pass {
+        bool NoSlideYet = true;      // no slide was ever made: the first fill makes slide 0 too
+        int32_t FirstListIndex = 0;  // where the fill started last begins
+        float LectToken = 0;         // mark of the last started fill or layout
+        bool StopLect = false;       // a running fill or layout has to stop
+    };
+    struct Bar {
+        ScrollDirectionType ScrollDirection = ScrollDirectionType::sdVertical;
+        ScrollWindowPosType ScrollWindowPos = ScrollWindowPosType::swpOutside;
+        int16_t ScrollWindowWidth = 0;
+        OLE_COLOR ScrollWindowBackColor = 0;
+        int32_t ScrollValue = 0;     // bar value last acted on
+        bool InVScrollInit = false;  // the bar is being set up: its changes are no scrolls
+        bool JumpNext = false;       // the next change of the bar fills anew, however small it is
+        double WheelRest = 0;        // notches that do not make a whole one yet
+    };
+    struct Layout {
+        bool Ready = false;     // the properties are there; no resize counts before
+        bool NotShown = true;   // the control has not come to the screen yet
+        bool Resizing = false;  // a resize or a layout is under way
+    };
+    struct Selection {
+        int16_t CurrentSlot = -1;       // the current slide, -1 for none
+        int32_t CurrentListIndex = -1;  // its item
+        OLE_COLOR SelectedColor = 0;    // ground of selected slides, as it was when the sheet started
+        OLE_COLOR BackColorCurrent = 0;
+        bool SelectionMultiple = false;
+        bool BandActive = false;  // the rubber band is running
+    };
+    struct Gauge {
+        bool ShowJauge = false;
+        bool JaugeAnimation = false;
+    };
+    struct Sort {
+        bool Sorted = false;
+        SortSensType SortedSens = SortSensType::ssNone;
+        uint8_t SortCurrent = 0;  // criterion last sorted on
+    };
+    struct Sound {
+        std::string AliasMusic;
+        std::string AliasComment;
+    };
+
+    // A fill under way.
+    struct Fill {
+        int32_t Start;   // first list index
+        int16_t Slot;    // first slide; -1 means 0
+        int16_t Count;   // slides to fill; -1 means as many as there are
+        int16_t Pool;    // pool size at its beginning
+        int16_t Cursor;  // next slide
+    };
+    enum class Filled : uint8_t { Yes, Refused, Lost };  // Lost: a handler has unloaded the slide meanwhile
+
+    // A layout under way.
+    struct Placement {
+        int16_t Wanted;  // slides to lay out
+        float Token;     // LectToken at its beginning
+        double Width;    // slide size in force
+        double Height;
+        double X;  // next place
+        double Y;
+        double RowStart;
+    };
+    enum class Placed : uint8_t { Yes, Skipped, AtEnd };
+
+    struct NextCell {
+        float X;
+        float Y;
+    };
+    struct ListItem {
+        std::string Name;
+        int32_t ListIndex;
+    };
+
+    // lifecycle.cpp
+    void Begin();
+
+    // properties.cpp
+    static std::vector<PersistedProperty> MakePersistedProperties();
+    template <class T>
+    void Store(T& field, const T& value, std::string_view key) {
+        if (field == value) return;
+        field = value;
+        PropertyChanged(key);
+    }
+    template <class Set, class Value>
+    void SetOnSlides(Set set, const Value& value) {
+        for (int32_t k = 0; k < Diapo.Count(); ++k) std::invoke(set, *Diapo.Item(k), value);
+    }
+    template <class Get, class Set, class Value>
+    void Forward(std::string_view key, Get get, Set set, const Value& value);
+
+    // log.cpp
+    // Runs an operation of the sheet; its failure raises Error with a log line of the operation and its arguments.
+    template <class Result, class Operation, class... Arguments>
+    Result Guard(Result otherwise, Operation&& operation, std::string_view name, const Arguments&... arguments) {
+        return Trap(
+            pending_, std::forward<Operation>(operation),
+            [&](const Failure& failure) { Report(failure, LogText(name, Diapo.Count(), arguments...)); }, otherwise);
+    }
+    template <class Operation, class... Arguments>
+    void GuardVoid(Operation&& operation, std::string_view name, const Arguments&... arguments) {
+        Trap(pending_, std::forward<Operation>(operation),
+             [&](const Failure& failure) { Report(failure, LogText(name, Diapo.Count(), arguments...)); });
+    }
+    void Report(const Failure& failure, const std::string& valeur);
+
+    // cells.cpp
+    grid::Frame Frame() const;
+    void ComputeArea();
+    int16_t ComputeCountX() const;
+    int16_t ComputeCountY() const;
+    int16_t RowLength() const;  // slides in one scroll step
+    int16_t RowCount() const;
+    grid::Spread SpreadCells(double slideWidth, double slideHeight);
+
+    // items.cpp
+    ListControl& Bound() const;  // fails with ObjectNotSet() once the sheet has ended
+    int32_t ListCount() const { return Bound().ListCount(); }
+    std::string ItemFullPath(int32_t index) const;
+    std::optional<ListItem> NextItem(int32_t listIndex) const;
+    bool BindList(ListeModeType mode, ListControl* newList);
+    void FolderChanged(const std::function<void(FileListBox&)>& follow);
+    void LstCopy(const std::string& path, int32_t args);
+    int32_t AddFolder(const std::string& folder, int32_t insertBefore);
+    std::string SortKey(const std::string& fileName, int32_t mask) const;
+
+    // slides.cpp
+    std::shared_ptr<eDiapoLight> MakeSlide(int32_t index);
+    void ConnectSlide(eDiapoLight& slide, int16_t index);
+    vorlane::Picture PictureFor(DiapoPictureIndex index, const vorlane::Picture& present, bool invalidSound) const;
+    eDiapoLight& First() const { return *Diapo.Item(0); }
+    std::shared_ptr<eDiapoLight> Last() const { return Diapo.Item(Diapo.Count() - 1); }
+    int16_t SlotFromListIndex(int32_t listIndex) const;
+    void UnloadDiapo(int32_t index);
+    void ResetDiapo(int32_t index);
+    void CopyDiapo(int16_t from, int16_t to);
+    void RecolourCopy(eDiapoLight& slide, int16_t index);
+    std::optional<int32_t> KeyOfSlide(int16_t index) const;
+    WinRect ScreenRectOf(const eDiapoLight& slide) const;
+
+    // display.cpp
+    std::optional<int32_t> WantedItem(const std::string& startImageName, int32_t diapoKey);
+    int16_t PositionOn(int32_t listIndex);
+    int16_t FillFromTop();
+    bool StartLect(int32_t start, int16_t slot, int16_t count);
+    bool Lect(int32_t start, int16_t slot, int16_t count);
+    bool RunFill(Fill& fill);
+    bool FillSlots(Fill& fill);
+    bool MayGoOn(const Fill& fill) const;
+    Filled FillSlot(int16_t cursor, int32_t listIndex);
+    void Rebind(int16_t cursor, const std::string& name, int32_t listIndex);
+    void SweepByBand(eDiapoLight& slide) const;
+    int16_t AddInterne(const std::string& imageName, int32_t listIndex, bool silent);
+    bool Refused(std::string& imageName);
+    NextCell FindNextCell(bool blank);
+    int16_t LoadFor(int32_t listIndex);
+    bool SetDiapoImage(int16_t slot, const std::string& imageName, int32_t listIndex);
+    bool SetDiapoPicture(int16_t slot, const std::string& imageName);
+
+    // gauge.cpp
+    void Repaint();
+    void RepaintSlide(const eDiapoLight& slide);
+    void ShowGauge(bool show);
+    Box GaugeArea() const;
+    void SlideGaugeIn();
+    void SlideGaugeOut();
+    void StepGauge(const Box& area, float top);
+
+    // scrolling.cpp
+    void InitVScroll(bool reset);
+    void BarChanged(int32_t value);
+    void MoveCurrentSlot(int64_t distance);
+    bool Jump(int32_t value);
+    bool AtListEnd() const;
+    bool Scroll(int16_t up);
+    bool ScrollForward();
+    bool ScrollBack();
+
+    // relayout.cpp
+    void Resized() override { Resize(); }
+    void Resize();
+    bool HasSlides() const;
+    float FreshToken();
+    bool PlaceDiapos(int16_t wanted, float token, int16_t newWidth, int16_t newHeight);
+    void HideFrom(int64_t first);
+    bool PlaceAll(Placement& placement);
+    Placed PlaceSlot(int16_t slot, Placement& placement);
+    Placed MakeMissing(int16_t slot, std::string& name);
+    bool MayGoOn(const Placement& placement) const;
+    void ResizeTick();
+    void UnloadTick();
+    void UnloadExtraDiapos();
+
+    Grid grid_;
+    Items items_;
+    Pass pass_;
+    Bar bar_;
+    Layout layout_;
+    Selection selection_;
+    Gauge gauge_;
+    Sort sort_;
+    Sound sound_;
+    std::string captionWait_;
+    int16_t thumbnailSizeNormal_ = 0;
+    int16_t oleDragMode_ = 0;
+    int16_t oleDropMode_ = 0;
+    bool internalDrag_ = false;  // a drag that started here is running
+    RandomMarks random_;
+    PendingError pending_;
+};
+
+}  // namespace vorlane
