@@ -1,0 +1,152 @@
+// SheetTest: a sheet in a headless window, with a host that writes what it hears into the desktop's trace.
+//
+// The usual window shows two rows of three slides; the pool has one row more: nine slides.
+#pragma once
+
+#include "platform/headless/window.h"
+#include "sheet/vorlane.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+
+namespace vorlane {
+
+class SheetTest : public ::testing::Test {
+protected:
+    static constexpr int32_t kWidth = 345;
+    static constexpr int32_t kHeight = 180;
+
+    headless::Desktop desktop;
+    headless::Window window{desktop, {100, 200, 100 + kWidth, 200 + kHeight}};
+    std::unique_ptr<Vorlane> sheet;
+
+    SheetTest() { Make(window.Ambient()); }
+
+    // A sheet that has not started yet.
+    void Make(const Ambient& ambient) {
+        sheet = std::make_unique<Vorlane>(desktop.Roles(), ambient);
+        Listen();
+    }
+
+    // The usual start: from an empty bag, so with the defaults of the properties.
+    void Start(const PropertyBag& bag = {}) {
+        window.Host(*sheet, bag);
+        desktop.trace.Clear();
+    }
+
+    // The full name of the n-th picture, which can be read.
+    std::string File(int32_t n) {
+        for (; declared_ <= n; ++declared_) desktop.pictures.Add(NameOfFile(declared_), 60, 40);
+        return NameOfFile(n);
+    }
+
+    // Adds pictures first to last with their numbers as keys plus 1000.
+    void AddItems(int32_t first, int32_t last) {
+        for (int32_t n = first; n <= last; ++n) sheet->Add(File(n), "", 1000 + n);
+    }
+
+    // Starts the sheet and shows that many items, from the top.
+    void Show(int32_t items) {
+        Start();
+        AddItems(0, items - 1);
+        sheet->StartLecture();
+        desktop.trace.Clear();
+    }
+
+    // What the loaded slides show, by list index: "." for a blank slide, in brackets when it is out of sight.
+    std::string Slides() const {
+        std::string text;
+        for (int32_t k = 0; k < sheet->Diapo.Count(); ++k) {
+            const auto slide = sheet->Diapo.Item(k);
+            const std::string value = slide->Value() == -1 ? "." : std::to_string(slide->Value());
+            text += (k == 0 ? "" : " ") + (slide->Visible() ? value : "(" + value + ")");
+        }
+        return text;
+    }
+
+    // Where slide k stands: "left,top".
+    std::string Place(int32_t k) const {
+        const auto slide = sheet->Diapo.Item(k);
+        const auto spelled = [](float length) { return std::to_string(static_cast<int>(length)); };
+        return spelled(slide->Left()) + "," + spelled(slide->Top());
+    }
+
+    // Whether each bound slide shows the file and the selection of its item.
+    void ExpectSlidesAgreeWithList() const {
+        for (int32_t k = 0; k < sheet->Diapo.Count(); ++k) {
+            const auto slide = sheet->Diapo.Item(k);
+            if (slide->Value() == -1) continue;
+            EXPECT_EQ(slide->ImageFullPath(), sheet->ImageFullPath(slide->Value())) << "slide " << k;
+            EXPECT_EQ(slide->Selected(), sheet->Liste()->Selected(slide->Value())) << "slide " << k;
+            EXPECT_EQ(headless::NameOf(slide->Picture()), slide->ImageFullPath()) << "slide " << k;
+        }
+    }
+
+    std::string Heard() { return desktop.trace.Take({"host"}); }
+    std::string Heard(std::initializer_list<std::string_view> topics) { return desktop.trace.Take(topics); }
+
+    // Host handlers that run after the trace has been written. They are called with the slide's index or number.
+    std::function<void(int16_t)> onAdded;
+    std::function<void(int16_t, Picture&)> onBeforeSetPicture;
+    std::function<void(std::string&, bool&)> onBeforeAdd;
+    std::function<void()> onDisplayStart;
+    std::function<void()> onDisplayEnd;
+    std::function<void(int32_t)> onFeedBack;
+    std::function<void(int32_t&)> onScroll;
+
+private:
+    static std::string NameOfFile(int32_t n) {
+        const std::string digits = std::to_string(n);
+        return "/p/" + std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits + ".jpg";
+    }
+    void Say(const std::string& line) { desktop.trace.Add("host " + line); }
+    static std::string Short(const std::string& name) { return name.substr(name.rfind('/') + 1); }
+
+    void Listen() {
+        auto& events = sheet->Events;
+        events.DisplayStart.connect([this] {
+            Say("DisplayStart");
+            if (onDisplayStart) onDisplayStart();
+        });
+        events.DisplayEnd.connect([this] {
+            Say("DisplayEnd");
+            if (onDisplayEnd) onDisplayEnd();
+        });
+        events.BeforeAdd.connect([this](std::string& name, const std::string& extension, bool& cancel) {
+            Say("BeforeAdd " + Short(name) + " " + extension);
+            if (onBeforeAdd) onBeforeAdd(name, cancel);
+        });
+        events.Added.connect([this](int16_t index, const std::string& name) {
+            Say("Added " + std::to_string(index) + " " + Short(name));
+            if (onAdded) onAdded(index);
+        });
+        events.BeforeSetPicture.connect(
+            [this](int16_t index, const std::string& name, Picture& picture, bool&, bool&, bool&, bool&, bool&) {
+                Say("BeforeSetPicture " + std::to_string(index) + " " + Short(name));
+                if (onBeforeSetPicture) onBeforeSetPicture(index, picture);
+            });
+        events.InvalidPicture.connect([this](int16_t index, const std::string& name) {
+            Say("InvalidPicture " + std::to_string(index) + " " + Short(name));
+        });
+        events.Scroll.connect([this](int32_t value, int32_t& asValue) {
+            Say("Scroll " + std::to_string(value) + " from " + std::to_string(asValue));
+            if (onScroll) onScroll(asValue);
+        });
+        events.TLClear.connect([this] { Say("TLClear"); });
+        events.TraitementFeedBack.connect([this](int32_t value, int32_t max) {
+            Say("TraitementFeedBack " + std::to_string(value) + "/" + std::to_string(max));
+            if (onFeedBack) onFeedBack(value);
+        });
+        events.Error.connect(
+            [this](int32_t number, const std::string&, const std::string&, int32_t, const std::string& valeur) {
+                Say("Error " + std::to_string(number) + " " + valeur);
+            });
+        sheet->PropertyChanged.connect([this](std::string_view key) { Say("PropertyChanged " + std::string(key)); });
+    }
+
+    int32_t declared_ = 0;
+};
+
+}  // namespace vorlane
