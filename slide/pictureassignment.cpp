@@ -82,7 +82,7 @@ Picture eDiapoLight::LoadPictureFile(const std::string& path, const vorlane::Pic
         image_.IsSubstitute = false;
         return *loaded;
     }
-    const vorlane::Picture substitute = RequestPicture(DiapoPictureIndex::PicSubstitute, false);
+    vorlane::Picture substitute = RequestPicture(DiapoPictureIndex::PicSubstitute, false);
     image_.IsSubstitute = true;
     LblTop.SetCaption(Trelmic6::FilePart(path, kFileName));
     if (!settings_.ShowDiapoTools) {
