@@ -1,0 +1,237 @@
+#include "platform/qt/controlhost.h"
+
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "platform/qt/colors.h"
+#include "platform/qt/controlpainter.h"
+#include "platform/qt/keys.h"
+#include "platform/qt/peers.h"
+#include "platform/qt/qtdesktop.h"
+
+#include <cmath>
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QStyleHints>
+#include <QToolTip>
+#include <QWheelEvent>
+
+namespace vorlane {
+
+namespace {
+
+constexpr double kNotch = 120;  // eighths of a degree
+
+float X(const QPointF& place) {
+    return static_cast<float>(place.x());
+}
+
+float Y(const QPointF& place) {
+    return static_cast<float>(place.y());
+}
+
+// The smallest rectangle of whole pixels around a box.
+QRect Around(const Box& box) {
+    return QRectF(box.Left, box.Top, box.Width, box.Height).toAlignedRect();
+}
+
+// The device pixels of a rectangle.
+QRect OnDevice(const QRect& rect, double scale) {
+    return QRectF(rect.x() * scale, rect.y() * scale, rect.width() * scale, rect.height() * scale).toAlignedRect();
+}
+
+}  // namespace
+
+ControlHost::ControlHost(QtDesktop& desktop, QWidget* parent) : QWidget(parent), desktop_(desktop) {
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+ControlHost::~ControlHost() {
+    Release();
+}
+
+vorlane::Ambient ControlHost::AmbientOfHost() {
+    vorlane::Ambient ambient;
+    ambient.Font = FromQFont(font());
+    ambient.Window = desktop_.windows.HandleOf(this);
+    return ambient;
+}
+
+void ControlHost::Attach(std::unique_ptr<UserControl> control) {
+    Release();
+    control_ = std::move(control);
+    router_ = std::make_unique<InputRouter>(*control_);
+    router_->DoubleClickTime = QApplication::doubleClickInterval();
+    router_->DoubleClickDistance = static_cast<float>(QGuiApplication::styleHints()->mouseDoubleClickDistance());
+    damaged_ = control_->Damaged.connect([this](const Box& box) { update(Around(box).adjusted(-1, -1, 1, 1)); });
+    peers_ = MakePeers(*control_, *this);
+    Attempt([&] { control_->InitProperties(); });
+    TakeSize();
+}
+
+void ControlHost::Release() {
+    peers_.clear();
+    damaged_ = {};
+    router_.reset();
+    control_.reset();
+}
+
+void ControlHost::TakeSize() {
+    if (control_) Attempt([&] { control_->Move(0, 0, width(), height()); });
+}
+
+void ControlHost::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (shown_ || !control_) return;
+    shown_ = true;
+    Attempt([&] { control_->Show(); });
+}
+
+void ControlHost::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    TakeSize();
+}
+
+void ControlHost::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    update();
+}
+
+void ControlHost::paintEvent(QPaintEvent* event) {
+    if (!control_) return;
+    QPainter painter(this);
+    const double scale = devicePixelRatioF();
+    painter.scale(1 / scale, 1 / scale);
+    Attempt([&] {
+        ControlPainter control(painter, desktop_.Tools(), scale);
+        for (const QRect& part : event->region()) {
+            const QRect damaged = OnDevice(part, scale);
+            // At a density that is no whole number the widget's last pixel may reach beyond the control.
+            if (scale != std::floor(scale)) {
+                painter.setClipping(false);
+                painter.fillRect(damaged, ToQColor(control_->Surface().BackColor(), desktop_.screen));
+            }
+            control.Paint(*control_, damaged);
+        }
+    });
+}
+
+// --- Mouse ---
+
+void ControlHost::PointAt(const QPointF& place) {
+    const Control* under = router_->At(X(place), Y(place));
+    while (under != nullptr && under->MousePointer() == 0) under = under->Container();
+    const int16_t shape = under == nullptr ? int16_t{0} : under->MousePointer();
+    if (shape == pointer_) return;
+    pointer_ = shape;
+    if (shape == 0) {
+        unsetCursor();
+    } else {
+        setCursor(CursorShapeOf(shape));
+    }
+}
+
+void ControlHost::mousePressEvent(QMouseEvent* event) {
+    const int16_t button = ButtonOf(event->button());
+    if (!router_ || button == 0) return QWidget::mousePressEvent(event);
+    router_->MouseDown(button, ShiftOf(event->modifiers()), X(event->position()), Y(event->position()));
+}
+
+// The router makes its own double clicks.
+void ControlHost::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+}
+
+void ControlHost::mouseReleaseEvent(QMouseEvent* event) {
+    const int16_t button = ButtonOf(event->button());
+    if (!router_ || button == 0) return QWidget::mouseReleaseEvent(event);
+    router_->MouseUp(button, ShiftOf(event->modifiers()), X(event->position()), Y(event->position()));
+}
+
+void ControlHost::mouseMoveEvent(QMouseEvent* event) {
+    if (!router_) return;
+    PointAt(event->position());
+    router_->MouseMove(ShiftOf(event->modifiers()), X(event->position()), Y(event->position()));
+}
+
+void ControlHost::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    pointer_ = 0;
+    unsetCursor();
+}
+
+void ControlHost::wheelEvent(QWheelEvent* event) {
+    if (!router_) return;
+    const QPoint angle = event->angleDelta();
+    turned_ += (angle.y() != 0 ? angle.y() : angle.x()) / kNotch;
+    const double notches = std::trunc(turned_);
+    turned_ -= notches;
+    if (notches != 0) router_->Wheel(notches, X(event->position()), Y(event->position()));
+    event->accept();
+}
+
+bool ControlHost::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && router_) return ShowToolTip(*static_cast<QHelpEvent*>(event));
+    return QWidget::event(event);
+}
+
+bool ControlHost::ShowToolTip(const QHelpEvent& event) {
+    const Control* under = router_->At(X(event.pos()), Y(event.pos()));
+    while (under != nullptr && under->ToolTipText().empty()) under = under->Container();
+    if (under == nullptr) {
+        QToolTip::hideText();
+        return true;
+    }
+    const QString text = QString::fromStdString(under->ToolTipText()).toHtmlEscaped();
+    QToolTip::showText(event.globalPos(), text, this, Around(under->BoundsInRoot()));
+    return true;
+}
+
+// --- Keys ---
+
+bool ControlHost::FeedKeyDown(const QKeyEvent& event) {
+    if (!router_) return false;
+    int16_t code = VirtualKeyOf(event.key());
+    if (code != 0) {
+        desktop_.keyboard.Press(code);
+        router_->KeyDown(code, ShiftOf(event.modifiers()));
+        if (code == 0) return true;
+    }
+    if (event.text().isEmpty()) return false;
+    auto character = static_cast<int16_t>(event.text().at(0).unicode());
+    router_->KeyPress(character);
+    return character == 0;
+}
+
+bool ControlHost::FeedKeyUp(const QKeyEvent& event) {
+    int16_t code = VirtualKeyOf(event.key());
+    if (!router_ || code == 0 || event.isAutoRepeat()) return false;
+    desktop_.keyboard.Release(code);
+    router_->KeyUp(code, ShiftOf(event.modifiers()));
+    return code == 0;
+}
+
+void ControlHost::keyPressEvent(QKeyEvent* event) {
+    event->setAccepted(FeedKeyDown(*event));
+}
+
+void ControlHost::keyReleaseEvent(QKeyEvent* event) {
+    event->setAccepted(FeedKeyUp(*event));
+}
+
+void ControlHost::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    if (router_) router_->SetFocus(nullptr);
+}
+
+void ControlHost::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    desktop_.keyboard.ReleaseAll();
+}
+
+}  // namespace vorlane

@@ -1,0 +1,83 @@
+// ControlHost: a widget that is the window of one root control. It feeds the user's input to the control's router,
+// paints the control, gives it the widget's size and its Show, lends native peers to its scroll bars and text boxes,
+// and shows its tooltips and pointers. What a control means is the control's own business.
+//
+// No exception leaves an event handler of the widget.
+#pragma once
+
+#include "platform/ambient.h"
+#include "platform/inputrouter.h"
+
+#include <memory>
+#include <vector>
+
+#include <QPointer>
+#include <QWidget>
+
+class QHelpEvent;
+
+namespace vorlane {
+
+class QtDesktop;
+
+class ControlHost : public QWidget {
+    Q_OBJECT
+
+public:
+    ~ControlHost() override;
+
+    QtDesktop& Desktop() const { return desktop_; }
+    InputRouter& Router() { return *router_; }
+
+    // Keys on their way to the control that has the focus. Return whether a handler swallowed the key.
+    bool FeedKeyDown(const QKeyEvent& event);
+    bool FeedKeyUp(const QKeyEvent& event);
+
+protected:
+    ControlHost(QtDesktop& desktop, QWidget* parent);
+
+    // What the hosted control is to be constructed with.
+    vorlane::Ambient AmbientOfHost();
+    // Takes the control over as a new one. Its Show comes when the widget is shown first.
+    template <class T>
+    T& Host(std::unique_ptr<T> control) {
+        T& hosted = *control;
+        Attach(std::move(control));
+        return hosted;
+    }
+    // Ends the control. A derived class does so before anything that the control's events reach goes away.
+    void Release();
+
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void Attach(std::unique_ptr<UserControl> control);
+    void TakeSize();
+    void PointAt(const QPointF& place);
+    bool ShowToolTip(const QHelpEvent& event);
+
+    QtDesktop& desktop_;
+    std::unique_ptr<UserControl> control_;
+    std::unique_ptr<InputRouter> router_;
+    std::vector<std::unique_ptr<QWidget>> peers_;
+    ScopedConnection damaged_;
+    bool shown_ = false;
+    int16_t pointer_ = 0;
+    double turned_ = 0;  // of the wheel, less than a notch
+};
+
+}  // namespace vorlane

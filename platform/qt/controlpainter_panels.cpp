@@ -1,0 +1,130 @@
+#include "platform/label.h"
+#include "platform/numbers.h"
+#include "platform/ombrel.h"
+#include "platform/qt/colors.h"
+#include "platform/qt/controlpainter.h"
+#include "platform/qt/qttextmetrics.h"
+#include "platform/qt/textlines.h"
+
+#include <algorithm>
+
+#include <QLinearGradient>
+#include <QPainter>
+
+namespace vorlane {
+
+namespace {
+
+double LineHeight(const QtTextMetrics::Resolved& font) {
+    return Max(1, -Int(-font.metrics.height()));
+}
+
+// Where a line of that width begins in a box of another.
+double Start(TextAlignment alignment, double box, double line) {
+    if (alignment == TextAlignment::Left) return 0;
+    return alignment == TextAlignment::Right ? box - line : (box - line) / 2;
+}
+
+QStringList LinesOf(const Label& label, const QtTextMetrics::Resolved& font) {
+    const QString text = QString::fromStdString(label.Caption());
+    if (!label.WordWrap()) return {ElidedLine(text, font.metrics, label.Width())};
+    const int count = ToInt32(Max(1, Int(label.Height() / LineHeight(font))));
+    return WrappedLines(text, font.qfont, font.metrics, label.Width(), count);
+}
+
+// A colour between two, part of the way from the first.
+QColor Between(const QColor& first, const QColor& second, double part) {
+    const auto mix = [&](int a, int b) { return ToInt32(a + (b - a) * part); };
+    return {mix(first.red(), second.red()), mix(first.green(), second.green()), mix(first.blue(), second.blue())};
+}
+
+// A bar with round ends.
+void Pill(QPainter& painter, const QRectF& box, const QColor& color) {
+    const double radius = std::min(box.width(), box.height()) / 2;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(box, radius, radius);
+}
+
+}  // namespace
+
+void ControlPainter::Visit(const Label& label) {
+    if (label.Caption().empty() || label.Bounds().Empty()) return;
+    const QtTextMetrics::Resolved& font = tools_.fonts.Resolve(label.Font());
+    const QRect area = AreaOf(label);
+    painter_.save();
+    painter_.setClipRect(area.intersected(damaged_));
+    painter_.translate(area.topLeft());
+    painter_.scale(grid_.Scale(), grid_.Scale());
+    painter_.setFont(font.qfont);
+    painter_.setPen(ToQColor(label.Enabled() ? label.ForeColor() : FromSystem(SystemColor::GrayText), tools_.screen));
+    double baseline = font.metrics.ascent();
+    for (const QString& line : LinesOf(label, font)) {
+        const double width = font.metrics.horizontalAdvance(line);
+        painter_.drawText(QPointF(Int(Start(label.Alignment(), label.Width(), width) + 0.5), baseline), line);
+        baseline += LineHeight(font);
+    }
+    painter_.restore();
+}
+
+void ControlPainter::Visit(const OmbrelProgressBar& gauge) {
+    const QRectF area = AreaOf(gauge);
+    const double pixel = grid_.Scale();
+    const double range = static_cast<double>(gauge.Max()) - gauge.Min();
+    const double done = range > 0 ? std::clamp((gauge.Value() - gauge.Min()) / range, 0.0, 1.0) : 1;
+    const QColor face = ToQColor(FromSystem(SystemColor::ButtonFace), tools_.screen);
+    const QColor text = ToQColor(FromSystem(SystemColor::ButtonText), tools_.screen);
+
+    painter_.save();
+    painter_.setRenderHint(QPainter::Antialiasing);
+    Pill(painter_, area, Between(face, text, 0.25));
+    Pill(painter_, area.adjusted(pixel, pixel, -pixel, -pixel), Between(face, text, 0.06));
+    QRectF bar = area.adjusted(3 * pixel, 3 * pixel, -3 * pixel, -3 * pixel);
+    bar.setWidth(std::max(bar.height(), bar.width() * done));
+    if (done > 0) Pill(painter_, bar, ToQColor(FromSystem(SystemColor::Highlight), tools_.screen));
+    painter_.restore();
+}
+
+void ControlPainter::Visit(const OmbrelSlider& slider) {
+    const QRectF area = AreaOf(slider);
+    const double pixel = grid_.Scale();
+    const double part = std::clamp(slider.Value(), 0, 100) / 100.0;
+    const double middle = area.left() + area.width() / 2;
+    const double radius = std::min(area.width() / 2 - pixel, 3 * pixel);
+    const QRectF track(middle - pixel, area.top() + radius, 2 * pixel, std::max(0.0, area.height() - 2 * radius));
+    const QColor accent = ToQColor(FromSystem(SystemColor::Highlight), tools_.screen);
+    const QColor face = ToQColor(FromSystem(SystemColor::ButtonFace), tools_.screen);
+    const QColor text = ToQColor(FromSystem(SystemColor::ButtonText), tools_.screen);
+    const QPointF knob(middle, track.top() + track.height() * part);
+
+    painter_.save();
+    painter_.setRenderHint(QPainter::Antialiasing);
+    Pill(painter_, track, Between(face, text, 0.35));
+    Pill(painter_, QRectF(track.topLeft(), QPointF(track.right(), knob.y())), accent);
+    painter_.setPen(QPen(Between(face, text, 0.1), pixel / 2));
+    painter_.setBrush(accent);
+    painter_.drawEllipse(knob, radius, radius);
+    painter_.restore();
+}
+
+void ControlPainter::Visit(const OmbrelGradient& panel) {
+    const QRect area = AreaOf(panel);
+    QLinearGradient ground(area.topLeft(), area.bottomLeft() + QPoint(0, 1));
+    ground.setColorAt(0, ToQColor(panel.ColorStart(), tools_.screen));
+    ground.setColorAt(1, ToQColor(panel.ColorEnd(), tools_.screen));
+    painter_.fillRect(area, ground);
+    if (panel.Caption().empty()) return;
+
+    const QtTextMetrics::Resolved& font = tools_.fonts.Resolve(panel.Font());
+    painter_.save();
+    painter_.setClipRect(area.intersected(damaged_));
+    painter_.translate(area.topLeft());
+    painter_.scale(grid_.Scale(), grid_.Scale());
+    painter_.setFont(font.qfont);
+    painter_.setPen(ToQColor(panel.ForeColor(), tools_.screen));
+    const QRectF inside(0, 0, panel.Width(), panel.Height());
+    painter_.drawText(inside, Qt::AlignCenter | Qt::TextWordWrap, QString::fromStdString(panel.Caption()));
+    painter_.restore();
+}
+
+}  // namespace vorlane

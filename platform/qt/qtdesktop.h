@@ -1,0 +1,48 @@
+// QtDesktop: the Qt desktop's roles together, with what painting needs. It must not outlive the application object,
+// and outlives every control that it was given to.
+#pragma once
+
+#include "platform/qt/painttools.h"
+#include "platform/qt/qtclock.h"
+#include "platform/qt/qtdialogs.h"
+#include "platform/qt/qtkeyboard.h"
+#include "platform/qt/qtpictures.h"
+#include "platform/qt/qtscreen.h"
+#include "platform/qt/qtsounds.h"
+#include "platform/qt/qttextmetrics.h"
+#include "platform/qt/qttexts.h"
+#include "platform/qt/qtwindows.h"
+#include "platform/qt/scaledpictures.h"
+
+#include <QObject>
+
+class QCoreApplication;
+
+namespace vorlane {
+
+class QtDesktop final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit QtDesktop(QObject* parent = nullptr);
+
+    // The desktop that the controls of a program share when nothing else is said. It belongs to the application
+    // object, and is made when it is asked for first.
+    static QtDesktop& Of(QCoreApplication& application);
+
+    Desktop Roles() { return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts}; }
+    PaintTools Tools() { return {screen, metrics, scaled}; }
+
+    QtClock clock;
+    QtWindows windows;
+    QtScreen screen{windows};
+    QtKeyboard keyboard;
+    QtTextMetrics metrics;
+    QtDialogs dialogs;
+    QtPictures pictures;
+    QtSounds sounds;
+    QtTexts texts;
+    ScaledPictures scaled;
+};
+
+}  // namespace vorlane

@@ -1,0 +1,35 @@
+#include "platform/qt/qtdialogs.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace vorlane {
+
+namespace {
+
+QString Text(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QMessageBox::Icon IconOf(int32_t style) {
+    switch (style & 0x70) {
+        case 16:
+            return QMessageBox::Critical;
+        case 48:
+            return QMessageBox::Warning;
+        case 64:
+            return QMessageBox::Information;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+}  // namespace
+
+void QtDialogs::MsgBox(std::string_view text, int32_t style, std::string_view caption) {
+    QMessageBox box(IconOf(style), Text(caption), Text(text), QMessageBox::Ok, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+}  // namespace vorlane

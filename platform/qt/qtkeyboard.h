@@ -1,0 +1,24 @@
+// QtKeyboard: what is held down now. Buttons and modifiers come from Qt; the other keys from the hosts, which tell
+// what passes through them.
+#pragma once
+
+#include "platform/desktop.h"
+
+#include <set>
+
+namespace vorlane {
+
+class QtKeyboard final : public Keyboard {
+public:
+    bool KeyIsDown(int32_t virtualKey) const override;
+
+    void Press(int32_t virtualKey) { down_.insert(virtualKey); }
+    void Release(int32_t virtualKey) { down_.erase(virtualKey); }
+    // The keyboard has gone to another program: what is released there is not told.
+    void ReleaseAll() { down_.clear(); }
+
+private:
+    std::set<int32_t> down_;
+};
+
+}  // namespace vorlane

@@ -1,0 +1,119 @@
+#include "platform/qt/qtpicturedata.h"
+
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "platform/qt/picturefile.h"
+#include "platform/scale.h"
+
+#include <atomic>
+#include <utility>
+
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace vorlane {
+
+namespace {
+
+QImage Scaled(const QImage& image, QSize pixels) {
+    return image.size() == pixels ? image : image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+bool Holds(QSize outer, QSize inner) {
+    return outer.width() >= inner.width() && outer.height() >= inner.height();
+}
+
+class ImageData final : public QtPictureData {
+public:
+    explicit ImageData(QImage image) : image_(std::move(image)) {}
+    QImage Render(QSize pixels) const override { return Scaled(image_, pixels); }
+
+private:
+    QImage image_;
+};
+
+class FileData final : public QtPictureData {
+public:
+    FileData(std::string path, picturefile::Decoded kept) : path_(std::move(path)), kept_(std::move(kept)) {}
+
+    QImage Render(QSize pixels) const override {
+        const bool enough = Holds(kept_.image.size(), pixels) || (!kept_.vector && kept_.image.size() == kept_.size);
+        const QImage sharp = enough ? QImage() : FromFile(pixels);
+        return sharp.isNull() ? Scaled(kept_.image, pixels) : sharp;
+    }
+
+private:
+    // Null when the file is gone, or is no longer the same picture.
+    QImage FromFile(QSize pixels) const {
+        const auto bytes = picturefile::Read(path_);
+        return bytes ? picturefile::DecodeTo(*bytes, pixels) : QImage();
+    }
+
+    std::string path_;
+    picturefile::Decoded kept_;
+};
+
+class SvgData final : public QtPictureData {
+public:
+    explicit SvgData(const QByteArray& svg) {
+        if (!renderer_.load(svg)) throw failures::InvalidPicture();
+    }
+
+    QImage Render(QSize pixels) const override {
+        QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        renderer_.render(&painter);
+        return image;
+    }
+
+private:
+    mutable QSvgRenderer renderer_;
+};
+
+}  // namespace
+
+QtPictureData::QtPictureData() {
+    static std::atomic<uint64_t> last = 0;
+    serial_ = ++last;
+}
+
+Picture PictureFromImage(const QImage& image) {
+    const QSizeF size = image.deviceIndependentSize();
+    return PictureFromImage(image, size.width(), size.height());
+}
+
+Picture PictureFromImage(const QImage& image, double width, double height) {
+    if (image.isNull()) return {};
+    QImage pixels = image;
+    pixels.setDevicePixelRatio(1);
+    return {PictureType::Bitmap, width, height, std::make_shared<ImageData>(std::move(pixels))};
+}
+
+Picture PictureFromFile(const std::string& path) {
+    const auto bytes = picturefile::Read(path);
+    auto decoded = bytes ? picturefile::Decode(*bytes, QSize(kKeptSide, kKeptSide)) : std::nullopt;
+    if (!decoded) return {};
+    const PictureType type = decoded->vector ? PictureType::EnhancedMetafile : PictureType::Bitmap;
+    const QSize size = decoded->size;
+    return {type, static_cast<double>(size.width()), static_cast<double>(size.height()),
+            std::make_shared<FileData>(path, std::move(*decoded))};
+}
+
+Picture PictureFromSvg(const QByteArray& svg, double width, double height) {
+    return {PictureType::EnhancedMetafile, width, height, std::make_shared<SvgData>(svg)};
+}
+
+QImage RenderPicture(const Picture& picture, QSize pixels) {
+    const auto* data = dynamic_cast<const QtPictureData*>(picture.Data().get());
+    return data == nullptr || pixels.isEmpty() ? QImage() : data->Render(pixels);
+}
+
+QSize PixelSizeOf(const Picture& picture) {
+    const auto pixels = [](double hiMetric) {
+        return ToInt32(Rescale(hiMetric, ScaleMode::HiMetric, ScaleMode::Pixels));
+    };
+    return {pixels(picture.Width()), pixels(picture.Height())};
+}
+
+}  // namespace vorlane

@@ -1,0 +1,63 @@
+#include "platform/qt/qtwindows.h"
+
+namespace vorlane {
+
+namespace {
+
+constexpr int32_t kUpdateNow = 0x100;
+
+WinRect FromQRect(const QRect& rect) {
+    return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
+}
+
+}  // namespace
+
+Hwnd QtWindows::HandleOf(QWidget* widget) {
+    if (widget == nullptr) return 0;
+    Forget();
+    for (const auto& [handle, known] : widgets_) {
+        if (known == widget) return handle;
+    }
+    widgets_[++last_] = widget;
+    return last_;
+}
+
+QWidget* QtWindows::WidgetOf(Hwnd window) const {
+    const auto found = widgets_.find(window);
+    return found == widgets_.end() ? nullptr : found->second.data();
+}
+
+WinRect QtWindows::GetWindowRect(Hwnd window) const {
+    const QWidget* widget = WidgetOf(window);
+    if (widget == nullptr) return {};
+    return FromQRect({widget->mapToGlobal(QPoint(0, 0)), widget->size()});
+}
+
+WinRect QtWindows::GetClientRect(Hwnd window) const {
+    const QWidget* widget = WidgetOf(window);
+    return widget == nullptr ? WinRect{} : FromQRect(widget->rect());
+}
+
+Point QtWindows::ClientToScreen(Hwnd window, Point place) const {
+    const QWidget* widget = WidgetOf(window);
+    if (widget == nullptr) return place;
+    const QPoint global = widget->mapToGlobal(QPoint(place.X, place.Y));
+    return {global.x(), global.y()};
+}
+
+void QtWindows::RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) {
+    QWidget* widget = WidgetOf(window);
+    if (widget == nullptr) return;
+    const QRect rect(QPoint(part.Left, part.Top), QPoint(part.Right - 1, part.Bottom - 1));
+    if ((flags & kUpdateNow) != 0) {
+        widget->repaint(rect);
+    } else {
+        widget->update(rect);
+    }
+}
+
+void QtWindows::Forget() {
+    std::erase_if(widgets_, [](const auto& entry) { return entry.second.isNull(); });
+}
+
+}  // namespace vorlane

@@ -1,0 +1,70 @@
+#include "platform/qt/scrollbarpeer.h"
+
+#include "platform/failure.h"
+#include "platform/qt/controlhost.h"
+#include "platform/qt/keys.h"
+#include "platform/scale.h"
+
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+namespace vorlane {
+
+namespace {
+
+using MouseEvent = Event<int16_t, int16_t, float, float>;
+
+void Tell(const MouseEvent& told, const QMouseEvent& event) {
+    const int16_t button = ButtonOf(event.button());
+    const auto twips = [](double pixels) { return static_cast<float>(pixels * kTwipsPerPixel); };
+    if (button == 0) return;
+    Attempt(
+        [&] { told(button, ShiftOf(event.modifiers()), twips(event.position().x()), twips(event.position().y())); });
+}
+
+}  // namespace
+
+ScrollBarPeer::ScrollBarPeer(ScrollbarPlus& model, ControlHost& host) : QScrollBar(&host), model_(model) {
+    setTracking(false);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    changed_ = model_.Changed.connect([this] { Follow(); });
+    connect(this, &QScrollBar::sliderMoved, this, [this](int value) { Attempt([&] { model_.DragThumb(value); }); });
+    connect(this, &QScrollBar::valueChanged, this, [this](int value) {
+        if (following_) return;
+        Attempt([&] { model_.SetValue(value); });
+        Follow();
+    });
+    Follow();
+}
+
+void ScrollBarPeer::Follow() {
+    if (following_) return;
+    following_ = true;
+    setOrientation(model_.Orientation() == vorlane::Orientation::Horizontal ? Qt::Horizontal : Qt::Vertical);
+    setRange(model_.Min(), model_.Max());
+    setSingleStep(model_.SmallChange());
+    setPageStep(model_.LargeChange());
+    if (!isSliderDown()) setValue(model_.Value());
+    setEnabled(model_.Enabled());
+    const Box box = model_.BoundsInRoot();
+    setGeometry(QRectF(box.Left, box.Top, box.Width, box.Height).toRect());
+    setVisible(model_.Visible());
+    following_ = false;
+}
+
+void ScrollBarPeer::mousePressEvent(QMouseEvent* event) {
+    Tell(model_.Input.MouseDown, *event);
+    QScrollBar::mousePressEvent(event);
+}
+
+void ScrollBarPeer::mouseReleaseEvent(QMouseEvent* event) {
+    QScrollBar::mouseReleaseEvent(event);
+    Tell(model_.Input.MouseUp, *event);
+}
+
+// One road for every turn of the wheel over the control.
+void ScrollBarPeer::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+}  // namespace vorlane

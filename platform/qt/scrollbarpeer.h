@@ -1,0 +1,32 @@
+// ScrollBarPeer: a native scroll bar in front of a ScrollbarPlus. While the user drags its thumb the model hears of
+// the values that pass, and takes the last one when the thumb is let go.
+#pragma once
+
+#include "platform/scrollbarplus.h"
+
+#include <QScrollBar>
+
+namespace vorlane {
+
+class ControlHost;
+
+class ScrollBarPeer final : public QScrollBar {
+    Q_OBJECT
+
+public:
+    ScrollBarPeer(ScrollbarPlus& model, ControlHost& host);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void Follow();
+
+    ScrollbarPlus& model_;
+    ScopedConnection changed_;
+    bool following_ = false;
+};
+
+}  // namespace vorlane
