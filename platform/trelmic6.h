@@ -64,6 +64,8 @@ public:
     // --- Texts ---
     // The n-th piece, from 1, of text cut at separator; empty for any other n. An empty separator cuts nothing.
     static std::string FieldAt(std::string_view text, int32_t n, std::string_view separator);
+    // The same as a part of text, which it stays.
+    static std::string_view FieldViewAt(std::string_view text, int32_t n, std::string_view separator);
     // How many separators text holds; an empty separator is nowhere.
     static int32_t CountOf(std::string_view text, std::string_view separator);
     // Small letters of the Latin (up to U+017F), Greek and Cyrillic alphabets, letter by letter in UTF-8, whatever the

@@ -87,14 +87,18 @@ std::string Trelmic6::LowerCase(std::string_view text) {
 }
 
 std::string Trelmic6::FieldAt(std::string_view text, int32_t n, std::string_view separator) {
+    return std::string(FieldViewAt(text, n, separator));
+}
+
+std::string_view Trelmic6::FieldViewAt(std::string_view text, int32_t n, std::string_view separator) {
     if (n < 1 || (separator.empty() && n > 1)) return {};
-    if (separator.empty()) return std::string(text);
+    if (separator.empty()) return text;
     for (; n > 1; --n) {
         const size_t cut = text.find(separator);
         if (cut == std::string_view::npos) return {};
         text.remove_prefix(cut + separator.size());
     }
-    return std::string(text.substr(0, text.find(separator)));
+    return text.substr(0, text.find(separator));
 }
 
 int32_t Trelmic6::CountOf(std::string_view text, std::string_view separator) {

@@ -32,6 +32,14 @@ TEST(FieldAt, AnEmptySeparatorCutsNothing) {
     EXPECT_EQ(Trelmic6::FieldAt("abc", 2, ""), "");
 }
 
+TEST(FieldAt, ThePieceAlsoComesAsAPartOfTheText) {
+    const std::string_view text = "a|bc|d";
+    const std::string_view piece = Trelmic6::FieldViewAt(text, 2, "|");
+    EXPECT_EQ(piece, "bc");
+    EXPECT_EQ(piece.data(), text.data() + 2);
+    EXPECT_EQ(Trelmic6::FieldViewAt(text, 4, "|"), "");
+}
+
 TEST(CountOf, CountsSeparatorsThatDoNotOverlap) {
     EXPECT_EQ(Trelmic6::CountOf("", "|"), 0);
     EXPECT_EQ(Trelmic6::CountOf("abc", "|"), 0);
