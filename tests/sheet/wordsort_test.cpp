@@ -20,7 +20,7 @@ TEST(WordSort, OrdersByWordThenByRowAtAnySize) {
     std::mt19937_64 random(1);
     WordSort sort;
     for (const uint64_t mask : {uint64_t{0}, uint64_t{3}, 0xFF00000000000000U, 0x0100FF0000030001U, ~uint64_t{0}}) {
-        for (const size_t count : {0, 1, 2, 63, 64, 65, 1000, 64, 3000}) {
+        for (const size_t count : {0U, 1U, 2U, 63U, 64U, 65U, 1000U, 64U, 3000U}) {
             std::vector<WordEntry> entries;
             for (size_t i = 0; i < count; ++i) {
                 entries.push_back({random() & mask, static_cast<uint32_t>(random()), static_cast<int32_t>(i)});
