@@ -1,0 +1,160 @@
+#include "editor/folderreader.h"
+
+#include "editor/sortdata.h"
+#include "widgets/filekind.h"
+
+#include <algorithm>
+#include <atomic>
+#include <deque>
+#include <filesystem>
+#include <iterator>
+#include <mutex>
+#include <optional>
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace vorlane::editor {
+
+// What the thread and the owner share.
+struct FolderReader::Reading {
+    FolderReader* owner;  // of the user's thread alone
+    QString folder;
+    std::atomic<bool> stopped = false;
+    std::atomic<bool> read = false;   // to the end
+    std::atomic<bool> ended = false;  // the thread has nothing more to do
+    std::mutex mutex;                 // of what follows
+    std::deque<FolderItem> items;
+};
+
+namespace {
+
+constexpr size_t kFirstPiece = 64;  // enough for a first look
+constexpr size_t kPiece = 512;
+
+struct Name {
+    QString text;
+    QString sortName;
+};
+
+bool IsPicture(const QString& folder, const QString& name) {
+    if (name.startsWith(QLatin1Char('.')) || FileKindOf(name) != FileKind::Picture) return false;
+    return HasExtension(name) || HoldsPicture(folder + name);
+}
+
+// Nothing for a folder that can't be read. One that breaks off gives what there was.
+std::optional<std::vector<Name>> ReadNames(const QString& folder, const std::atomic<bool>& stopped) {
+    std::error_code error;
+    std::vector<Name> names;
+    const std::filesystem::path path(QFile::encodeName(folder).toStdString());
+    for (std::filesystem::directory_iterator entry(path, error), end; entry != end && !stopped;
+         entry.increment(error)) {
+        std::error_code unknown;
+        if (!entry->is_regular_file(unknown)) continue;
+        const QString name = QFile::decodeName(entry->path().filename().c_str());
+        if (IsPicture(folder, name)) names.push_back({name, SortName(name)});
+    }
+    if (error && names.empty()) return std::nullopt;
+    return names;
+}
+
+void Sort(std::vector<Name>& names) {
+    std::sort(names.begin(), names.end(), [](const Name& a, const Name& b) {
+        return a.sortName != b.sortName ? a.sortName < b.sortName : a.text < b.text;
+    });
+}
+
+FolderItem Item(const QString& folder, const Name& name) {
+    const QString path = folder + name.text;
+    const QFileInfo file(path);
+    const FileFacts facts{name.text, file.lastModified(), file.birthTime(), file.size()};
+    return {path, SortData(facts, name.sortName)};
+}
+
+}  // namespace
+
+FolderReader::FolderReader(QObject* parent) : QObject(parent) {}
+
+FolderReader::~FolderReader() {
+    stop();
+    for (Worker& worker : workers_) worker.thread.join();
+}
+
+void FolderReader::start(const QString& folder) {
+    stop();
+    JoinEnded();
+    reading_ = std::make_shared<Reading>();
+    reading_->owner = this;
+    reading_->folder = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+    const auto run = [reading = reading_] {
+        Run(reading);
+        reading->ended = true;
+    };
+    workers_.push_back({std::thread(run), reading_});
+}
+
+void FolderReader::stop() {
+    if (reading_) reading_->stopped = true;
+    reading_.reset();
+}
+
+void FolderReader::JoinEnded() {
+    const auto ended = [](Worker& worker) {
+        if (!worker.reading->ended) return false;
+        worker.thread.join();
+        return true;
+    };
+    std::erase_if(workers_, ended);
+}
+
+bool FolderReader::isRunning() const {
+    if (!reading_) return false;
+    const std::lock_guard lock(reading_->mutex);
+    return !reading_->read || !reading_->items.empty();
+}
+
+std::vector<FolderItem> FolderReader::take(size_t most) {
+    if (!reading_) return {};
+    const std::lock_guard lock(reading_->mutex);
+    auto& items = reading_->items;
+    const auto end = items.begin() + static_cast<std::ptrdiff_t>(std::min(most, items.size()));
+    std::vector<FolderItem> taken(std::make_move_iterator(items.begin()), std::make_move_iterator(end));
+    items.erase(items.begin(), end);
+    return taken;
+}
+
+// The owner waits for its threads before it ends, so it is there to be called.
+template <class Signal>
+void FolderReader::Tell(const std::shared_ptr<Reading>& reading, Signal signal) {
+    const auto tell = [reading, signal] {
+        if (!reading->stopped) signal(*reading->owner);
+    };
+    QMetaObject::invokeMethod(reading->owner, tell, Qt::QueuedConnection);
+}
+
+void FolderReader::Run(const std::shared_ptr<Reading>& reading) {
+    auto names = ReadNames(reading->folder, reading->stopped);
+    if (!names) {
+        reading->read = true;
+        Tell(reading, [](FolderReader& owner) { Q_EMIT owner.failed(owner.reading_->folder); });
+        return;
+    }
+    Sort(*names);
+    const int total = static_cast<int>(names->size());
+    Tell(reading, [total](FolderReader& owner) { Q_EMIT owner.opened(owner.reading_->folder, total); });
+    size_t piece = kFirstPiece;
+    for (size_t i = 0; i < names->size() && !reading->stopped; i += piece, piece = kPiece) {
+        std::deque<FolderItem> items;
+        const size_t end = std::min(i + piece, names->size());
+        for (size_t k = i; k < end; ++k) items.push_back(Item(reading->folder, (*names)[k]));
+        {
+            const std::lock_guard lock(reading->mutex);
+            std::move(items.begin(), items.end(), std::back_inserter(reading->items));
+        }
+        Tell(reading, [](FolderReader& owner) { Q_EMIT owner.available(); });
+    }
+    reading->read = true;
+    Tell(reading, [](FolderReader& owner) { Q_EMIT owner.finished(); });
+}
+
+}  // namespace vorlane::editor
