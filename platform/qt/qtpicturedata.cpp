@@ -25,7 +25,7 @@ bool Holds(QSize outer, QSize inner) {
 
 class ImageData final : public QtPictureData {
 public:
-    explicit ImageData(QImage image) : image_(std::move(image)) {}
+    explicit ImageData(QImage image) : QtPictureData(image), image_(std::move(image)) {}
     QImage Render(QSize pixels) const override { return Scaled(image_, pixels); }
 
 private:
@@ -76,6 +76,11 @@ private:
 QtPictureData::QtPictureData() {
     static std::atomic<uint64_t> last = 0;
     serial_ = ++last;
+}
+
+QtPictureData::QtPictureData(const QImage& image) {
+    constexpr uint64_t kShared = uint64_t{1} << 63;
+    serial_ = static_cast<uint64_t>(image.cacheKey()) | kShared;
 }
 
 Picture PictureFromImage(const QImage& image) {

@@ -16,8 +16,10 @@ namespace vorlane {
 class QtPictureData : public PictureData {
 public:
     QtPictureData();
+    // For pictures of an image that others may hold as well.
+    explicit QtPictureData(const QImage& image);
 
-    // Different for any two pictures ever made.
+    // Different for any two pictures ever made, but for those of one and the same image.
     uint64_t Serial() const { return serial_; }
     // The whole picture in exactly that many pixels, each side 1 or more. Never null, save for want of memory.
     virtual QImage Render(QSize pixels) const = 0;

@@ -94,6 +94,9 @@ QtPictures::QtPictures() {
 }
 
 std::optional<Picture> QtPictures::LoadImageFile(const std::string& path) {
+    bool broken = false;
+    BeforeLoad(path, broken);
+    if (broken) return std::nullopt;
     const Picture picture = PictureFromFile(ExistingPath(path));
     return picture.Type() == 0 ? std::nullopt : std::optional(picture);
 }

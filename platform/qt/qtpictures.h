@@ -2,8 +2,10 @@
 #pragma once
 
 #include "platform/desktop.h"
+#include "platform/event.h"
 
 #include <map>
+#include <string>
 
 namespace vorlane {
 
@@ -18,6 +20,10 @@ public:
     // The result is as dense as the densest screen, as far as the source goes.
     Picture ResizePicture(const Picture& picture, int32_t width, int32_t height) override;
     Picture Get(Artwork artwork) override;
+
+    // A file is about to be read on the user's thread. A handler that knows it for broken spares that; the file then
+    // counts as one that can't be read: path, broken.
+    Event<const std::string&, bool&> BeforeLoad;
 
 private:
     std::map<Artwork, Picture> artwork_;

@@ -2,6 +2,7 @@
 #include "platform/qt/picturefile.h"
 #include "platform/qt/qtpicturedata.h"
 #include "platform/qt/qtpictures.h"
+#include "platform/qt/scaledpictures.h"
 
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -269,6 +270,19 @@ TEST_F(QtPicturesTest, APictureWhoseFileIsGoneIsPaintedFromWhatIsKept) {
     EXPECT_GT(qRed(image.pixel(300, 700)), 150);
 }
 
+TEST_F(QtPicturesTest, AFileThatAHandlerKnowsForBrokenIsNotRead) {
+    const std::string path = Write("a.png", Encoded(Sample(60, 40), "png"));
+    std::string asked;
+    auto connection = pictures_.BeforeLoad.connect([&](const std::string& file, bool& broken) {
+        asked = file;
+        broken = true;
+    });
+    EXPECT_FALSE(pictures_.LoadImageFile(path));
+    EXPECT_EQ(asked, path);
+    connection.disconnect();
+    EXPECT_TRUE(pictures_.LoadImageFile(path));
+}
+
 TEST_F(QtPicturesTest, ResizingGivesTheSizeThatIsAskedFor) {
     const auto picture = pictures_.LoadImageFile(Write("a.png", Encoded(Sample(300, 200), "png")));
     ASSERT_TRUE(picture);
@@ -310,6 +324,16 @@ TEST(PictureFromImage, ADenseImageHasItsLogicalSize) {
     const Picture picture = PictureFromImage(image);
     EXPECT_EQ(PixelSizeOf(picture), QSize(100, 50));
     EXPECT_EQ(RenderPicture(picture, QSize(200, 100)), Sample(200, 100));
+}
+
+TEST(PictureFromImage, PicturesOfOneImageShareTheirScaledPixels) {
+    const QImage image = Sample(60, 40);
+    ScaledPictures scaled(1 << 20);
+    scaled.Get(PictureFromImage(image), {30, 20});
+    scaled.Get(PictureFromImage(image, 600, 400), {30, 20});
+    EXPECT_EQ(scaled.Renders(), 1);
+    scaled.Get(PictureFromImage(Sample(60, 40)), {30, 20});
+    EXPECT_EQ(scaled.Renders(), 2);
 }
 
 TEST(PictureFromImage, ANullImageIsTheEmptyPicture) {
