@@ -60,6 +60,9 @@ public:
     void SetColorStart(OLE_COLOR color) { Assign(colorStart_, color); }
     OLE_COLOR ColorEnd() const { return colorEnd_; }
     void SetColorEnd(OLE_COLOR color) { Assign(colorEnd_, color); }
+    // Width and height of the ellipses that round the corners, pixels; 0 leaves them square.
+    int32_t CornerSize() const { return cornerSize_; }
+    void SetCornerSize(int32_t size) { Assign(cornerSize_, size); }
 
     void Accept(ControlVisitor& visitor) const override { visitor.Visit(*this); }
 
@@ -69,6 +72,7 @@ private:
     OLE_COLOR foreColor_ = FromSystem(SystemColor::ButtonText);
     OLE_COLOR colorStart_ = 0xFFE7D6;
     OLE_COLOR colorEnd_ = 0xE0A070;
+    int32_t cornerSize_ = 0;
 };
 
 }  // namespace vorlane

@@ -76,6 +76,9 @@ protected:
     // The fields as in a form that was never used.
     virtual void Reset() = 0;
 
+    // The part of the window that there is.
+    void SetWindowRgn(const Region& region) { forms_.SetWindowRgn(Hwnd(), region); }
+
     const Desktop& TheDesktop() const { return desktop_; }
     Forms& TheForms() const { return forms_; }
     // The content of a loaded form.
