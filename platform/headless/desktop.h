@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/headless/fakeforms.h"
+#include "platform/headless/faketooltips.h"
 #include "platform/headless/roles.h"
 
 #include <functional>
@@ -35,6 +36,7 @@ public:
     FakeTexts texts;
     FakeForms forms{trace, windows};
     FakeFilms films{trace};
+    FakeTooltips tooltips{trace, windows};
 
     std::function<void(const std::string& leaks)> OnLeak;
 };
