@@ -7,6 +7,7 @@
 #include "platform/qt/keys.h"
 #include "platform/qt/peers.h"
 #include "platform/qt/qtdesktop.h"
+#include "platform/qt/qtpicturedata.h"
 
 #include <cmath>
 
@@ -24,6 +25,7 @@ namespace vorlane {
 namespace {
 
 constexpr double kNotch = 120;  // eighths of a degree
+constexpr int16_t kCustomPointer = 99;
 
 float X(const QPointF& place) {
     return static_cast<float>(place.x());
@@ -36,6 +38,14 @@ float Y(const QPointF& place) {
 // The smallest rectangle of whole pixels around a box.
 QRect Around(const Box& box) {
     return QRectF(box.Left, box.Top, box.Width, box.Height).toAlignedRect();
+}
+
+// A pointer of the host's own, pointing with its top left corner.
+QCursor CursorFrom(const Picture& icon, double scale) {
+    const QSize size = (QSizeF(PixelSizeOf(icon)) * scale).toSize();
+    QPixmap pixels = QPixmap::fromImage(RenderPicture(icon, size));
+    pixels.setDevicePixelRatio(scale);
+    return pixels.isNull() ? QCursor(Qt::ArrowCursor) : QCursor(pixels, 0, 0);
 }
 
 // The device pixels of a rectangle.
@@ -127,12 +137,14 @@ void ControlHost::PointAt(const QPointF& place) {
     const Control* under = router_->At(X(place), Y(place));
     while (under != nullptr && under->MousePointer() == 0) under = under->Container();
     const int16_t shape = under == nullptr ? int16_t{0} : under->MousePointer();
-    if (shape == pointer_) return;
+    const Picture icon = shape == kCustomPointer ? under->MouseIcon() : Picture{};
+    if (shape == pointer_ && icon == pointerIcon_) return;
     pointer_ = shape;
+    pointerIcon_ = icon;
     if (shape == 0) {
         unsetCursor();
     } else {
-        setCursor(CursorShapeOf(shape));
+        setCursor(icon.Type() == 0 ? QCursor(CursorShapeOf(shape)) : CursorFrom(icon, devicePixelRatioF()));
     }
 }
 
@@ -162,16 +174,15 @@ void ControlHost::mouseMoveEvent(QMouseEvent* event) {
 void ControlHost::leaveEvent(QEvent* event) {
     QWidget::leaveEvent(event);
     pointer_ = 0;
+    pointerIcon_ = {};
     unsetCursor();
 }
 
 void ControlHost::wheelEvent(QWheelEvent* event) {
     if (!router_) return;
     const QPoint angle = event->angleDelta();
-    turned_ += (angle.y() != 0 ? angle.y() : angle.x()) / kNotch;
-    const double notches = std::trunc(turned_);
-    turned_ -= notches;
-    if (notches != 0) router_->Wheel(notches, X(event->position()), Y(event->position()));
+    const double notches = (angle.y() != 0 ? angle.y() : angle.x()) / kNotch;
+    router_->Wheel(notches, X(event->position()), Y(event->position()));
     event->accept();
 }
 

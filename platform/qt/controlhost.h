@@ -77,7 +77,7 @@ private:
     ScopedConnection damaged_;
     bool shown_ = false;
     int16_t pointer_ = 0;
-    double turned_ = 0;  // of the wheel, less than a notch
+    Picture pointerIcon_;
 };
 
 }  // namespace vorlane

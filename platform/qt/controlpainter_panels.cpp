@@ -91,7 +91,8 @@ void ControlPainter::Visit(const OmbrelSlider& slider) {
     const double part = std::clamp(slider.Value(), 0, 100) / 100.0;
     const double middle = area.left() + area.width() / 2;
     const double radius = std::min(area.width() / 2 - pixel, 3 * pixel);
-    const QRectF track(middle - pixel, area.top() + radius, 2 * pixel, std::max(0.0, area.height() - 2 * radius));
+    const double rest = radius + pixel / 2;  // of the knob beyond the end of its track
+    const QRectF track(middle - pixel, area.top() + rest, 2 * pixel, std::max(0.0, area.height() - 2 * rest));
     const QColor accent = ToQColor(FromSystem(SystemColor::Highlight), tools_.screen);
     const QColor face = ToQColor(FromSystem(SystemColor::ButtonFace), tools_.screen);
     const QColor text = ToQColor(FromSystem(SystemColor::ButtonText), tools_.screen);

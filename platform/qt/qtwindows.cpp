@@ -1,9 +1,13 @@
 #include "platform/qt/qtwindows.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 namespace vorlane {
 
 namespace {
 
+constexpr int32_t kInvalidate = 1;
 constexpr int32_t kUpdateNow = 0x100;
 
 WinRect FromQRect(const QRect& rect) {
@@ -48,12 +52,11 @@ Point QtWindows::ClientToScreen(Hwnd window, Point place) const {
 void QtWindows::RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) {
     QWidget* widget = WidgetOf(window);
     if (widget == nullptr) return;
-    const QRect rect(QPoint(part.Left, part.Top), QPoint(part.Right - 1, part.Bottom - 1));
-    if ((flags & kUpdateNow) != 0) {
-        widget->repaint(rect);
-    } else {
-        widget->update(rect);
-    }
+    const bool now = (flags & kUpdateNow) != 0;
+    // Controls tell all that changes, so what is painted at once is what has changed, and no more.
+    if (now) return QCoreApplication::sendPostedEvents(widget->window(), QEvent::UpdateRequest);
+    if ((flags & kInvalidate) != 0)
+        widget->update(QRect(part.Left, part.Top, part.Right - part.Left, part.Bottom - part.Top));
 }
 
 void QtWindows::Forget() {

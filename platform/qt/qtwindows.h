@@ -20,6 +20,7 @@ public:
     WinRect GetWindowRect(Hwnd window) const override;
     WinRect GetClientRect(Hwnd window) const override;
     Point ClientToScreen(Hwnd window, Point place) const override;
+    // At once: all that has changed in the widget's window, wherever it is.
     void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) override;
 
 private:

@@ -1,0 +1,334 @@
+#include "platform/qt/controlhost.h"
+
+#include "platform/failure.h"
+#include "platform/qt/qtpicturedata.h"
+#include "platform/qt/scrollbarpeer.h"
+#include "platform/qt/textboxpeer.h"
+#include "tests/platform/qt/board.h"
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QToolTip>
+#include <QWheelEvent>
+
+namespace vorlane {
+namespace {
+
+class ControlHostTest : public testing::Test {
+protected:
+    ControlHostTest() { host.resize(200, 100); }
+
+    void Show() {
+        host.show();
+        QCoreApplication::processEvents();
+    }
+
+    void Mouse(QEvent::Type type, QPointF place, Qt::MouseButton button, Qt::MouseButtons held,
+               Qt::KeyboardModifiers modifiers = {}, QWidget* target = nullptr) {
+        QWidget* widget = target == nullptr ? &host : target;
+        QMouseEvent event(type, place, widget->mapToGlobal(place), button, held, modifiers);
+        QCoreApplication::sendEvent(widget, &event);
+    }
+
+    void Click(QPointF place) {
+        Mouse(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton);
+        Mouse(QEvent::MouseButtonRelease, place, Qt::LeftButton, Qt::NoButton);
+    }
+
+    static bool Key(QWidget& widget, QEvent::Type type, int key, const QString& text = {},
+                    Qt::KeyboardModifiers modifiers = {}) {
+        QKeyEvent event(type, key, modifiers, text);
+        QCoreApplication::sendEvent(&widget, &event);
+        return event.isAccepted();
+    }
+
+    QtDesktop desktop;
+    test::BoardHost host{desktop};
+    test::Board& board = host.board;
+};
+
+// --- Life cycle ---
+
+TEST_F(ControlHostTest, AControlIsInitialisedThenSizedThenShown) {
+    board.log.clear();
+    Show();
+    EXPECT_EQ(board.log, "200x100 show ");
+    host.resize(150, 80);
+    EXPECT_EQ(board.log, "200x100 show 150x80 ");
+    host.hide();
+    host.show();
+    EXPECT_EQ(board.log, "200x100 show 150x80 ");
+}
+
+TEST_F(ControlHostTest, TheControlKnowsItsWindow) {
+    EXPECT_NE(board.Hwnd(), 0);
+    EXPECT_EQ(desktop.windows.WidgetOf(board.Hwnd()), &host);
+}
+
+// --- Mouse ---
+
+TEST_F(ControlHostTest, APressReachesTheControlUnderIt) {
+    Show();
+    board.image.Move(10, 20, 30, 30);
+    board.image.SetVisible(true);
+    std::string heard;
+    board.image.Input.MouseDown.connect([&](int16_t button, int16_t shift, float x, float y) {
+        heard = std::to_string(button) + " " + std::to_string(shift) + " " + std::to_string(static_cast<int>(x)) + "," +
+                std::to_string(static_cast<int>(y));
+    });
+    Mouse(QEvent::MouseButtonPress, {12, 25}, Qt::RightButton, Qt::RightButton, Qt::ControlModifier);
+    EXPECT_EQ(heard, "2 2 30,75");
+    Mouse(QEvent::MouseButtonRelease, {12, 25}, Qt::RightButton, Qt::NoButton);
+}
+
+TEST_F(ControlHostTest, ADoubleClickOfQtIsOneOfTheRouter) {
+    Show();
+    std::string heard;
+    board.Input.MouseDown.connect([&](int16_t, int16_t, float, float) { heard += "down "; });
+    board.Input.Click.connect([&] { heard += "click "; });
+    board.Input.DblClick.connect([&] { heard += "double "; });
+    Click({50, 50});
+    Mouse(QEvent::MouseButtonDblClick, {50, 50}, Qt::LeftButton, Qt::LeftButton);
+    Mouse(QEvent::MouseButtonRelease, {50, 50}, Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(heard, "down click double ");
+}
+
+TEST_F(ControlHostTest, ThePointerIsThatOfTheInnermostControlThatHasOne) {
+    Show();
+    board.SetMousePointer(2);
+    board.image.Move(10, 10, 20, 20);
+    board.image.SetVisible(true);
+    Mouse(QEvent::MouseMove, {15, 15}, Qt::NoButton, Qt::NoButton);
+    EXPECT_EQ(host.cursor().shape(), Qt::CrossCursor);
+    board.image.SetMousePointer(3);
+    Mouse(QEvent::MouseMove, {16, 15}, Qt::NoButton, Qt::NoButton);
+    EXPECT_EQ(host.cursor().shape(), Qt::IBeamCursor);
+    board.SetMousePointer(0);
+    Mouse(QEvent::MouseMove, {100, 50}, Qt::NoButton, Qt::NoButton);
+    EXPECT_EQ(host.cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(ControlHostTest, APointerOfTheHostsOwnIsItsPicture) {
+    Show();
+    QImage icon(16, 16, QImage::Format_RGB32);
+    icon.fill(Qt::red);
+    board.SetMousePointer(99);
+    Mouse(QEvent::MouseMove, {15, 15}, Qt::NoButton, Qt::NoButton);
+    EXPECT_EQ(host.cursor().shape(), Qt::ArrowCursor);
+    board.SetMouseIcon(PictureFromImage(icon));
+    Mouse(QEvent::MouseMove, {16, 15}, Qt::NoButton, Qt::NoButton);
+    EXPECT_EQ(host.cursor().shape(), Qt::BitmapCursor);
+}
+
+TEST_F(ControlHostTest, ATooltipComesFromTheControlUnderThePointerOrItsContainer) {
+    Show();
+    board.image.Move(10, 10, 20, 20);
+    board.image.SetVisible(true);
+    board.image.SetToolTipText("a < b");
+    QHelpEvent over(QEvent::ToolTip, {15, 15}, host.mapToGlobal(QPoint(15, 15)));
+    QCoreApplication::sendEvent(&host, &over);
+    EXPECT_EQ(QToolTip::text(), "a &lt; b");
+    QHelpEvent beside(QEvent::ToolTip, {100, 50}, host.mapToGlobal(QPoint(100, 50)));
+    QCoreApplication::sendEvent(&host, &beside);
+    board.SetToolTipText("board");
+    QCoreApplication::sendEvent(&host, &beside);
+    EXPECT_EQ(QToolTip::text(), "board");
+    QToolTip::hideText();
+}
+
+// --- Keys ---
+
+TEST_F(ControlHostTest, AKeyIsToldAsCodeThenAsCharacter) {
+    Show();
+    std::string heard;
+    board.Input.KeyDown.connect([&](int16_t& code, int16_t shift) {
+        heard += "down " + std::to_string(code) + " " + std::to_string(shift) + ";";
+    });
+    board.Input.KeyPress.connect([&](int16_t& character) { heard += "press " + std::to_string(character) + ";"; });
+    board.Input.KeyUp.connect([&](int16_t& code, int16_t) { heard += "up " + std::to_string(code) + ";"; });
+    EXPECT_FALSE(Key(host, QEvent::KeyPress, Qt::Key_A, "A", Qt::ShiftModifier));
+    EXPECT_TRUE(desktop.keyboard.KeyIsDown(65));
+    Key(host, QEvent::KeyRelease, Qt::Key_A);
+    EXPECT_FALSE(desktop.keyboard.KeyIsDown(65));
+    EXPECT_EQ(heard, "down 65 1;press 65;up 65;");
+}
+
+TEST_F(ControlHostTest, ASwallowedKeyMakesNoCharacterAndGoesNoFurther) {
+    Show();
+    int characters = 0;
+    board.Input.KeyDown.connect([](int16_t& code, int16_t) { code = 0; });
+    board.Input.KeyPress.connect([&](int16_t&) { ++characters; });
+    EXPECT_TRUE(Key(host, QEvent::KeyPress, Qt::Key_A, "a"));
+    EXPECT_EQ(characters, 0);
+}
+
+TEST_F(ControlHostTest, AHandlerThatThrowsEndsInTheHost) {
+    Show();
+    board.Input.MouseDown.connect([](int16_t, int16_t, float, float) { throw std::runtime_error("press"); });
+    board.Input.KeyDown.connect([](int16_t&, int16_t) { throw std::runtime_error("key"); });
+    Click({50, 50});
+    Key(host, QEvent::KeyPress, Qt::Key_A, "a");
+    SUCCEED();
+}
+
+// --- Painting ---
+
+TEST_F(ControlHostTest, TheWidgetShowsTheControl) {
+    Show();
+    board.tile.Move(10, 10, 20, 20);
+    board.tile.SetVisible(true);
+    const QImage image = host.grab().toImage();
+    EXPECT_EQ(image.pixel(15, 15), qRgb(0, 0, 200));
+    EXPECT_EQ(image.pixel(35, 15), qRgb(255, 255, 255));
+    EXPECT_EQ(image.pixel(199, 99), qRgb(255, 255, 255));
+}
+
+TEST_F(ControlHostTest, ARedrawAtOncePaintsWhatHasChanged) {
+    Show();
+    const auto replayed = [&] { return board.tile.Surface().Image(); };
+    board.tile.Move(10, 10, 20, 20);
+    board.tile.SetVisible(true);
+    board.tile.Surface().Line(0, 0, 5, 5, 0);
+    EXPECT_EQ(replayed(), nullptr);
+    desktop.windows.RedrawWindow(board.Hwnd(), {0, 0, 200, 100}, 0x101);
+    EXPECT_NE(replayed(), nullptr);
+}
+
+// --- Peers ---
+
+class ScrollBarPeerTest : public ControlHostTest {
+protected:
+    ScrollBarPeerTest() {
+        board.bar.SetMax(1000);
+        board.bar.SetSmallChange(10);
+        board.bar.SetLargeChange(100);
+        board.bar.SetAlign(Align::Right);
+        board.bar.SetVisible(true);
+        Show();
+        board.bar.Change.connect([&](int32_t value) { heard += "change " + std::to_string(value) + ";"; });
+        board.bar.Scroll.connect([&](int32_t value) { heard += "scroll " + std::to_string(value) + ";"; });
+        board.bar.Input.MouseDown.connect([&](int16_t, int16_t, float, float) { heard += "down;"; });
+        board.bar.Input.MouseUp.connect([&](int16_t, int16_t, float, float) { heard += "up;"; });
+    }
+
+    ScrollBarPeer& Peer() { return *host.findChild<ScrollBarPeer*>(); }
+
+    QRect Part(QStyle::SubControl part) {
+        QStyleOptionSlider option;
+        option.initFrom(&Peer());
+        option.orientation = Qt::Vertical;
+        option.minimum = Peer().minimum();
+        option.maximum = Peer().maximum();
+        option.sliderPosition = Peer().sliderPosition();
+        option.sliderValue = Peer().value();
+        option.singleStep = Peer().singleStep();
+        option.pageStep = Peer().pageStep();
+        return Peer().style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &Peer());
+    }
+
+    std::string heard;
+};
+
+TEST_F(ScrollBarPeerTest, FollowsTheModel) {
+    EXPECT_EQ(Peer().geometry(), QRect(184, 0, 16, 100));
+    EXPECT_TRUE(Peer().isVisible());
+    board.bar.SetValue(300);
+    EXPECT_EQ(Peer().value(), 300);
+    EXPECT_EQ(Peer().pageStep(), 100);
+    board.bar.SetMax(200);
+    EXPECT_EQ(Peer().value(), 200);
+    board.bar.SetVisible(false);
+    EXPECT_FALSE(Peer().isVisible());
+    EXPECT_EQ(heard, "change 300;change 200;");
+}
+
+TEST_F(ScrollBarPeerTest, AnArrowStepsByTheSmallChange) {
+    const QPoint arrow = Part(QStyle::SC_ScrollBarAddLine).center();
+    Mouse(QEvent::MouseButtonPress, arrow, Qt::LeftButton, Qt::LeftButton, {}, &Peer());
+    Mouse(QEvent::MouseButtonRelease, arrow, Qt::LeftButton, Qt::NoButton, {}, &Peer());
+    EXPECT_EQ(board.bar.Value(), 10);
+    EXPECT_EQ(heard, "down;change 10;up;");
+}
+
+TEST_F(ScrollBarPeerTest, ADraggedThumbScrollsAndChangesWhenItIsLetGo) {
+    const QPoint thumb = Part(QStyle::SC_ScrollBarSlider).center();
+    Mouse(QEvent::MouseButtonPress, thumb, Qt::LeftButton, Qt::LeftButton, {}, &Peer());
+    Mouse(QEvent::MouseMove, thumb + QPoint(0, 20), Qt::NoButton, Qt::LeftButton, {}, &Peer());
+    EXPECT_EQ(board.bar.Value(), 0);
+    EXPECT_EQ(heard.rfind("down;scroll ", 0), 0U) << heard;
+    heard.clear();
+    Mouse(QEvent::MouseButtonRelease, thumb + QPoint(0, 20), Qt::LeftButton, Qt::NoButton, {}, &Peer());
+    EXPECT_GT(board.bar.Value(), 0);
+    EXPECT_EQ(heard, "change " + std::to_string(board.bar.Value()) + ";up;");
+}
+
+TEST_F(ScrollBarPeerTest, TheWheelOverTheBarGoesToTheControl) {
+    QWheelEvent event({5, 50}, Peer().mapToGlobal(QPointF(5, 50)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QCoreApplication::sendEvent(&Peer(), &event);
+    EXPECT_EQ(board.bar.Value(), 0);  // this control makes nothing of it
+    EXPECT_EQ(Peer().value(), 0);
+}
+
+class TextBoxPeerTest : public ControlHostTest {
+protected:
+    TextBoxPeerTest() {
+        board.box.Move(10, 10, 100, 24);
+        board.box.SetVisible(true);
+        Show();
+        host.activateWindow();
+    }
+
+    TextBoxPeer& Peer() { return *host.findChild<TextBoxPeer*>(); }
+};
+
+TEST_F(TextBoxPeerTest, FollowsTextAndSelectionInCharacters) {
+    board.box.SetText(
+        "a\xF0\x9F\x8E\xB5"
+        "bc");  // a note between a and b
+    board.box.SetSelStart(1);
+    board.box.SetSelLength(2);
+    EXPECT_EQ(Peer().geometry(), QRect(10, 10, 100, 24));
+    EXPECT_EQ(Peer().text().toStdString(),
+              "a\xF0\x9F\x8E\xB5"
+              "bc");
+    EXPECT_EQ(Peer().selectedText().toStdString(),
+              "\xF0\x9F\x8E\xB5"
+              "b");
+}
+
+TEST_F(TextBoxPeerTest, TypingReachesTheModel) {
+    board.box.SetText("ab");
+    board.box.SetSelStart(1);
+    board.box.SetFocus();
+    Key(Peer(), QEvent::KeyPress, Qt::Key_X, "x");
+    EXPECT_EQ(board.box.Text(), "axb");
+    EXPECT_EQ(board.box.SelStart(), 2);
+    EXPECT_EQ(board.box.SelLength(), 0);
+    Peer().selectAll();
+    EXPECT_EQ(board.box.SelStart(), 0);
+    EXPECT_EQ(board.box.SelLength(), 3);
+}
+
+TEST_F(TextBoxPeerTest, ASwallowedCharacterIsNotTyped) {
+    board.box.SetText("ab");
+    Peer().setFocus();
+    host.Router().SetFocus(&board.box);
+    board.box.Input.KeyPress.connect([](int16_t& character) {
+        if (character == '/') character = 0;
+    });
+    Key(Peer(), QEvent::KeyPress, Qt::Key_Slash, "/");
+    EXPECT_EQ(board.box.Text(), "ab");
+    Key(Peer(), QEvent::KeyPress, Qt::Key_X, "x");
+    EXPECT_EQ(board.box.Text(), "xab");
+}
+
+}  // namespace
+}  // namespace vorlane
