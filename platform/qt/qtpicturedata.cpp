@@ -23,10 +23,21 @@ bool Holds(QSize outer, QSize inner) {
     return outer.width() >= inner.width() && outer.height() >= inner.height();
 }
 
+// Qt numbers its images; ours are counted beyond its numbers.
+uint64_t NextSerial() {
+    static std::atomic<uint64_t> last = uint64_t{1} << 63;
+    return ++last;
+}
+
 class ImageData final : public QtPictureData {
 public:
-    explicit ImageData(QImage image) : QtPictureData(image), image_(std::move(image)) {}
-    QImage Render(QSize pixels) const override { return Scaled(image_, pixels); }
+    explicit ImageData(QImage image) : image_(std::move(image)) {}
+    uint64_t Serial() const override { return static_cast<uint64_t>(image_.cacheKey()); }
+    QImage Render(QSize pixels) const override {
+        QImage image = Scaled(image_, pixels);
+        image.setDevicePixelRatio(1);
+        return image;
+    }
 
 private:
     QImage image_;
@@ -35,6 +46,8 @@ private:
 class FileData final : public QtPictureData {
 public:
     FileData(std::string path, picturefile::Decoded kept) : path_(std::move(path)), kept_(std::move(kept)) {}
+
+    uint64_t Serial() const override { return serial_; }
 
     QImage Render(QSize pixels) const override {
         const bool enough = Holds(kept_.image.size(), pixels) || (!kept_.vector && kept_.image.size() == kept_.size);
@@ -49,6 +62,7 @@ private:
         return bytes ? picturefile::DecodeTo(*bytes, pixels) : QImage();
     }
 
+    uint64_t serial_ = NextSerial();
     std::string path_;
     picturefile::Decoded kept_;
 };
@@ -59,6 +73,8 @@ public:
         if (!renderer_.load(svg)) throw failures::InvalidPicture();
     }
 
+    uint64_t Serial() const override { return serial_; }
+
     QImage Render(QSize pixels) const override {
         QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
@@ -68,20 +84,11 @@ public:
     }
 
 private:
+    uint64_t serial_ = NextSerial();
     mutable QSvgRenderer renderer_;
 };
 
 }  // namespace
-
-QtPictureData::QtPictureData() {
-    static std::atomic<uint64_t> last = 0;
-    serial_ = ++last;
-}
-
-QtPictureData::QtPictureData(const QImage& image) {
-    constexpr uint64_t kShared = uint64_t{1} << 63;
-    serial_ = static_cast<uint64_t>(image.cacheKey()) | kShared;
-}
 
 Picture PictureFromImage(const QImage& image) {
     const QSizeF size = image.deviceIndependentSize();
@@ -90,9 +97,7 @@ Picture PictureFromImage(const QImage& image) {
 
 Picture PictureFromImage(const QImage& image, double width, double height) {
     if (image.isNull()) return {};
-    QImage pixels = image;
-    pixels.setDevicePixelRatio(1);
-    return {PictureType::Bitmap, width, height, std::make_shared<ImageData>(std::move(pixels))};
+    return {PictureType::Bitmap, width, height, std::make_shared<ImageData>(image)};
 }
 
 Picture PictureFromFile(const std::string& path) {

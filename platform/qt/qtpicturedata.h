@@ -15,17 +15,10 @@ namespace vorlane {
 
 class QtPictureData : public PictureData {
 public:
-    QtPictureData();
-    // For pictures of an image that others may hold as well.
-    explicit QtPictureData(const QImage& image);
-
-    // Different for any two pictures ever made, but for those of one and the same image.
-    uint64_t Serial() const { return serial_; }
+    // Different for any two pictures ever made, save for those made from copies of one image.
+    virtual uint64_t Serial() const = 0;
     // The whole picture in exactly that many pixels, each side 1 or more. Never null, save for want of memory.
     virtual QImage Render(QSize pixels) const = 0;
-
-private:
-    uint64_t serial_;
 };
 
 // The longest side of what is kept of a picture file, in pixels. A JPEG of 24 megapixels decodes to it at an eighth of

@@ -95,6 +95,18 @@ TEST_F(ControlPainterTest, APictureIsScaledOnceForOneSize) {
     EXPECT_EQ(desktop.scaled.Renders(), before + 1);
 }
 
+TEST_F(ControlPainterTest, OneImageGivenTwiceIsScaledOnce) {
+    const QImage image = Plain(70, 30);
+    board.image.SetPicture(PictureFromImage(image));
+    board.image.Move(10, 20, 30, 15);
+    board.image.SetVisible(true);
+    Paint();
+    const int64_t before = desktop.scaled.Renders();
+    board.image.SetPicture(PictureFromImage(image));
+    Paint();
+    EXPECT_EQ(desktop.scaled.Renders(), before);
+}
+
 TEST_F(ControlPainterTest, ADensePictureIsAsSharpAsTheScreen) {
     QImage stripes(40, 20, QImage::Format_RGB32);
     for (int y = 0; y < 20; ++y) {
