@@ -218,17 +218,19 @@ Vorlane::NextCell Vorlane::FindNextCell(bool blank) {
     return cell;
 }
 
-// Loads the next slide, blank but for the selection of its item. Slide 0 keeps still until the slide is filled.
+// Loads the next slide, blank but for the selection of its item, which is asked for first: a list that fails leaves no
+// slide without a place behind. Slide 0 keeps still until the slide is filled.
 int16_t Vorlane::LoadFor(int32_t listIndex) {
+    const bool bound = listIndex > -1;
+    const bool selected = bound && Bound().Selected(listIndex);
     First().SetNoResize(true);
     const int16_t index = ToInt16(Diapo.Count());
     Diapo.Load(index);
     ResetDiapo(index);
     const auto slide = Diapo.Item(index);
-    slide->SetBackColorSelected(selection_.SelectedColor);
-    if (listIndex <= -1) return index;
-    if (listIndex == selection_.CurrentListIndex) slide->SetBackColorSelected(selection_.BackColorCurrent);
-    slide->SetSelected(Bound().Selected(listIndex));
+    const bool current = bound && listIndex == selection_.CurrentListIndex;
+    slide->SetBackColorSelected(current ? selection_.BackColorCurrent : selection_.SelectedColor);
+    if (bound) slide->SetSelected(selected);
     return index;
 }
 

@@ -123,7 +123,7 @@ void Vorlane::InitListe(ListeModeType mode, ListControl* newList, const std::str
             if (!newPath.empty()) SetPath(newPath);
             if (!newPattern.empty()) SetPattern(newPattern);
             Clear();
-            if (items_.InternalCopy) LstCopy(items_.Path, items_.StdSortArgs);
+            if (items_.InternalCopy) LstCopy();
         }
     };
     const auto report = [&](const Failure& failure) {
@@ -174,7 +174,7 @@ void Vorlane::FolderChanged(const std::function<void(FileListBox&)>& follow) {
     ListControl& list = Bound();
     if (list.AsListBox() != nullptr && list.Hwnd() == LstInterne.Hwnd()) items_.InternalCopy = true;
     if (FileListBox* files = list.AsFileListBox()) follow(*files);
-    if (!items_.FromInit && items_.InternalCopy) LstCopy(items_.Path, items_.StdSortArgs);
+    if (!items_.FromInit && items_.InternalCopy) LstCopy();
 }
 
 // --- Reading folders ---
@@ -183,8 +183,11 @@ std::string Vorlane::SortKey(const std::string& fileName, int32_t mask) const {
     return sort_.Sorted ? BuildSortKey(fileName, mask) : std::string();
 }
 
-// Items that are read from a folder keep the key 0.
-void Vorlane::LstCopy(const std::string& path, int32_t args) {
+// Items that are read from a folder keep the key 0. A handler that sets another path meanwhile changes the folder
+// under the reading, which then ends with a failure.
+void Vorlane::LstCopy() {
+    const std::string path = items_.Path;
+    const int32_t args = items_.StdSortArgs;
     const auto copy = [&] {
         items_.InternalCopy = false;
         if (!Ambient().UserMode || !items_.ListAutoFill || path.empty() || items_.Pattern.empty()) return;

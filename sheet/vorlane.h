@@ -117,7 +117,9 @@ public:
     // Gives all slides (dimAll) of a sheet that shows some another size, in pixels; otherwise only slide 0.
     void DiapoSizeChange(bool dimAll, int16_t newWidth, int16_t newHeight);
     // A reduced copy of picture, as slide 0 makes it.
-    std::optional<vorlane::Picture> Thumb(const vorlane::Picture& picture, int16_t resolution = -1) const;
+    std::optional<vorlane::Picture> Thumb(const vorlane::Picture& picture, int16_t resolution = -1) const {
+        return First().Thumb(picture, resolution);
+    }
 
     // --- State ---
     int16_t Count() const;  // items; fails with Overflow() beyond 16 bits
@@ -432,7 +434,7 @@ private:
     std::optional<ListItem> NextItem(int32_t listIndex) const;
     bool BindList(ListeModeType mode, ListControl* newList);
     void FolderChanged(const std::function<void(FileListBox&)>& follow);
-    void LstCopy(const std::string& path, int32_t args);
+    void LstCopy();
     int32_t AddFolder(const std::string& folder, int32_t insertBefore);
     std::string SortKey(const std::string& fileName, int32_t mask) const;
 

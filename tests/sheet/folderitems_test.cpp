@@ -1,0 +1,78 @@
+#include "sheet/folderitems.h"
+
+#include "tests/sheet/tempfolder.h"
+#include "tests/sheet/vectorlistbox.h"
+
+#include <gtest/gtest.h>
+
+namespace vorlane {
+namespace {
+
+class FolderItemsTest : public ::testing::Test {
+protected:
+    TempFolder folder;
+    VectorListBox list{500};
+    FileListBox reader{501};
+    FolderRules rules{"*.*", [](const std::string&) { return std::string("k"); }, {}};
+
+    int32_t AddFolder(int32_t insertBefore = -1) {
+        return AddFolderItems(list, reader, folder.Path(), insertBefore, rules);
+    }
+    // Names and keys.
+    std::string Items() const {
+        std::string text;
+        for (int32_t i = 0; i < list.ListCount(); ++i) {
+            const std::string item = list.List(i);
+            text += item.substr(item.rfind('/') + 1) + "=" + std::to_string(list.ItemData(i)) + " ";
+        }
+        return text;
+    }
+};
+
+TEST_F(FolderItemsTest, AFolderThatIsNotThereGivesNothing) {
+    EXPECT_EQ(AddFolderItems(list, reader, "/nowhere", -1, rules), 0);
+}
+
+TEST_F(FolderItemsTest, FilesComeInWithSortDataAndFullName) {
+    folder.File("a.jpg");
+    EXPECT_EQ(AddFolder(), 1);
+    EXPECT_EQ(list.List(0), "k\t" + folder.Path() + "a.jpg");
+}
+
+TEST_F(FolderItemsTest, FilesThatDoNotMatchThePatternAreLeftOut) {
+    for (const char* name : {"a.jpg", "b.png", "c", "d.JPG"}) folder.File(name);
+    rules.Pattern = "*.jpg";
+    const int32_t added = AddFolder();
+    EXPECT_EQ(added, list.ListCount());
+    EXPECT_EQ(Items().find("b.png"), std::string::npos);
+    EXPECT_EQ(Items().find("c="), std::string::npos);
+    EXPECT_NE(Items().find("a.jpg"), std::string::npos);
+}
+
+TEST_F(FolderItemsTest, TheFirstIndexBecomesTheKeyAndStandsForTheOthers) {
+    list.AddItem("\t/p/z.jpg");
+    for (const char* name : {"a.jpg", "b.jpg"}) folder.File(name);
+    EXPECT_EQ(AddFolder(), 2);
+    EXPECT_EQ(Items(), "z.jpg=0 a.jpg=1 b.jpg=1 ");
+}
+
+TEST_F(FolderItemsTest, EachFileGoesInFrontOfTheSamePlace) {
+    list.AddItem("\t/p/z.jpg");
+    for (const char* name : {"a.jpg", "b.jpg"}) folder.File(name);
+    AddFolder(0);
+    EXPECT_EQ(Items(), "b.jpg=0 a.jpg=0 z.jpg=0 ");
+}
+
+TEST_F(FolderItemsTest, WhatTheHostLeftStandsForTheNextFile) {
+    for (const char* name : {"a.jpg", "b.jpg", "c.jpg", "d.jpg"}) folder.File(name);
+    rules.Offer = [this](const std::string& file, int32_t& key, bool& cancel) {
+        if (file == folder.Path() + "a.jpg") key = 70;
+        if (file == folder.Path() + "b.jpg") cancel = true;
+        if (file == folder.Path() + "d.jpg") cancel = false;
+    };
+    EXPECT_EQ(AddFolder(), 2);
+    EXPECT_EQ(Items(), "a.jpg=70 d.jpg=70 ");
+}
+
+}  // namespace
+}  // namespace vorlane

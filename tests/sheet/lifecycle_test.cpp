@@ -1,0 +1,201 @@
+// The sheet from its making to its end, and what it persists.
+#include "tests/sheet/sheetfixture.h"
+
+namespace vorlane {
+namespace {
+
+class LifecycleTest : public SheetTest {
+protected:
+    static const Vorlane::PersistedProperty& Property(const std::string& key) {
+        for (const auto& property : Vorlane::PersistedProperties()) {
+            if (property.Key == key) return property;
+        }
+        throw std::out_of_range(key);
+    }
+    // Another value of the same kind, that the property can hold.
+    static BagValue Other(const std::string& key, const BagValue& value) {
+        if (const bool* flag = std::get_if<bool>(&value)) return !*flag;
+        if (key == "ScrollDirection") return int64_t{1};
+        if (const int64_t* number = std::get_if<int64_t>(&value)) return *number == 1 ? int64_t{2} : int64_t{1};
+        if (std::holds_alternative<std::string>(value)) return std::string("other");
+        if (std::holds_alternative<Font>(value)) return Font{"Other", 9};
+        return headless::FakePictures::Make("other", 4, 4);
+    }
+};
+
+TEST_F(LifecycleTest, TheChildrenThatAGestureShowsStartUnseenAndTheTimersStopped) {
+    EXPECT_FALSE(sheet->Txt.Visible() || sheet->Jauge.Visible() || sheet->ImgDrag.Visible() ||
+                 sheet->SelRect.Visible());
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+    EXPECT_EQ(sheet->TimerSon.Interval(), 1000);
+    EXPECT_EQ(sheet->TimerDrag.Interval(), 10);
+    EXPECT_EQ(sheet->TimerResize.Interval(), 1);
+    EXPECT_EQ(sheet->TimerUnload.Interval(), 100);
+    EXPECT_EQ(sheet->Liste(), &sheet->LstInterne);
+    EXPECT_EQ(sheet->Pattern(), "*.*");
+}
+
+TEST_F(LifecycleTest, TheSheetsOwnListsHaveHandlesOfTheirOwn) {
+    EXPECT_NE(sheet->LstInterne.Hwnd(), 0);
+    EXPECT_NE(sheet->LstInterne.Hwnd(), sheet->FileInterne.Hwnd());
+    EXPECT_NE(sheet->FileInterne.Hwnd(), sheet->TmpFile.Hwnd());
+    EXPECT_NE(sheet->LstInterne.Hwnd(), sheet->TmpFile.Hwnd());
+}
+
+TEST_F(LifecycleTest, ASheetPlacedNewShowsThumbnailsAndLeavesTheirSizeOpen) {
+    window.Host(*sheet);
+    EXPECT_TRUE(sheet->Thumbnail());
+    EXPECT_EQ(sheet->ThumbnailSizeNormal(), 0);
+    EXPECT_EQ(sheet->Marges(), 5);
+    EXPECT_EQ(sheet->MargeDiapoMin(), 5);
+    EXPECT_TRUE(sheet->MargeDiapoAutoAdjust() && sheet->ListAutoFill() && sheet->ShowJauge() &&
+                sheet->SelectionMultiple() && sheet->Sorted());
+    EXPECT_FALSE(sheet->JaugeAnimation());
+    EXPECT_EQ(sheet->SortedSens(), SortSensType::ssAscending);
+    EXPECT_EQ(sheet->ScrollDirection(), ScrollDirectionType::sdVertical);
+    EXPECT_EQ(sheet->BackColorCurrent(), 8249597U);
+    EXPECT_EQ(sheet->BackColorSelected(), 7321083U);
+    AddItems(0, 0);
+    sheet->StartLecture();
+    EXPECT_EQ(sheet->Diapo.Item(0)->ThumbnailSizeNormal(), 100) << "the longer side of the slide";
+}
+
+TEST_F(LifecycleTest, AnEmptyBagGivesTheDefaults) {
+    Start();
+    EXPECT_FALSE(sheet->Thumbnail());
+    EXPECT_EQ(sheet->ThumbnailSizeNormal(), 150);
+    EXPECT_EQ(sheet->ThumbnailSizeHigh(), 500);
+    EXPECT_EQ(sheet->DiapoWidth(), 100);
+    EXPECT_EQ(sheet->DiapoHeight(), 75);
+    EXPECT_EQ(sheet->BorderSize(), 4);
+    EXPECT_EQ(sheet->BorderStyleDiapo(), DiapoBorderStyle::BorderSunken);
+    EXPECT_EQ(sheet->BorderStyleDiapoExt(), DiapoBorderStyle::FlatBackColor);
+    EXPECT_EQ(sheet->BorderColorDiapo(), 0x8C021BU);
+    EXPECT_EQ(sheet->ShadowColor(), 0xB4B4B4U);
+    EXPECT_EQ(sheet->BackColor(), 0x8000000FU);
+    EXPECT_EQ(sheet->BackColorDiapo(), 0x8000000FU);
+    EXPECT_EQ(sheet->ScrollWindowBackColor(), 0xFFFFFFU);
+    EXPECT_FALSE(sheet->BorderDouble() || sheet->ShowDiapoTools());
+}
+
+TEST_F(LifecycleTest, TheTableHasAllKeysInTheOrderOfReading) {
+    std::string keys;
+    for (const auto& property : Vorlane::PersistedProperties()) keys += property.Key + " ";
+    EXPECT_EQ(
+        keys,
+        "BackColor BorderStyle Enabled AutoAdjust AutoCornerResize BackColorDiapo BackColorSelected "
+        "BorderColorDiapo BorderColorDiapoExt BorderDouble BorderSize BorderStyleDiapo BorderStyleDiapoExt "
+        "CaptionWait ImageMarge ShadowColor ShadowWidth ShowShadow ShowDiapoTools ForeColor MouseIcon MousePointer "
+        "LegendeFont LegendeNbLig FontImageName SortedSens Thumbnail ThumbnailResolution ThumbnailSizeNormal "
+        "ThumbnailSizeHigh DiapoHeight DiapoWidth ShowFileName ShowInfo ShowZoom ListAutoFill Marges MargeDiapoMin "
+        "MargeDiapoAutoAdjust ShowJauge ScrollDirection ScrollWindowPos ScrollWindowWidth ScrollWindowBackColor "
+        "SelectionMultiple Sorted BackColorCurrent OLEDropMode OLEDragMode JaugeAnimation ");
+}
+
+TEST_F(LifecycleTest, AValueThatEqualsItsDefaultIsNotStored) {
+    Start();
+    PropertyBag bag;
+    sheet->WriteProperties(bag);
+    EXPECT_TRUE(bag.Empty());
+}
+
+TEST_F(LifecycleTest, EveryPersistedPropertyComesBackFromItsBag) {
+    PropertyBag saved;
+    for (const auto& property : Vorlane::PersistedProperties()) {
+        saved.SetValue(property.Key, Other(property.Key, property.Default(*sheet)));
+    }
+    Start(saved);
+    PropertyBag again;
+    sheet->WriteProperties(again);
+    for (const auto& [key, value] : saved.Values()) {
+        const auto stored = again.Value(key);
+        ASSERT_TRUE(stored) << key;
+        EXPECT_EQ(*stored, value) << key;
+    }
+}
+
+TEST_F(LifecycleTest, ABadValueLeavesTheDefaultAndTheNextKeysAreRead) {
+    PropertyBag bag;
+    bag.SetValue("Marges", std::string("wide"));
+    bag.SetValue("BorderSize", int64_t{300});
+    bag.SetValue("MargeDiapoMin", int64_t{12});
+    Start(bag);
+    EXPECT_EQ(sheet->Marges(), 5);
+    EXPECT_EQ(sheet->BorderSize(), 4);
+    EXPECT_EQ(sheet->MargeDiapoMin(), 12);
+}
+
+TEST_F(LifecycleTest, TheSelectionColourOfTheBagIsTheOneThatBlankSlidesGet) {
+    PropertyBag bag;
+    bag.SetValue("BackColorSelected", int64_t{0x101010});
+    Start(bag);
+    AddItems(0, 0);
+    sheet->StartLecture();
+    sheet->SetBackColorSelected(0x202020);
+    sheet->Clear();
+    EXPECT_EQ(sheet->Diapo.Item(0)->BackColorSelected(), 0x101010U);
+}
+
+TEST_F(LifecycleTest, AtRunTimeSlideZeroStartsHiddenAndInADesignerItShows) {
+    Start();
+    EXPECT_FALSE(sheet->Diapo.Item(0)->Visible());
+    Ambient ambient = window.Ambient();
+    ambient.UserMode = false;
+    Make(ambient);
+    Start();
+    EXPECT_TRUE(sheet->Diapo.Item(0)->Visible());
+}
+
+TEST_F(LifecycleTest, NoResizeCountsBeforeTheStart) {
+    sheet->Move(0, 0, 900, 700);
+    EXPECT_EQ(sheet->CountDiapo(), 0);
+    Start();
+    EXPECT_EQ(sheet->CountDiapo(), 9);
+}
+
+TEST_F(LifecycleTest, EndingTwiceIsHarmless) {
+    Show(3);
+    sheet->TimerSon.SetEnabled(true);
+    sheet->TimerDrag.SetEnabled(true);
+    sheet->TimerResize.SetEnabled(true);
+    sheet->TimerUnload.SetEnabled(true);
+    sheet->Terminate();
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+    EXPECT_EQ(sheet->Liste(), nullptr);
+    sheet->Terminate();
+    sheet.reset();
+}
+
+TEST_F(LifecycleTest, AnEndedSheetReportsThatItHasNoList) {
+    Show(3);
+    sheet->Terminate();
+    EXPECT_EQ(sheet->Add("/p/a.jpg", ""), 0);
+    EXPECT_EQ(sheet->StartLecture(), 0);
+    EXPECT_EQ(Heard(),
+              "host Error 91 Vorlane Add /p/a.jpg -  - -1 - -1\n"
+              "host Error 91 Vorlane StartLecture DpCnt=3 -  - -1\n");
+    EXPECT_THROW(sheet->Count(), Failure);
+}
+
+TEST_F(LifecycleTest, TheWheelTurnsTheBarByWholeRows) {
+    Show(40);
+    EXPECT_TRUE(sheet->Wheel(-1));
+    EXPECT_EQ(sheet->VScroll.Value(), 3);
+    sheet->Wheel(-0.5);
+    EXPECT_EQ(sheet->VScroll.Value(), 3);
+    sheet->Wheel(-0.5);
+    EXPECT_EQ(sheet->VScroll.Value(), 6);
+    sheet->Wheel(50);
+    EXPECT_EQ(sheet->VScroll.Value(), 0);
+    sheet->Wheel(-500);
+    EXPECT_EQ(sheet->VScroll.Value(), sheet->VScroll.Max());
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(LifecycleTest, TheWheelIsNotUsedWithoutABar) {
+    Show(3);
+    EXPECT_FALSE(sheet->Wheel(-1));
+}
+
+}  // namespace
+}  // namespace vorlane
