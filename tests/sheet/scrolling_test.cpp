@@ -1,0 +1,259 @@
+// Scrolling over the pool of slides.
+#include "tests/sheet/sheetfixture.h"
+
+namespace vorlane {
+namespace {
+
+class ScrollingTest : public SheetTest {
+protected:
+    void ShowSideways(int32_t items, int32_t width = kWidth) {
+        PropertyBag bag;
+        bag.SetValue("ScrollDirection", int64_t{1});
+        window.Resize(width, kHeight);
+        Start(bag);
+        AddItems(0, items - 1);
+        sheet->StartLecture();
+        desktop.trace.Clear();
+    }
+};
+
+// --- The bar ---
+
+TEST_F(ScrollingTest, TheBarRunsSoFarThatTheListsEndShowsInTheRowsThatFit) {
+    Show(40);
+    EXPECT_EQ(sheet->VScroll.Min(), 0);
+    EXPECT_EQ(sheet->VScroll.Max(), 3 + 40 - 9);
+    EXPECT_EQ(sheet->VScroll.SmallChange(), 3);
+    EXPECT_EQ(sheet->VScroll.LargeChange(), 6);
+}
+
+TEST_F(ScrollingTest, AListThatFitsHidesTheBarAndClampsItsEnd) {
+    Show(4);
+    EXPECT_FALSE(sheet->VScroll.Visible());
+    EXPECT_EQ(sheet->VScroll.Max(), 0);
+}
+
+TEST_F(ScrollingTest, ASidewaysBarStepsByItsOneRow) {
+    ShowSideways(40);
+    EXPECT_EQ(sheet->CountDiapoX(), 4);
+    EXPECT_EQ(sheet->VScroll.SmallChange(), 1);
+    EXPECT_EQ(sheet->VScroll.LargeChange(), 3);
+    EXPECT_EQ(sheet->VScroll.Max(), 1 + 40 - 4);
+}
+
+// --- Steps ---
+
+TEST_F(ScrollingTest, AStepForwardCopiesTheLooksAndReadsOnlyTheNewRow) {
+    Show(40);
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(Heard({"host", "load", "pointer"}),
+              "pointer 11\npointer 0\npointer 11\n"
+              "host DisplayStart\n"
+              "host BeforeSetPicture 6 009.jpg\nload /p/009.jpg\nhost Added 6 009.jpg\n"
+              "host BeforeSetPicture 7 010.jpg\nload /p/010.jpg\nhost Added 7 010.jpg\n"
+              "host BeforeSetPicture 8 011.jpg\nload /p/011.jpg\nhost Added 8 011.jpg\n"
+              "pointer 0\n"
+              "host DisplayEnd\n"
+              "host Scroll 3 from 0\n");
+    EXPECT_EQ(Slides(), "3 4 5 6 7 8 9 10 11");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, AStepBackCopiesTheLooksAndReadsOnlyTheNewRow) {
+    Show(40);
+    sheet->VScroll.SetValue(20);
+    desktop.trace.Clear();
+    sheet->VScroll.SetValue(17);
+    EXPECT_EQ(Slides(), "17 18 19 20 21 22 23 24 25");
+    EXPECT_EQ(Heard({"load"}), "load /p/017.jpg\nload /p/018.jpg\nload /p/019.jpg\n");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, TheSlidesKeepTheirPlaces) {
+    Show(40);
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(Place(0), "5,5");
+    EXPECT_EQ(Place(8), "217,167");
+}
+
+TEST_F(ScrollingTest, AStepBackAtTheTopDoesNothing) {
+    Show(40);
+    sheet->VScroll.SetValue(20);
+    sheet->StartLecture();
+    sheet->VScroll.SetValue(3);
+    sheet->Diapo.Item(0)->SetValue(0);
+    desktop.trace.Clear();
+    sheet->VScroll.SetValue(1);
+    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(ScrollingTest, AStepForwardToTheListsEndUnloadsTheLastRow) {
+    Show(12);
+    sheet->VScroll.SetValue(3);
+    desktop.trace.Clear();
+    EXPECT_EQ(sheet->VScroll.Max(), 6);
+    sheet->VScroll.SetValue(6);
+    EXPECT_EQ(Heard({"host", "pointer"}), "pointer 11\npointer 0\nhost Scroll 6 from 3\n");
+    EXPECT_EQ(Slides(), "6 7 8 9 10 11");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, AStepBackWithAMissingRowMakesBlankSlidesFirst) {
+    Show(12);
+    sheet->VScroll.SetValue(3);
+    sheet->VScroll.SetValue(6);
+    desktop.trace.Clear();
+    sheet->VScroll.SetValue(3);
+    EXPECT_THAT(Heard(), testing::StartsWith("host BeforeAdd  \nhost BeforeAdd  \nhost BeforeAdd  \n"
+                                             "host DisplayStart\n"));
+    EXPECT_EQ(Slides(), "3 4 5 6 7 8 9 10 11");
+    EXPECT_EQ(Place(8), "217,167");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, AShortLastRowLeavesAHole) {
+    Show(11);
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(Slides(), "3 4 5 6 7 8 9 10");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, OneRowAloneIsFilledAnewWithoutCopies) {
+    window.Resize(kWidth, 5);
+    Start();
+    ASSERT_EQ(sheet->CountDiapoY(), 1);
+    AddItems(0, 19);
+    sheet->StartLecture();
+    desktop.trace.Clear();
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(Slides(), "3 4 5");
+    EXPECT_EQ(Heard({"pointer"}), "pointer 11\npointer 0\n") << "that of the fill";
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(Slides(), "0 1 2");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, ASidewaysStepMovesByOneSlide) {
+    ShowSideways(40);
+    EXPECT_EQ(Slides(), "0 1 2 3");
+    sheet->VScroll.SetValue(1);
+    EXPECT_EQ(Slides(), "1 2 3 4");
+    EXPECT_EQ(Heard({"load"}), "load /p/004.jpg\n");
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(Slides(), "0 1 2 3");
+    ExpectSlidesAgreeWithList();
+}
+
+// --- Jumps ---
+
+TEST_F(ScrollingTest, MoreThanARowBindsAllSlidesAnew) {
+    Show(40);
+    sheet->VScroll.SetValue(4);
+    EXPECT_EQ(Slides(), "4 5 6 7 8 9 10 11 12");
+    EXPECT_THAT(Heard(), testing::EndsWith("host Added 8 012.jpg\nhost DisplayEnd\nhost Scroll 4 from 0\n"));
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, AJumpToTheEndLeavesTheExtraRowEmpty) {
+    Show(40);
+    sheet->VScroll.SetValue(34);
+    EXPECT_EQ(Slides(), "34 35 36 37 38 39");
+}
+
+TEST_F(ScrollingTest, TheCurrentSlideMovesWithTheList) {
+    Show(40);
+    sheet->SetSelected(4, true);
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(sheet->CurrentDiapo(), 1);
+    sheet->VScroll.SetValue(6);
+    EXPECT_EQ(sheet->CurrentDiapo(), -1) << "it has left the sheet";
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(sheet->CurrentDiapo(), 1) << "and comes back";
+    sheet->VScroll.SetValue(30);
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(sheet->CurrentDiapo(), 4);
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, SelectedSlidesKeepTheirColourWhenTheyMove) {
+    Show(40);
+    sheet->LstInterne.SetSelected(5, true);
+    sheet->LstInterne.SetSelected(10, true);
+    sheet->StartLecture();
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(sheet->Diapo.Item(2)->BackColor(), 7321083U);
+    EXPECT_EQ(sheet->Diapo.Item(7)->BackColor(), 7321083U);
+    EXPECT_EQ(sheet->Diapo.Item(5)->BackColor(), sheet->BackColorDiapo());
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, AStepMovesTheWholeLookOfASlide) {
+    Show(40);
+    const auto from = sheet->Diapo.Item(4);
+    from->SetCaptionBottom("caption");
+    from->SetTag("tag");
+    from->SetToolTipText("tip");
+    from->SetHaveSoundMusic(true);
+    from->SetHaveInvalidMusic(true);
+    const Picture shown = from->Picture();
+    sheet->VScroll.SetValue(3);
+    const auto to = sheet->Diapo.Item(1);
+    EXPECT_EQ(to->CaptionBottom() + to->Tag() + to->ToolTipText(), "captiontagtip");
+    EXPECT_TRUE(to->HaveSoundMusic() && to->BtPlayVisible());
+    EXPECT_FALSE(to->HaveInvalidMusic()) << "this mark stays behind";
+    EXPECT_EQ(to->Picture(), shown);
+    EXPECT_EQ(to->LblTop.Caption(), "004.jpg");
+}
+
+// --- The Scroll event ---
+
+TEST_F(ScrollingTest, AfterAStoppedFillTheNextChangeIsMeasuredFromTheOldPlace) {
+    Show(40);
+    onAdded = [this, done = false](int16_t index) mutable {
+        if (index == 2 && !std::exchange(done, true)) window.Resize(450, kHeight);
+    };
+    sheet->VScroll.SetValue(20);
+    EXPECT_THAT(Heard(), testing::EndsWith("host DisplayEnd\nhost Scroll 20 from 0\n"));
+    sheet->VScroll.SetValue(21);
+    EXPECT_THAT(Heard(), testing::EndsWith("host Scroll 21 from 0\n"));
+}
+
+TEST_F(ScrollingTest, TheHostMayWriteTheOldPlaceButAFillThatEndsWritesItsOwn) {
+    Show(40);
+    onScroll = [](int32_t& asValue) { asValue = 77; };
+    sheet->VScroll.SetValue(20);
+    desktop.trace.Clear();
+    sheet->VScroll.SetValue(10);
+    EXPECT_THAT(Heard(), testing::EndsWith("host Scroll 10 from 20\n"));
+}
+
+TEST_F(ScrollingTest, TheChangeToThePlaceThatIsShownDoesNothing) {
+    Show(40);
+    sheet->VScroll.SetValue(20);
+    desktop.trace.Clear();
+    sheet->VScroll.SetValue(20);
+    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(ScrollingTest, AFailureInTheBarsSetUpLeavesItDeadUntilTheNextOne) {
+    Show(40);
+    sheet->Terminate();
+    EXPECT_NO_THROW(sheet->Add("x", ""));
+    sheet->DiapoSizeChange(true, 90, 70);
+    EXPECT_THAT(Heard(), testing::HasSubstr("host Error 91 Vorlane InitVScroll DpCnt=9 - 0\n"));
+    sheet->VScroll.SetValue(20);
+    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(ScrollingTest, AVeryLongJumpBackDoesNotOverflowTheCurrentSlide) {
+    Start();
+    for (int32_t n = 0; n < 100000; ++n) sheet->LstInterne.AddItem("\t" + File(n % 20));
+    sheet->StartLecture();
+    sheet->VScroll.SetValue(99000);
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+    EXPECT_THAT(Heard(), testing::Not(testing::HasSubstr("Error")));
+}
+
+}  // namespace
+}  // namespace vorlane
