@@ -1,0 +1,37 @@
+// The enumerations of the widgets' properties, with the core's numbers.
+#pragma once
+
+#include <QObject>
+
+namespace vorlane::ui {
+
+Q_NAMESPACE
+
+enum class BorderStyle {
+    BorderNone = 0,
+    BorderSunken = 1,
+    BorderRaised = 2,
+    BorderSunkenDouble = 3,
+    BorderRaisedDouble = 4,
+    FlatBackColor = 5,
+};
+Q_ENUM_NS(BorderStyle)
+
+enum class ThumbResolution { ThumbResolutionNormal = 0, ThumbResolutionHigh = 1 };
+Q_ENUM_NS(ThumbResolution)
+
+// The picture that a slide asks for.
+enum class PictureIndex {
+    PicSubstitute = 0,
+    PicFileKind1 = 1,
+    PicFileKind2 = 2,
+    PicFileKind3 = 3,
+    PicFileKind5 = 4,
+    PicBtPlay = 5,
+    PicBtComment = 6,
+    PicBtText = 7,
+    PicBtPlayPlain = 8,
+};
+Q_ENUM_NS(PictureIndex)
+
+}  // namespace vorlane::ui
