@@ -1,5 +1,6 @@
 #include "widgets/enums.h"
 
+#include "sheet/types.h"
 #include "slide/diapotypes.h"
 
 namespace vorlane::ui {
@@ -16,6 +17,12 @@ static_assert(Same(BorderStyle::FlatBackColor, DiapoBorderStyle::FlatBackColor))
 static_assert(Same(ThumbResolution::ThumbResolutionHigh, DiapoThumbResolution::ThumbResolutionHigh));
 static_assert(Same(PictureIndex::PicFileKind5, DiapoPictureIndex::PicFileKind5));
 static_assert(Same(PictureIndex::PicBtPlayPlain, DiapoPictureIndex::PicBtPlayPlain));
+
+static_assert(Same(ScrollDirection::sdHorizontal, ScrollDirectionType::sdHorizontal));
+static_assert(Same(ScrollDirection::sdVertical, ScrollDirectionType::sdVertical));
+static_assert(Same(SortSens::ssDescending, SortSensType::ssDescending));
+static_assert(Same(ScrollWindowPos::swpInside, ScrollWindowPosType::swpInside));
+static_assert(Same(ListeMode::lmList, ListeModeType::lmList));
 
 }  // namespace
 

@@ -34,4 +34,16 @@ enum class PictureIndex {
 };
 Q_ENUM_NS(PictureIndex)
 
+enum class ScrollDirection { sdHorizontal = 1, sdVertical = 2 };
+Q_ENUM_NS(ScrollDirection)
+
+enum class SortSens { ssNone = 0, ssAscending = 1, ssDescending = 2 };
+Q_ENUM_NS(SortSens)
+
+enum class ScrollWindowPos { swpOutside = 0, swpInside = 1 };
+Q_ENUM_NS(ScrollWindowPos)
+
+enum class ListeMode { lmFileList = 0, lmList = 1 };
+Q_ENUM_NS(ListeMode)
+
 }  // namespace vorlane::ui

@@ -1,0 +1,80 @@
+#include "widgets/vorlanewidget.h"
+
+#include "platform/qt/qtdesktop.h"
+#include "platform/qt/qtpicturedata.h"
+#include "sheet/vorlane.h"
+#include "widgets/conversions.h"
+
+#include <string_view>
+
+#include <QCoreApplication>
+
+namespace vorlane {
+
+VorlaneWidget::VorlaneWidget(QWidget* parent) : VorlaneWidget(QtDesktop::Of(*qApp), parent) {}
+
+VorlaneWidget::VorlaneWidget(QtDesktop& desktop, QWidget* parent)
+    : ControlHost(desktop, parent), sheet_(Host(std::make_unique<Vorlane>(desktop.Roles(), AmbientOfHost()))) {
+    sheet_.PropertyChanged.connect([this](std::string_view key) {
+        Q_EMIT PropertyChanged(QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size())));
+    });
+    ConnectEvents();
+    ConnectPictures();
+}
+
+VorlaneWidget::~VorlaneWidget() {
+    Release();
+}
+
+QSize VorlaneWidget::sizeHint() const {
+    return {640, 480};
+}
+
+void VorlaneWidget::Report(const Failure& failure, const char* name) const {
+    Q_EMIT OnError(failure.Number, FromText(failure.Description), FromText(failure.Source), failure.LastDllError,
+                   QStringLiteral("VorlaneWidget ") + QLatin1String(name));
+}
+
+void VorlaneWidget::ConnectEvents() {
+    auto& events = sheet_.Events;
+    events.DisplayStart.connect([this] { Q_EMIT OnDisplayStart(); });
+    events.DisplayEnd.connect([this] { Q_EMIT OnDisplayEnd(); });
+    events.BeforeAdd.connect([this](std::string& fileName, const std::string& extension, bool& cancel) {
+        const QString given = FromText(fileName);
+        QString name = given;
+        Q_EMIT OnBeforeAdd(&name, FromText(extension), &cancel);
+        if (name != given) fileName = ToText(name);
+    });
+    events.Added.connect(
+        [this](int16_t index, const std::string& fileName) { Q_EMIT OnAdded(index, FromText(fileName)); });
+    events.Scroll.connect([this](int32_t value, int32_t& asValue) { Q_EMIT OnScroll(value, &asValue); });
+    events.TLClear.connect([this] { Q_EMIT OnTLClear(); });
+    events.TraitementFeedBack.connect([this](int32_t value, int32_t max) { Q_EMIT OnTraitementFeedBack(value, max); });
+    events.OLENewFileAdded.connect([this](const std::string& fileName, int32_t& key, bool& cancel) {
+        Q_EMIT OnOLENewFileAdded(FromText(fileName), &key, &cancel);
+    });
+    events.Error.connect([this](int32_t number, const std::string& description, const std::string& source,
+                                int32_t lastDllError, const std::string& valeur) {
+        Q_EMIT OnError(number, FromText(description), FromText(source), lastDllError, FromText(valeur));
+    });
+}
+
+void VorlaneWidget::ConnectPictures() {
+    auto& events = sheet_.Events;
+    events.BeforeSetPicture.connect([this](int16_t index, const std::string& fileName, vorlane::Picture& picture,
+                                           bool& haveSound, bool& haveComment, bool& haveTexte, bool& invalidMusic,
+                                           bool& invalidCom) {
+        SlideContent content{{}, haveSound, haveComment, haveTexte, invalidMusic, invalidCom};
+        Q_EMIT OnBeforeSetPicture(index, FromText(fileName), &content);
+        if (!content.Picture.isNull()) picture = PictureFromImage(content.Picture);
+        haveSound = content.HaveSound;
+        haveComment = content.HaveComment;
+        haveTexte = content.HaveTexte;
+        invalidMusic = content.InvalidMusic;
+        invalidCom = content.InvalidCom;
+    });
+    events.InvalidPicture.connect(
+        [this](int16_t index, const std::string& fileName) { Q_EMIT OnInvalidPicture(index, FromText(fileName)); });
+}
+
+}  // namespace vorlane

@@ -1,0 +1,293 @@
+// VorlaneWidget: the contact sheet (Vorlane) as a widget. It holds no rule of the sheet's: it hands properties, methods
+// and events over in Qt's types.
+//
+// Names are the sheet's own, without accents, events with "On" in front. An argument that a receiver may answer is a
+// pointer; it is good until the signal returns, so such a signal wants a direct connection. Lengths are pixels. No
+// member throws: what the sheet refuses leaves it as it was, gives 0, false or -1, and raises OnError.
+#pragma once
+
+#include "platform/failure.h"
+#include "platform/qt/controlhost.h"
+#include "widgets/enums.h"
+
+#include <optional>
+
+#include <QColor>
+#include <QFont>
+#include <QImage>
+#include <QPixmap>
+#include <QPointF>
+#include <QString>
+
+namespace vorlane {
+
+class ListControl;
+class Vorlane;
+
+// What a host hands a slide that is about to take a file.
+struct SlideContent {
+    QImage Picture;  // a thumbnail; the file is not decoded then
+    bool HaveSound = false;
+    bool HaveComment = false;
+    bool HaveTexte = false;
+    bool InvalidMusic = false;
+    bool InvalidCom = false;
+};
+
+class VorlaneWidget : public ControlHost {
+    Q_OBJECT
+    Q_PROPERTY(bool AutoAdjust READ AutoAdjust WRITE SetAutoAdjust)
+    Q_PROPERTY(bool AutoCornerResize READ AutoCornerResize WRITE SetAutoCornerResize)
+    Q_PROPERTY(QColor BackColor READ BackColor WRITE SetBackColor)
+    Q_PROPERTY(QColor BackColorCurrent READ BackColorCurrent WRITE SetBackColorCurrent)
+    Q_PROPERTY(QColor BackColorDiapo READ BackColorDiapo WRITE SetBackColorDiapo)
+    Q_PROPERTY(QColor BackColorSelected READ BackColorSelected WRITE SetBackColorSelected)
+    Q_PROPERTY(QColor BorderColorDiapo READ BorderColorDiapo WRITE SetBorderColorDiapo)
+    Q_PROPERTY(QColor BorderColorDiapoExt READ BorderColorDiapoExt WRITE SetBorderColorDiapoExt)
+    Q_PROPERTY(bool BorderDouble READ BorderDouble WRITE SetBorderDouble)
+    Q_PROPERTY(int BorderSize READ BorderSize WRITE SetBorderSize)
+    Q_PROPERTY(int BorderStyle READ BorderStyle WRITE SetBorderStyle)
+    Q_PROPERTY(vorlane::ui::BorderStyle BorderStyleDiapo READ BorderStyleDiapo WRITE SetBorderStyleDiapo)
+    Q_PROPERTY(vorlane::ui::BorderStyle BorderStyleDiapoExt READ BorderStyleDiapoExt WRITE SetBorderStyleDiapoExt)
+    Q_PROPERTY(QString CaptionWait READ CaptionWait WRITE SetCaptionWait)
+    Q_PROPERTY(int DiapoHeight READ DiapoHeight WRITE SetDiapoHeight)
+    Q_PROPERTY(int DiapoWidth READ DiapoWidth WRITE SetDiapoWidth)
+    Q_PROPERTY(bool Enabled READ Enabled WRITE SetEnabled)
+    Q_PROPERTY(QFont FontImageName READ FontImageName WRITE SetFontImageName)
+    Q_PROPERTY(QColor ForeColor READ ForeColor WRITE SetForeColor)
+    Q_PROPERTY(int ImageMarge READ ImageMarge WRITE SetImageMarge)
+    Q_PROPERTY(bool JaugeAnimation READ JaugeAnimation WRITE SetJaugeAnimation)
+    Q_PROPERTY(QFont LegendeFont READ LegendeFont WRITE SetLegendeFont)
+    Q_PROPERTY(int LegendeNbLig READ LegendeNbLig WRITE SetLegendeNbLig)
+    Q_PROPERTY(bool ListAutoFill READ ListAutoFill WRITE SetListAutoFill)
+    Q_PROPERTY(bool MargeDiapoAutoAdjust READ MargeDiapoAutoAdjust WRITE SetMargeDiapoAutoAdjust)
+    Q_PROPERTY(int MargeDiapoMin READ MargeDiapoMin WRITE SetMargeDiapoMin)
+    Q_PROPERTY(int Marges READ Marges WRITE SetMarges)
+    Q_PROPERTY(QPixmap MouseIcon READ MouseIcon WRITE SetMouseIcon)
+    Q_PROPERTY(int MousePointer READ MousePointer WRITE SetMousePointer)
+    Q_PROPERTY(int OLEDragMode READ OLEDragMode WRITE SetOLEDragMode)
+    Q_PROPERTY(int OLEDropMode READ OLEDropMode WRITE SetOLEDropMode)
+    Q_PROPERTY(vorlane::ui::ScrollDirection ScrollDirection READ ScrollDirection WRITE SetScrollDirection)
+    Q_PROPERTY(QColor ScrollWindowBackColor READ ScrollWindowBackColor WRITE SetScrollWindowBackColor)
+    Q_PROPERTY(vorlane::ui::ScrollWindowPos ScrollWindowPos READ ScrollWindowPos WRITE SetScrollWindowPos)
+    Q_PROPERTY(int ScrollWindowWidth READ ScrollWindowWidth WRITE SetScrollWindowWidth)
+    Q_PROPERTY(bool SelectionMultiple READ SelectionMultiple WRITE SetSelectionMultiple)
+    Q_PROPERTY(QColor ShadowColor READ ShadowColor WRITE SetShadowColor)
+    Q_PROPERTY(int ShadowWidth READ ShadowWidth WRITE SetShadowWidth)
+    Q_PROPERTY(bool ShowDiapoTools READ ShowDiapoTools WRITE SetShowDiapoTools)
+    Q_PROPERTY(bool ShowFileName READ ShowFileName WRITE SetShowFileName)
+    Q_PROPERTY(bool ShowInfo READ ShowInfo WRITE SetShowInfo)
+    Q_PROPERTY(bool ShowJauge READ ShowJauge WRITE SetShowJauge)
+    Q_PROPERTY(bool ShowShadow READ ShowShadow WRITE SetShowShadow)
+    Q_PROPERTY(bool ShowZoom READ ShowZoom WRITE SetShowZoom)
+    Q_PROPERTY(bool Sorted READ Sorted WRITE SetSorted)
+    Q_PROPERTY(vorlane::ui::SortSens SortedSens READ SortedSens WRITE SetSortedSens)
+    Q_PROPERTY(bool Thumbnail READ Thumbnail WRITE SetThumbnail)
+    Q_PROPERTY(vorlane::ui::ThumbResolution ThumbnailResolution READ ThumbnailResolution WRITE SetThumbnailResolution)
+    Q_PROPERTY(int ThumbnailSizeHigh READ ThumbnailSizeHigh WRITE SetThumbnailSizeHigh)
+    Q_PROPERTY(int ThumbnailSizeNormal READ ThumbnailSizeNormal WRITE SetThumbnailSizeNormal)
+
+public:
+    // On the program's shared desktop.
+    explicit VorlaneWidget(QWidget* parent = nullptr);
+    explicit VorlaneWidget(QtDesktop& desktop, QWidget* parent = nullptr);
+    ~VorlaneWidget() override;
+
+    // The sheet itself.
+    Vorlane& sheet() const { return sheet_; }
+
+    QSize sizeHint() const override;
+
+    // --- Persisted properties ---
+    bool AutoAdjust() const;
+    void SetAutoAdjust(bool on);
+    bool AutoCornerResize() const;
+    void SetAutoCornerResize(bool on);
+    QColor BackColor() const;
+    void SetBackColor(const QColor& color);
+    QColor BackColorCurrent() const;
+    void SetBackColorCurrent(const QColor& color);
+    QColor BackColorDiapo() const;
+    void SetBackColorDiapo(const QColor& color);
+    QColor BackColorSelected() const;
+    void SetBackColorSelected(const QColor& color);
+    QColor BorderColorDiapo() const;
+    void SetBorderColorDiapo(const QColor& color);
+    QColor BorderColorDiapoExt() const;
+    void SetBorderColorDiapoExt(const QColor& color);
+    bool BorderDouble() const;
+    void SetBorderDouble(bool on);
+    int BorderSize() const;
+    void SetBorderSize(int value);
+    int BorderStyle() const;
+    void SetBorderStyle(int value);
+    ui::BorderStyle BorderStyleDiapo() const;
+    void SetBorderStyleDiapo(ui::BorderStyle style);
+    ui::BorderStyle BorderStyleDiapoExt() const;
+    void SetBorderStyleDiapoExt(ui::BorderStyle style);
+    QString CaptionWait() const;
+    void SetCaptionWait(const QString& text);
+    int DiapoHeight() const;
+    void SetDiapoHeight(int value);
+    int DiapoWidth() const;
+    void SetDiapoWidth(int value);
+    bool Enabled() const;
+    void SetEnabled(bool on);
+    QFont FontImageName() const;
+    void SetFontImageName(const QFont& font);
+    QColor ForeColor() const;
+    void SetForeColor(const QColor& color);
+    int ImageMarge() const;
+    void SetImageMarge(int value);
+    bool JaugeAnimation() const;
+    void SetJaugeAnimation(bool on);
+    QFont LegendeFont() const;
+    void SetLegendeFont(const QFont& font);
+    int LegendeNbLig() const;
+    void SetLegendeNbLig(int value);
+    bool ListAutoFill() const;
+    void SetListAutoFill(bool on);
+    bool MargeDiapoAutoAdjust() const;
+    void SetMargeDiapoAutoAdjust(bool on);
+    int MargeDiapoMin() const;
+    void SetMargeDiapoMin(int value);
+    int Marges() const;
+    void SetMarges(int value);
+    QPixmap MouseIcon() const;
+    void SetMouseIcon(const QPixmap& icon);
+    int MousePointer() const;
+    void SetMousePointer(int value);
+    int OLEDragMode() const;
+    void SetOLEDragMode(int value);
+    int OLEDropMode() const;
+    void SetOLEDropMode(int value);
+    ui::ScrollDirection ScrollDirection() const;
+    void SetScrollDirection(ui::ScrollDirection style);
+    QColor ScrollWindowBackColor() const;
+    void SetScrollWindowBackColor(const QColor& color);
+    ui::ScrollWindowPos ScrollWindowPos() const;
+    void SetScrollWindowPos(ui::ScrollWindowPos style);
+    int ScrollWindowWidth() const;
+    void SetScrollWindowWidth(int value);
+    bool SelectionMultiple() const;
+    void SetSelectionMultiple(bool on);
+    QColor ShadowColor() const;
+    void SetShadowColor(const QColor& color);
+    int ShadowWidth() const;
+    void SetShadowWidth(int value);
+    bool ShowDiapoTools() const;
+    void SetShowDiapoTools(bool on);
+    bool ShowFileName() const;
+    void SetShowFileName(bool on);
+    bool ShowInfo() const;
+    void SetShowInfo(bool on);
+    bool ShowJauge() const;
+    void SetShowJauge(bool on);
+    bool ShowShadow() const;
+    void SetShowShadow(bool on);
+    bool ShowZoom() const;
+    void SetShowZoom(bool on);
+    bool Sorted() const;
+    void SetSorted(bool on);
+    ui::SortSens SortedSens() const;
+    void SetSortedSens(ui::SortSens style);
+    bool Thumbnail() const;
+    void SetThumbnail(bool on);
+    ui::ThumbResolution ThumbnailResolution() const;
+    void SetThumbnailResolution(ui::ThumbResolution style);
+    int ThumbnailSizeHigh() const;
+    void SetThumbnailSizeHigh(int value);
+    int ThumbnailSizeNormal() const;
+    void SetThumbnailSizeNormal(int value);
+
+    // --- Other properties ---
+    QString AliasMusic() const;
+    void SetAliasMusic(const QString& text);
+    QString AliasComment() const;
+    void SetAliasComment(const QString& text);
+    QString Path() const;
+    void SetPath(const QString& text);
+    QString Pattern() const;
+    void SetPattern(const QString& text);
+    bool ShowDiapoJauge() const;
+    void SetShowDiapoJauge(bool on);
+    QString ToolTipBtComment() const;
+    void SetToolTipBtComment(const QString& text);
+    QString ToolTipBtPlay() const;
+    void SetToolTipBtPlay(const QString& text);
+    QString ToolTipBtText() const;
+    void SetToolTipBtText(const QString& text);
+    void SetFromInit(bool fromInit);
+    int SortCurrent() const;
+    void SetSortCurrent(int criterion);
+    static QString SepSortArg();
+    static QString SepSortWithData();
+
+    // --- State ---
+    int Count() const;
+    int CountDiapo() const;
+    int CountDiapoX() const;
+    int CountDiapoY() const;
+    int CountAffiche() const;
+    int CountSelected() const;
+    int CurrentDiapo() const;
+    bool Selected(int index) const;
+    void SetSelected(int index, bool selected);
+    int Key(int listIndex) const;
+    QString ImageFullPath(int listIndex) const;
+
+    // --- Items ---
+    int Add(const QString& imageName, const QString& multipleDataSort = {}, int key = -1, int insertBefore = -1);
+    void InitListe(ui::ListeMode mode, ListControl* newList = nullptr, const QString& newPath = {},
+                   const QString& newPattern = {}, std::optional<int> stdSortArgs = {});
+    int GetListIndexFromItemData(int key);
+    int GetIndexFromKey(int key) const;
+
+    // --- Display ---
+    int StartLecture(const QString& startImageName = {}, int diapoKey = -1);
+    // Turns place into the coordinates of the slide.
+    int GetDiapoFromCol(QPointF* place, bool* rightPart = nullptr);
+    void DiapoSizeChange(bool dimAll, int newWidth, int newHeight);
+    // A reduced copy, as the first slide makes it; null when it can't be made.
+    QImage Thumb(const QImage& picture, int resolution = -1) const;
+
+public Q_SLOTS:
+    void Clear();
+    void Refresh();
+
+Q_SIGNALS:
+    void PropertyChanged(const QString& key);
+
+    void OnDisplayStart();
+    void OnDisplayEnd();
+    void OnBeforeAdd(QString* fileName, const QString& extension, bool* cancel);
+    void OnAdded(int index, const QString& fileName);
+    void OnBeforeSetPicture(int index, const QString& fileName, vorlane::SlideContent* content);
+    void OnInvalidPicture(int index, const QString& fileName);
+    void OnScroll(int value, int* asValue);
+    void OnTLClear();
+    void OnTraitementFeedBack(int value, int max);
+    void OnOLENewFileAdded(const QString& fileName, int* key, bool* cancel);
+    void OnError(int number, const QString& description, const QString& source, int lastDllError,
+                 const QString& valeur) const;
+
+private:
+    // Runs an operation of the sheet; its failure raises OnError.
+    template <class Operation>
+    void Do(const char* name, Operation&& operation) {
+        Trap(pending_, operation, [&](const Failure& failure) { Report(failure, name); });
+    }
+    template <class Operation, class Result>
+    Result Ask(const char* name, Result otherwise, Operation&& operation) const {
+        return Trap(
+            pending_, operation, [&](const Failure& failure) { Report(failure, name); }, otherwise);
+    }
+    void Report(const Failure& failure, const char* name) const;
+    void ConnectEvents();
+    void ConnectPictures();
+
+    Vorlane& sheet_;
+    mutable PendingError pending_;
+};
+
+}  // namespace vorlane
