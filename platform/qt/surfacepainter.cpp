@@ -5,6 +5,8 @@
 #include "platform/qt/qttextmetrics.h"
 #include "platform/qt/scaledpictures.h"
 
+#include <algorithm>
+
 #include <QPainter>
 #include <QPen>
 #include <QPolygonF>
@@ -47,12 +49,20 @@ void SurfacePainter::Slanted(const draw::Line& line) {
     painter_.restore();
 }
 
+// The four sides are of one thickness, that of the widest; it grows inwards.
 void SurfacePainter::operator()(const draw::OutlinedBox& box) {
     const QColor color = Color(box.Color);
-    painter_.fillRect(grid_.Cells(box.X1, box.Y1, box.X2, box.Y1), color);
-    painter_.fillRect(grid_.Cells(box.X1, box.Y2, box.X2, box.Y2), color);
-    painter_.fillRect(grid_.Cells(box.X1, box.Y1, box.X1, box.Y2), color);
-    painter_.fillRect(grid_.Cells(box.X2, box.Y1, box.X2, box.Y2), color);
+    const QRect whole = grid_.Cells(box.X1, box.Y1, box.X2, box.Y2);
+    const QRect first = grid_.Cells(box.X1, box.Y1, box.X1, box.Y1);
+    const QRect last = grid_.Cells(box.X2, box.Y2, box.X2, box.Y2);
+    const int thickness = std::max({first.width(), first.height(), last.width(), last.height()});
+    const QRect inside = whole.adjusted(thickness, thickness, -thickness, -thickness);
+    const bool line = box.X1 == box.X2 || box.Y1 == box.Y2;
+    if (line || !inside.isValid()) return painter_.fillRect(whole, color);
+    painter_.fillRect(QRect(whole.topLeft(), QPoint(whole.right(), inside.top() - 1)), color);
+    painter_.fillRect(QRect(QPoint(whole.left(), inside.bottom() + 1), whole.bottomRight()), color);
+    painter_.fillRect(QRect(whole.left(), inside.top(), thickness, inside.height()), color);
+    painter_.fillRect(QRect(inside.right() + 1, inside.top(), thickness, inside.height()), color);
 }
 
 void SurfacePainter::operator()(const draw::FilledBox& box) {

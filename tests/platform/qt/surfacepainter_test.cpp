@@ -114,6 +114,15 @@ TEST(SurfacePainter, NeighbouringLinesLeaveNoGapAtOneAndAQuarter) {
     EXPECT_EQ(Map(Replay(surface, 11, 1, 1.25)), "abbcdeffgh.\n");
 }
 
+TEST(SurfacePainter, TheSidesOfABoxAreOfOneThicknessAtEveryDensity) {
+    Surface surface;
+    surface.LineBox(0, 0, 3, 3, Letter('a'));
+    EXPECT_EQ(Map(Replay(surface, 6, 3, 1.25)), "aaaaa.\na...a.\na...a.\n");
+    Surface wider;
+    wider.LineBox(0, 0, 5, 5, Letter('a'));
+    EXPECT_EQ(Map(Replay(wider, 9, 3, 1.25)), "aaaaaaaa.\naaaaaaaa.\naa....aa.\n");
+}
+
 TEST(SurfacePainter, AFrameTouchesWhatItFramesAtEveryDensity) {
     for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
         for (const float left : {3.0F, 3.25F, 3.5F, 3.75F}) {
