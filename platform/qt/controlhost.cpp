@@ -53,6 +53,16 @@ QRect OnDevice(const QRect& rect, double scale) {
     return QRectF(rect.x() * scale, rect.y() * scale, rect.width() * scale, rect.height() * scale).toAlignedRect();
 }
 
+// Makes the device pixel the painter's unit, from a whole one on. Returns how many of them make a logical pixel.
+double CountInDevicePixels(QPainter& painter) {
+    const QTransform device = painter.deviceTransform();
+    const bool upright = device.type() <= QTransform::TxScale && device.m11() > 0 && device.m11() == device.m22();
+    if (!upright) return 1;
+    painter.scale(1 / device.m11(), 1 / device.m11());
+    painter.translate(std::round(device.dx()) - device.dx(), std::round(device.dy()) - device.dy());
+    return device.m11();
+}
+
 }  // namespace
 
 ControlHost::ControlHost(QtDesktop& desktop, QWidget* parent) : QWidget(parent), desktop_(desktop) {
@@ -115,8 +125,7 @@ void ControlHost::changeEvent(QEvent* event) {
 void ControlHost::paintEvent(QPaintEvent* event) {
     if (!control_) return;
     QPainter painter(this);
-    const double scale = devicePixelRatioF();
-    painter.scale(1 / scale, 1 / scale);
+    const double scale = CountInDevicePixels(painter);
     Attempt([&] {
         ControlPainter control(painter, desktop_.Tools(), scale);
         for (const QRect& part : event->region()) {

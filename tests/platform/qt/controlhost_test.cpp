@@ -7,6 +7,7 @@
 #include "tests/platform/qt/board.h"
 
 #include <gtest/gtest.h>
+#include <set>
 #include <stdexcept>
 
 #include <QApplication>
@@ -188,6 +189,47 @@ TEST_F(ControlHostTest, TheWidgetShowsTheControl) {
     EXPECT_EQ(image.pixel(15, 15), qRgb(0, 0, 200));
     EXPECT_EQ(image.pixel(35, 15), qRgb(255, 255, 255));
     EXPECT_EQ(image.pixel(199, 99), qRgb(255, 255, 255));
+}
+
+TEST_F(ControlHostTest, TheWidgetIsSharpAtEveryDensity) {
+    Show();
+    board.tile.Move(10, 10, 20, 20);
+    board.tile.Surface().LineBox(0, 0, 19, 19, RGB(255, 0, 0));
+    board.tile.SetVisible(true);
+    for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+        QImage image(QSize(200, 100) * scale, QImage::Format_RGB32);
+        image.fill(Qt::green);
+        image.setDevicePixelRatio(scale);
+        host.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+        std::set<QRgb> colors;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) colors.insert(image.pixel(x, y));
+        }
+        EXPECT_EQ(colors, (std::set<QRgb>{qRgb(255, 255, 255), qRgb(255, 0, 0), qRgb(0, 0, 200)})) << scale;
+    }
+}
+
+TEST_F(ControlHostTest, AWidgetInsideOfAnotherIsSharpThereToo) {
+    QWidget outer;
+    outer.resize(400, 300);
+    host.setParent(&outer);
+    host.move(7, 3);
+    outer.show();
+    board.tile.Move(10, 10, 20, 20);
+    board.tile.Surface().LineBox(0, 0, 19, 19, RGB(255, 0, 0));
+    board.tile.SetVisible(true);
+    for (const double scale : {1.25, 2.0}) {
+        QImage image(QSize(400, 300) * scale, QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        image.fill(Qt::white);
+        outer.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+        std::set<QRgb> colors;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) colors.insert(image.pixel(x, y));
+        }
+        EXPECT_EQ(colors, (std::set<QRgb>{qRgb(255, 255, 255), qRgb(255, 0, 0), qRgb(0, 0, 200)})) << scale;
+    }
+    host.setParent(nullptr);
 }
 
 TEST_F(ControlHostTest, ARedrawAtOncePaintsWhatHasChanged) {
