@@ -1,0 +1,188 @@
+#include "widgets/diapolightwidget.h"
+
+#include "platform/qt/qtdesktop.h"
+#include "slide/ediapolight.h"
+#include "tests/widgets/mouse.h"
+#include "tests/widgets/propertytable.h"
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+#include <QApplication>
+#include <QFile>
+#include <QKeyEvent>
+#include <QTemporaryDir>
+
+namespace vorlane {
+namespace {
+
+using test::Click;
+using test::Plain;
+
+class DiapoLightWidgetTest : public testing::Test {
+protected:
+    DiapoLightWidgetTest() {
+        widget.resize(160, 140);
+        widget.SetNoResize(false);
+        widget.show();
+        QCoreApplication::processEvents();
+    }
+
+    std::string Write(const char* name, const QImage& image) {
+        const QString path = folder.filePath(name);
+        EXPECT_TRUE(image.save(path));
+        return path.toStdString();
+    }
+    QPointF MiddleOf(const Control& control) const {
+        const Box box = control.BoundsInRoot();
+        return {box.Left + box.Width / 2, box.Top + box.Height / 2};
+    }
+
+    QTemporaryDir folder;
+    DiapoLightWidget widget;
+};
+
+TEST_F(DiapoLightWidgetTest, HasThePersistedPropertiesOfTheSlideAndNoOther) {
+    EXPECT_EQ(test::OwnProperties(widget), test::Keys(eDiapoLight::PersistedProperties()));
+}
+
+TEST_F(DiapoLightWidgetTest, EveryPropertyIsWrittenReadAndReported) {
+    test::ExpectWritable(widget, widget.slide(), eDiapoLight::PersistedProperties());
+}
+
+TEST_F(DiapoLightWidgetTest, EnumerationsHaveTheirNames) {
+    const QMetaObject& meta = *widget.metaObject();
+    const QMetaEnum style = meta.property(meta.indexOfProperty("BorderStyle")).enumerator();
+    EXPECT_STREQ(style.valueToKey(3), "BorderSunkenDouble");
+    EXPECT_TRUE(widget.setProperty("BorderStyle", "FlatBackColor"));
+    EXPECT_EQ(widget.BorderStyle(), ui::BorderStyle::FlatBackColor);
+}
+
+TEST_F(DiapoLightWidgetTest, AValueThatTheSlideCannotHoldIsReportedAndLeavesTheOldOne) {
+    widget.SetBorderSize(7);
+    QSignalSpy failed(&widget, &DiapoLightWidget::OnError);
+    widget.SetBorderSize(300);
+    EXPECT_EQ(widget.BorderSize(), 7);
+    ASSERT_EQ(failed.count(), 1);
+    EXPECT_EQ(failed.at(0).at(0).toInt(), 6);
+    EXPECT_EQ(failed.at(0).at(4).toString(), "DiapoLightWidget SetBorderSize");
+}
+
+TEST_F(DiapoLightWidgetTest, AProgramsWidgetsShareOneDesktop) {
+    DiapoLightWidget other;
+    EXPECT_EQ(&other.Desktop(), &widget.Desktop());
+    QtDesktop own;
+    DiapoLightWidget apart(own);
+    EXPECT_EQ(&apart.Desktop(), &own);
+}
+
+// --- Pictures ---
+
+TEST_F(DiapoLightWidgetTest, AFileIsShownWithItsName) {
+    const std::string path = Write("red.png", Plain(60, 40, Qt::red));
+    widget.PictureByString(QString::fromStdString(path));
+    EXPECT_EQ(widget.ImageName(), "red.png");
+    EXPECT_EQ(widget.ImageWidth(), 60);
+    EXPECT_EQ(widget.Picture().size(), QSize(60, 40));
+    const QImage image = widget.grab().toImage();
+    EXPECT_EQ(image.pixelColor(MiddleOf(widget.slide().Img).toPoint()), QColor(Qt::red));
+}
+
+TEST_F(DiapoLightWidgetTest, AThumbnailReplacesTheFile) {
+    widget.PictureByString("/nowhere/red.png", Plain(60, 40, Qt::blue));
+    const QImage image = widget.grab().toImage();
+    EXPECT_EQ(image.pixelColor(MiddleOf(widget.slide().Img).toPoint()), QColor(Qt::blue));
+}
+
+TEST_F(DiapoLightWidgetTest, ABrokenFileAsksForItsSubstitute) {
+    QSignalSpy invalid(&widget, &DiapoLightWidget::OnInvalidPicture);
+    ui::PictureIndex asked{};
+    QObject::connect(&widget, &DiapoLightWidget::OnSetPicture, &widget,
+                     [&](ui::PictureIndex index, QImage* picture, bool) {
+                         asked = index;
+                         *picture = Plain(20, 20, Qt::green);
+                     });
+    asked = ui::PictureIndex::PicBtText;
+    widget.PictureByString("/nowhere/broken.png");
+    EXPECT_EQ(asked, ui::PictureIndex::PicSubstitute);
+    ASSERT_EQ(invalid.count(), 1);
+    EXPECT_EQ(invalid.at(0).at(0).toString(), "/nowhere/broken.png");
+    const QImage image = widget.grab().toImage();
+    EXPECT_EQ(image.pixelColor(MiddleOf(widget.slide().Img).toPoint()), QColor(Qt::green));
+}
+
+TEST_F(DiapoLightWidgetTest, ANullPictureClearsTheSlide) {
+    widget.SetPicture(Plain(20, 20, Qt::red));
+    EXPECT_FALSE(widget.Picture().isNull());
+    widget.SetPicture({});
+    EXPECT_TRUE(widget.Picture().isNull());
+}
+
+TEST_F(DiapoLightWidgetTest, AThumbHasTheSizeThatIsAskedFor) {
+    EXPECT_EQ(widget.Thumb(Plain(300, 150, Qt::red), 100).size(), QSize(100, 50));
+    EXPECT_EQ(widget.Thumb(Plain(150, 300, Qt::red), 100).size(), QSize(50, 100));
+    EXPECT_TRUE(widget.Thumb({}, 100).isNull());
+}
+
+// --- Events ---
+
+TEST_F(DiapoLightWidgetTest, TheMouseIsTold) {
+    QString heard;
+    QObject::connect(&widget, &DiapoLightWidget::OnMouseDown, &widget, [&](int button, int, double x, double y) {
+        heard += QString("down %1 %2,%3;").arg(button).arg(x).arg(y);
+    });
+    QObject::connect(&widget, &DiapoLightWidget::OnClick, &widget,
+                     [&](int button) { heard += QString("click %1;").arg(button); });
+    Click(widget, {30, 60}, Qt::RightButton);
+    EXPECT_EQ(heard, "down 2 30,60;click 2;");
+}
+
+TEST_F(DiapoLightWidgetTest, AReceiverMaySwallowAKey) {
+    int characters = 0;
+    QObject::connect(&widget, &DiapoLightWidget::OnKeyDown, &widget, [](int* code, int) { *code = 0; });
+    QObject::connect(&widget, &DiapoLightWidget::OnKeyPress, &widget, [&](int*) { ++characters; });
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+    QCoreApplication::sendEvent(&widget, &key);
+    EXPECT_TRUE(key.isAccepted());
+    EXPECT_EQ(characters, 0);
+}
+
+TEST_F(DiapoLightWidgetTest, TheKeyIsTheReceivers) {
+    int stored = 0;
+    EXPECT_EQ(widget.Key(), 0);
+    QObject::connect(&widget, &DiapoLightWidget::OnGetKey, &widget, [](int* key) { *key = 42; });
+    QObject::connect(&widget, &DiapoLightWidget::OnSetKey, &widget, [&](int key) { stored = key; });
+    widget.SetKey(17);
+    EXPECT_EQ(stored, 17);
+    EXPECT_EQ(widget.Key(), 42);
+}
+
+TEST_F(DiapoLightWidgetTest, AButtonAsksForItsPictureAndIsClicked) {
+    QString asked;
+    QObject::connect(&widget, &DiapoLightWidget::OnSetPicture, &widget,
+                     [&](ui::PictureIndex index, QImage*, bool invalid) {
+                         asked += QString("%1%2 ").arg(static_cast<int>(index)).arg(invalid ? "!" : "");
+                     });
+    QSignalSpy clicked(&widget, &DiapoLightWidget::OnClickText);
+    widget.SetShowDiapoTools(true);
+    widget.SetHaveInvalidMusic(true);
+    widget.SetHaveSoundMusic(true);
+    widget.SetHaveTexte(true);
+    EXPECT_EQ(asked, "5! 7 ");
+    Click(widget, MiddleOf(widget.slide().BtTexte));
+    EXPECT_EQ(clicked.count(), 1);
+}
+
+TEST_F(DiapoLightWidgetTest, AReceiverThatThrowsDoesNoHarm) {
+    QObject::connect(&widget, &DiapoLightWidget::OnMouseDown, &widget,
+                     [](int, int, double, double) { throw std::runtime_error("receiver"); });
+    QObject::connect(&widget, &DiapoLightWidget::OnGetKey, &widget, [](int*) { throw std::runtime_error("receiver"); });
+    QSignalSpy failed(&widget, &DiapoLightWidget::OnError);
+    Click(widget, {30, 60});
+    EXPECT_EQ(widget.Key(), 0);
+    ASSERT_EQ(failed.count(), 1);
+    EXPECT_EQ(failed.at(0).at(4).toString(), "DiapoLightWidget Key");
+}
+
+}  // namespace
+}  // namespace vorlane

@@ -1,0 +1,301 @@
+#include "widgets/vorlanewidget.h"
+
+#include "platform/qt/qtdesktop.h"
+#include "sheet/vorlane.h"
+#include "tests/widgets/mouse.h"
+#include "tests/widgets/propertytable.h"
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+#include <QApplication>
+#include <QFile>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QWheelEvent>
+
+namespace vorlane {
+namespace {
+
+using test::Plain;
+
+class VorlaneWidgetTest : public testing::Test {
+protected:
+    VorlaneWidgetTest() {
+        widget.resize(500, 300);
+        widget.SetShowJauge(false);
+        widget.SetDiapoWidth(120);
+        widget.SetDiapoHeight(110);
+        QObject::connect(&widget, &VorlaneWidget::OnError, &widget,
+                         [this](int, const QString& description, const QString&, int, const QString& log) {
+                             errors += log + ": " + description + "\n";
+                         });
+    }
+
+    void Show() {
+        widget.show();
+        QCoreApplication::processEvents();
+    }
+
+    QString Write(const QString& name, const QImage& image) {
+        const QString path = folder.filePath(name);
+        EXPECT_TRUE(image.save(path)) << name.toStdString();
+        return path;
+    }
+
+    // Pictures of many colours, as many as asked for.
+    void AddPictures(int count) {
+        for (int i = 0; i < count; ++i) {
+            const QString name = QString("%1.png").arg(i, 3, 10, QLatin1Char('0'));
+            widget.Add(Write(name, Plain(60, 40, ColorOf(i))), {}, 1000 + i);
+        }
+    }
+    static QRgb ColorOf(int i) { return QColor::fromHsv(i * 37 % 360, 255, 200).rgb(); }
+
+    // The colour of a slide's picture, clear of the button in its corner.
+    QRgb Shown(int slide) {
+        const Box box = widget.sheet().Diapo.Item(slide)->Img.BoundsInRoot();
+        const QPointF place(box.Left + box.Width / 4, box.Top + box.Height / 4);
+        return widget.grab().toImage().pixel(place.toPoint());
+    }
+
+    QTemporaryDir folder;
+    VorlaneWidget widget;
+    QString errors;
+};
+
+// --- Properties ---
+
+TEST_F(VorlaneWidgetTest, HasThePersistedPropertiesOfTheSheetAndNoOther) {
+    EXPECT_EQ(test::OwnProperties(widget), test::Keys(Vorlane::PersistedProperties()));
+}
+
+TEST_F(VorlaneWidgetTest, EveryPropertyIsWrittenReadAndReported) {
+    test::ExpectWritable(widget, widget.sheet(), Vorlane::PersistedProperties());
+}
+
+TEST_F(VorlaneWidgetTest, AValueThatTheSheetCannotHoldIsReported) {
+    widget.SetBorderSize(300);
+    widget.SetMarges(100000);
+    EXPECT_EQ(widget.BorderSize(), 4);
+    EXPECT_EQ(widget.Marges(), 5);
+    EXPECT_TRUE(errors.contains("VorlaneWidget SetBorderSize"));
+    EXPECT_TRUE(errors.contains("VorlaneWidget SetMarges"));
+}
+
+// --- Filling ---
+
+TEST_F(VorlaneWidgetTest, AFillShowsThePictures) {
+    Show();
+    AddPictures(6);
+    EXPECT_EQ(widget.Count(), 6);
+    EXPECT_EQ(widget.CountAffiche(), 1);
+    widget.StartLecture();
+    EXPECT_EQ(widget.CountAffiche(), 6);
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(Shown(i), ColorOf(i)) << i;
+    EXPECT_EQ(errors, "");
+}
+
+TEST_F(VorlaneWidgetTest, NothingIsShownBeforeAFill) {
+    Show();
+    const QImage empty = widget.grab().toImage();
+    AddPictures(3);
+    EXPECT_EQ(widget.grab().toImage(), empty);
+}
+
+TEST_F(VorlaneWidgetTest, AFillIsPaintedWhileItRuns) {
+    widget.SetShowJauge(true);
+    Show();
+    AddPictures(6);
+    bool gauge = false;
+    int painted = 0;
+    QObject::connect(&widget, &VorlaneWidget::OnAdded, &widget, [&](int index) {
+        gauge = gauge || widget.sheet().Jauge.Visible();
+        if (index > 0 && widget.sheet().Diapo.Item(index - 1)->Surface().Image()) ++painted;
+    });
+    widget.StartLecture();
+    EXPECT_TRUE(gauge);
+    EXPECT_EQ(painted, 5);
+    EXPECT_FALSE(widget.sheet().Jauge.Visible());
+}
+
+TEST_F(VorlaneWidgetTest, ABrokenPictureShowsTheLibrarysSubstitute) {
+    QSignalSpy invalid(&widget, &VorlaneWidget::OnInvalidPicture);
+    Show();
+    QFile file(folder.filePath("broken.jpg"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("no picture");
+    file.close();
+    widget.Add(file.fileName());
+    widget.StartLecture();
+    ASSERT_EQ(invalid.count(), 1);
+    EXPECT_EQ(invalid.at(0).at(0).toInt(), 0);
+    EXPECT_EQ(invalid.at(0).at(1).toString(), file.fileName());
+    EXPECT_EQ(widget.sheet().Diapo.Item(0)->Picture(), widget.Desktop().pictures.Get(Artwork::FileSubstitute));
+    EXPECT_EQ(errors, "");
+}
+
+TEST_F(VorlaneWidgetTest, AHostHandsOverThumbnailsAndTheStateOfItsSounds) {
+    QObject::connect(&widget, &VorlaneWidget::OnBeforeSetPicture, &widget,
+                     [&](int index, const QString& fileName, SlideContent* content) {
+                         if (!fileName.endsWith("a.jpg")) return;
+                         EXPECT_EQ(index, 0);
+                         content->Picture = Plain(60, 40, Qt::magenta);
+                         content->HaveSound = true;
+                         content->HaveTexte = true;
+                     });
+    Show();
+    widget.Add("/nowhere/a.jpg");
+    widget.Add("/nowhere/b.jpg");
+    widget.StartLecture();
+    EXPECT_EQ(Shown(0), QColor(Qt::magenta).rgb());
+    EXPECT_TRUE(widget.sheet().Diapo.Item(0)->HaveSoundMusic());
+    EXPECT_FALSE(widget.sheet().Diapo.Item(0)->HaveSoundComment());
+    EXPECT_TRUE(widget.sheet().Diapo.Item(0)->HaveTexte());
+    EXPECT_FALSE(widget.sheet().Diapo.Item(1)->HaveTexte());
+}
+
+TEST_F(VorlaneWidgetTest, AHostMayRefuseOrRenameAnItem) {
+    QObject::connect(&widget, &VorlaneWidget::OnBeforeAdd, &widget,
+                     [](QString*, const QString& extension, bool* cancel) { *cancel = extension == "bmp"; });
+    Show();
+    widget.Add("/nowhere/a.bmp");
+    widget.Add("/nowhere/b.jpg");
+    widget.StartLecture();
+    EXPECT_EQ(widget.CountAffiche(), 1);
+    EXPECT_TRUE(widget.sheet().Diapo.Item(0)->ImageFullPath().ends_with("b.jpg"));
+}
+
+TEST_F(VorlaneWidgetTest, AReceiverThatThrowsFailsTheFill) {
+    QObject::connect(&widget, &VorlaneWidget::OnAdded, &widget, [] { throw std::runtime_error("receiver"); });
+    Show();
+    AddPictures(2);
+    EXPECT_EQ(widget.StartLecture(), 0);
+    EXPECT_TRUE(errors.contains("receiver")) << errors.toStdString();
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(VorlaneWidgetTest, ItemsAreFoundByTheirKeys) {
+    Show();
+    AddPictures(4);
+    widget.StartLecture();
+    EXPECT_EQ(widget.GetListIndexFromItemData(1002), 2);
+    EXPECT_EQ(widget.GetIndexFromKey(1003), 3);
+    EXPECT_EQ(widget.Key(1), 1001);
+    EXPECT_TRUE(widget.ImageFullPath(1).endsWith("001.png"));
+    EXPECT_EQ(widget.StartLecture({}, 1002), 2);
+    QPointF place = QPointF(widget.sheet().Diapo.Item(1)->Left() + 3, 20);
+    bool right = true;
+    EXPECT_EQ(widget.GetDiapoFromCol(&place, &right), 1);
+    EXPECT_FALSE(right);
+}
+
+TEST_F(VorlaneWidgetTest, SelectingASlideSelectsItsItem) {
+    Show();
+    AddPictures(3);
+    widget.StartLecture();
+    widget.SetSelected(1, true);
+    EXPECT_TRUE(widget.Selected(1));
+    EXPECT_EQ(widget.CurrentDiapo(), 1);
+    EXPECT_EQ(widget.CountSelected(), 1);
+    EXPECT_FALSE(widget.Selected(99));
+    EXPECT_TRUE(errors.contains("VorlaneWidget Selected"));
+}
+
+TEST_F(VorlaneWidgetTest, AListOf40000ItemsOverflowsTheCountAlone) {
+    Show();
+    for (int i = 0; i < 40000; ++i) widget.Add("/nowhere/a.wav", {}, i);
+    widget.StartLecture();
+    EXPECT_GT(widget.CountAffiche(), 4);
+    EXPECT_EQ(errors, "");
+    EXPECT_EQ(widget.Count(), 0);
+    EXPECT_TRUE(errors.contains("VorlaneWidget Count"));
+}
+
+// --- Scrolling ---
+
+class ScrollingTest : public VorlaneWidgetTest {
+protected:
+    ScrollingTest() {
+        Show();
+        AddPictures(40);
+        widget.StartLecture();
+    }
+    QScrollBar& Bar() { return *widget.findChild<QScrollBar*>(); }
+};
+
+TEST_F(ScrollingTest, TheBarIsAtTheRightAndCoversTheWholeList) {
+    EXPECT_TRUE(Bar().isVisible());
+    EXPECT_EQ(Bar().geometry().right(), 499);
+    EXPECT_EQ(Bar().height(), 300);
+    EXPECT_EQ(Bar().singleStep(), widget.CountDiapoX());
+}
+
+TEST_F(ScrollingTest, TheWheelMovesByARow) {
+    const int row = widget.CountDiapoX();
+    const auto wheel = [&](int angle) {
+        QWheelEvent event({50, 50}, widget.mapToGlobal(QPointF(50, 50)), {}, {0, angle}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&widget, &event);
+    };
+    wheel(-120);
+    EXPECT_EQ(Bar().value(), row);
+    EXPECT_EQ(Shown(0), ColorOf(row));
+    wheel(-60);
+    EXPECT_EQ(Bar().value(), row);
+    wheel(-60);
+    EXPECT_EQ(Bar().value(), 2 * row);
+    wheel(240);
+    EXPECT_EQ(Bar().value(), 0);
+    EXPECT_EQ(Shown(0), ColorOf(0));
+}
+
+TEST_F(ScrollingTest, TheNativeBarScrollsTheSheet) {
+    const int row = widget.CountDiapoX();
+    QSignalSpy scrolled(&widget, &VorlaneWidget::OnScroll);
+    Bar().setValue(5 * row);
+    EXPECT_EQ(widget.sheet().VScroll.Value(), 5 * row);
+    EXPECT_EQ(Shown(0), ColorOf(5 * row));
+    EXPECT_EQ(scrolled.count(), 1);
+    Bar().triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    EXPECT_EQ(Shown(0), ColorOf(6 * row));
+    EXPECT_EQ(errors, "");
+}
+
+TEST_F(ScrollingTest, ALargerWindowShowsMore) {
+    const int before = widget.CountDiapo();
+    widget.resize(700, 500);
+    for (int i = 0; i < 20; ++i) {
+        widget.Desktop().clock.Sleep(2);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_GT(widget.CountDiapo(), before);
+    EXPECT_EQ(Shown(0), ColorOf(0));
+    EXPECT_EQ(errors, "");
+}
+
+// --- Looks ---
+
+TEST_F(VorlaneWidgetTest, TheGroundFollowsTheTheme) {
+    Show();
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(widget.grab().toImage().pixelColor(3, 3), QColor(40, 40, 40));
+    QApplication::setPalette(before);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(widget.grab().toImage().pixelColor(3, 3), before.color(QPalette::Window));
+}
+
+TEST_F(VorlaneWidgetTest, AFilledSheetIsPaintedFromWhatItKeeps) {
+    Show();
+    AddPictures(6);
+    widget.StartLecture();
+    widget.grab();
+    const int64_t scaled = widget.Desktop().scaled.Renders();
+    widget.grab();
+    EXPECT_EQ(widget.Desktop().scaled.Renders(), scaled);
+}
+
+}  // namespace
+}  // namespace vorlane
