@@ -1,9 +1,11 @@
 #include "widgets/thumbnailprovider.h"
 
+#include "platform/qt/qtdesktop.h"
 #include "platform/qt/qtpicturedata.h"
 #include "platform/qt/qtpictures.h"
 #include "platform/trelmic6.h"
 #include "sheet/vorlane.h"
+#include "widgets/vorlanewidget.h"
 
 #include <algorithm>
 #include <limits>
@@ -44,6 +46,9 @@ ThumbnailProvider::ThumbnailProvider(Vorlane& sheet, QWidget& view, QtPictures& 
     connect(&service, &ThumbnailService::ready, this, &ThumbnailProvider::Show);
     connect(&service, &ThumbnailService::failed, this, &ThumbnailProvider::ShowBroken);
 }
+
+ThumbnailProvider::ThumbnailProvider(VorlaneWidget& widget, ThumbnailService& service)
+    : ThumbnailProvider(widget.sheet(), widget, widget.Desktop().pictures, service, &widget) {}
 
 ThumbnailProvider::~ThumbnailProvider() = default;
 

@@ -26,6 +26,7 @@ namespace vorlane {
 class eDiapoLight;
 class QtPictures;
 class Vorlane;
+class VorlaneWidget;
 
 class ThumbnailProvider : public QObject {
     Q_OBJECT
@@ -35,6 +36,8 @@ public:
     // which the sheet decodes again by itself.
     ThumbnailProvider(Vorlane& sheet, QWidget& view, QtPictures& pictures, ThumbnailService& service,
                       QObject* parent = nullptr);
+    // Serves the widget's sheet, and ends with the widget at the latest.
+    ThumbnailProvider(VorlaneWidget& widget, ThumbnailService& service);
     ~ThumbnailProvider() override;
 
     // How many slides wait for their thumbnail.

@@ -1,6 +1,6 @@
 #include "widgets/thumbnailprovider.h"
+#include "widgets/vorlanewidget.h"
 
-#include "platform/qt/controlhost.h"
 #include "platform/qt/qtdesktop.h"
 #include "platform/qt/qtpicturedata.h"
 #include "sheet/vorlane.h"
@@ -12,15 +12,6 @@ using namespace vorlane;
 using test::WaitFor;
 
 namespace {
-
-class SheetHost : public ControlHost {
-public:
-    explicit SheetHost(QtDesktop& desktop)
-        : ControlHost(desktop, nullptr), Sheet(Host(std::make_unique<Vorlane>(desktop.Roles(), AmbientOfHost()))) {}
-    ~SheetHost() override { Release(); }
-
-    Vorlane& Sheet;
-};
 
 class ThumbnailProviderTest : public testing::Test {
 protected:
@@ -38,7 +29,7 @@ protected:
         options.cacheFolder.clear();
         options.decoder = stage_.Decoder();
         service_ = std::make_unique<ThumbnailService>(std::move(options));
-        provider_ = std::make_unique<ThumbnailProvider>(sheet(), host_, desktop_.pictures, *service_);
+        provider_ = std::make_unique<ThumbnailProvider>(host_, *service_);
         desktop_.pictures.BeforeLoad.connect([this](const std::string&, bool& broken) { loads_ += !broken; });
     }
     void Fill(const QStringList& paths) {
@@ -49,7 +40,7 @@ protected:
         QCoreApplication::processEvents();
         return WaitFor([this] { return service_->pending() == 0; });
     }
-    Vorlane& sheet() { return host_.Sheet; }
+    Vorlane& sheet() { return host_.sheet(); }
     eDiapoLight& Slide(int32_t index) { return *sheet().Diapo.Item(index); }
     // The middle of what a slide shows of its picture.
     QColor Shown(int32_t index) { return RenderPicture(Slide(index).Picture(), {20, 20}).pixelColor(10, 10); }
@@ -58,7 +49,7 @@ protected:
     test::PictureFolder pictures_;
     test::StageDecoder stage_;
     QtDesktop desktop_;
-    SheetHost host_{desktop_};
+    VorlaneWidget host_{desktop_};
     std::unique_ptr<ThumbnailService> service_;
     std::unique_ptr<ThumbnailProvider> provider_;
     QStringList invalid_;
