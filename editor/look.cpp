@@ -1,0 +1,47 @@
+#include "editor/look.h"
+
+#include "widgets/vorlanewidget.h"
+
+namespace vorlane::editor {
+
+namespace {
+
+// So many percent of one colour in another.
+QColor Mixed(const QColor& color, const QColor& into, int percent) {
+    const auto mix = [percent](int a, int b) { return (a * percent + b * (100 - percent)) / 100; };
+    return {mix(color.red(), into.red()), mix(color.green(), into.green()), mix(color.blue(), into.blue())};
+}
+
+QFont SmallFont() {
+    QFont font;
+    font.setPixelSize(4);
+    return font;
+}
+
+}  // namespace
+
+void ApplyLook(VorlaneWidget& sheet, const QPalette& palette) {
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor card = palette.color(QPalette::Base);
+    const QColor ink = palette.color(QPalette::Text);
+
+    sheet.SetBackColor(ground);
+    sheet.SetBackColorDiapo(card);
+    sheet.SetForeColor(Mixed(ink, card, 85));
+    sheet.SetBorderStyleDiapoExt(ui::BorderStyle::FlatBackColor);
+    sheet.SetBorderColorDiapoExt(Mixed(ink, ground, 18));
+    sheet.SetBorderStyleDiapo(ui::BorderStyle::FlatBackColor);
+    sheet.SetBorderColorDiapo(Mixed(ink, card, 40));
+    sheet.SetShadowColor(Mixed(palette.color(QPalette::Shadow), card, 30));
+    sheet.SetShadowWidth(3);
+
+    sheet.SetMarges(12);
+    sheet.SetMargeDiapoMin(12);
+    sheet.SetImageMarge(6);
+    sheet.SetLegendeFont(SmallFont());  // the editor has no captions yet; an empty line of them is room below the name
+    sheet.SetLegendeNbLig(1);
+    sheet.SetShowDiapoJauge(false);
+    sheet.SetShowJauge(false);  // a fill is done before anybody could read it
+}
+
+}  // namespace vorlane::editor

@@ -1,0 +1,14 @@
+// The editor's look of a sheet: slides as cards in the colours of the program's palette, light or dark.
+#pragma once
+
+#include <QPalette>
+
+namespace vorlane {
+class VorlaneWidget;
+}
+
+namespace vorlane::editor {
+
+void ApplyLook(VorlaneWidget& sheet, const QPalette& palette);
+
+}  // namespace vorlane::editor

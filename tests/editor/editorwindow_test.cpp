@@ -1,0 +1,363 @@
+#include "editor/editorwindow.h"
+
+#include "editor/emptypage.h"
+#include "editor/languages.h"
+#include "editor/slidesize.h"
+#include "editor/statuspanel.h"
+#include "platform/qt/qtdesktop.h"
+#include "sheet/vorlane.h"
+#include "tests/widgets/thumbnailsupport.h"
+#include "widgets/vorlanewidget.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSettings>
+#include <QSlider>
+#include <QTranslator>
+#include <QWheelEvent>
+
+using namespace vorlane;
+using namespace vorlane::editor;
+using test::WaitFor;
+
+namespace {
+
+class EditorWindowTest : public testing::Test {
+protected:
+    EditorWindowTest() {
+        Make();
+        loads_ = QtDesktop::Of(*qApp).pictures.BeforeLoad.connect([this](const std::string&, bool& broken) {
+            if (!broken) ++readOnThisThread_;
+        });
+    }
+    ~EditorWindowTest() override { loads_.disconnect(); }
+
+    void Make() {
+        ThumbnailOptions options;
+        options.cacheFolder.clear();
+        options.decoder = stage_.Decoder();
+        window_ = std::make_unique<EditorWindow>(settings_, std::move(options));
+        QObject::connect(&window_->sheet(), &VorlaneWidget::OnError,
+                         [](int, const QString& what) { ADD_FAILURE() << what.toStdString(); });
+        QObject::connect(&window_->sheet(), &VorlaneWidget::OnInvalidPicture,
+                         [this](int, const QString& name) { invalid_.push_back(QFileInfo(name).fileName()); });
+        window_->resize(900, 600);
+        window_->show();
+    }
+    QString Folder() { return QFileInfo(pictures_.Path("x")).path(); }
+    bool Settle() {
+        QCoreApplication::processEvents();
+        return WaitFor([this] { return window_->isSettled(); });
+    }
+    bool Open(const QString& folder) {
+        window_->openFolder(folder);
+        return Settle();
+    }
+    QString Status() { return window_->status().text(); }
+    EmptyPage& Empty() { return *window_->findChild<EmptyPage*>(); }
+    eDiapoLight& Slide(int index) { return *window_->sheet().sheet().Diapo.Item(index); }
+    QAction& Action(const QString& text) {
+        for (QAction* action : window_->findChildren<QAction*>()) {
+            if (QString(action->text()).remove('&') == text) return *action;
+        }
+        throw std::out_of_range(text.toStdString());
+    }
+    void Drop(const QList<QUrl>& urls) {
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(window_.get(), &enter);
+        accepted_ = enter.isAccepted();
+        QDropEvent drop({50, 50}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        if (accepted_) QCoreApplication::sendEvent(window_.get(), &drop);
+    }
+
+    test::PictureFolder pictures_;
+    test::StageDecoder stage_;
+    QTemporaryDir config_;
+    QSettings settings_{config_.filePath("settings.ini"), QSettings::IniFormat};
+    std::unique_ptr<EditorWindow> window_;
+    Connection loads_;
+    int readOnThisThread_ = 0;
+    QStringList invalid_;
+    bool accepted_ = false;
+};
+
+}  // namespace
+
+TEST_F(EditorWindowTest, InvitesToOpenAFolderAtFirst) {
+    EXPECT_TRUE(Empty().isVisible());
+    EXPECT_FALSE(window_->sheet().isVisible());
+    EXPECT_EQ(Empty().title(), "Ouvrez un dossier d'images");
+    EXPECT_EQ(window_->windowTitle(), "Vorlane");
+    EXPECT_EQ(Status(), "");
+    EXPECT_FALSE(window_->findChild<QSlider*>("zoom")->isVisible());
+    EXPECT_TRUE(window_->isSettled());
+}
+
+TEST_F(EditorWindowTest, ShowsThePicturesOfAFolder) {
+    pictures_.WritePictures(58);
+    pictures_.Write("notes.txt", "x");
+    ASSERT_TRUE(Open(Folder()));
+    EXPECT_TRUE(window_->sheet().isVisible());
+    EXPECT_EQ(window_->count(), 58);
+    EXPECT_EQ(window_->sheet().Count(), 58);
+    EXPECT_EQ(Status(), "58 images");
+    EXPECT_EQ(window_->windowTitle(), QFileInfo(Folder()).fileName() + QString::fromUtf8(" — Vorlane"));
+    EXPECT_FALSE(window_->status().isProgressShown());
+    EXPECT_EQ(Slide(0).ImageName(), "p000.jpg");
+    EXPECT_EQ(Slide(5).ImageName(), "p005.jpg");
+    EXPECT_EQ(Slide(5).ImageWidth(), 600);
+}
+
+TEST_F(EditorWindowTest, OnePictureIsSingular) {
+    pictures_.WritePicture("a.jpg");
+    ASSERT_TRUE(Open(Folder()));
+    EXPECT_EQ(Status(), "1 image");
+}
+
+TEST_F(EditorWindowTest, NoPictureIsEverReadOnTheUsersThread) {
+    pictures_.WritePictures(120);
+    pictures_.Write("a-corrupt.jpg", "no picture");
+    pictures_.Write("b-empty.jpg", {});
+    pictures_.WritePicture("c-without");
+    ASSERT_TRUE(Open(Folder()));
+    for (const int width : {96, 320, 512, 176}) {
+        window_->status().setSlideWidth(width);
+        ASSERT_TRUE(Settle());
+    }
+    for (int place = 0; place < 120; place += 7) {
+        window_->sheet().StartLecture({}, place);
+        QCoreApplication::processEvents();
+    }
+    ASSERT_TRUE(Settle());
+    window_->resize(1200, 900);
+    ASSERT_TRUE(Settle());
+    EXPECT_GT(stage_.Begun().size(), 100);
+    EXPECT_EQ(stage_.Threads().count(std::this_thread::get_id()), 0U);
+    EXPECT_EQ(readOnThisThread_, 0);
+}
+
+TEST_F(EditorWindowTest, ACorruptPictureShowsTheSubstitute) {
+    pictures_.Write("corrupt.jpg", "no picture");
+    pictures_.WritePicture("fine.jpg");
+    ASSERT_TRUE(Open(Folder()));
+    EXPECT_EQ(invalid_, QStringList("corrupt.jpg"));
+    EXPECT_EQ(Slide(0).Picture(), QtDesktop::Of(*qApp).pictures.Get(Artwork::FileSubstitute));
+    EXPECT_EQ(Slide(1).ImageWidth(), 600);
+    EXPECT_EQ(Status(), "2 images");
+}
+
+TEST_F(EditorWindowTest, TellsHowFarTheThumbnailsAre) {
+    pictures_.WritePictures(10);
+    stage_.Shut();
+    window_->openFolder(Folder());
+    ASSERT_TRUE(WaitFor([this] { return window_->count() == 10 && window_->status().isProgressShown(); }));
+    EXPECT_FALSE(window_->isSettled());
+    EXPECT_EQ(Status(), "10 images");
+    stage_.Open();
+    ASSERT_TRUE(Settle());
+    EXPECT_FALSE(window_->status().isProgressShown());
+}
+
+TEST_F(EditorWindowTest, TellsHowManyAreSelected) {
+    pictures_.WritePictures(5);
+    ASSERT_TRUE(Open(Folder()));
+    window_->sheet().SetSelected(1, true);
+    window_->sheet().SetSelected(3, true);
+    QMouseEvent release(QEvent::MouseButtonRelease, {5, 5}, {5, 5}, Qt::LeftButton, {}, {});
+    QCoreApplication::sendEvent(&window_->sheet(), &release);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Status(), QString::fromUtf8("5 images — 2 sélectionnées"));
+}
+
+TEST_F(EditorWindowTest, AnEmptyFolderSaysSo) {
+    pictures_.Write("notes.txt", "x");
+    ASSERT_TRUE(Open(Folder()));
+    EXPECT_TRUE(Empty().isVisible());
+    EXPECT_EQ(Empty().title(), "Ce dossier ne contient aucune image");
+    EXPECT_EQ(Status(), "0 image");
+}
+
+TEST_F(EditorWindowTest, AFolderThatCannotBeReadLeavesAllAsItIs) {
+    pictures_.WritePictures(3);
+    ASSERT_TRUE(Open(Folder()));
+    const QString missing = pictures_.Path("missing");
+    ASSERT_TRUE(Open(missing));
+    EXPECT_EQ(Status(), QString::fromUtf8("Impossible de lire le dossier « %1 »").arg(missing));
+    EXPECT_EQ(window_->folder(), Folder());
+    EXPECT_EQ(window_->sheet().Count(), 3);
+    EXPECT_TRUE(window_->sheet().isVisible());
+    ASSERT_TRUE(Open(Folder()));
+    EXPECT_EQ(Status(), "3 images");
+}
+
+TEST_F(EditorWindowTest, OpeningAnotherFolderReplacesTheFirst) {
+    pictures_.WritePictures(30);
+    test::PictureFolder other;
+    other.WritePicture("blue.jpg", Qt::blue, {300, 300});
+    ASSERT_TRUE(Open(Folder()));
+    ASSERT_TRUE(Open(QFileInfo(other.Path("x")).path()));
+    EXPECT_EQ(window_->sheet().Count(), 1);
+    EXPECT_EQ(Status(), "1 image");
+    EXPECT_EQ(Slide(0).ImageName(), "blue.jpg");
+    EXPECT_EQ(Slide(0).ImageWidth(), 300);
+}
+
+TEST_F(EditorWindowTest, OpeningAnotherFolderEndsTheReadingOfTheFirst) {
+    pictures_.WritePictures(300);
+    test::PictureFolder other;
+    other.WritePicture("blue.jpg");
+    window_->openFolder(Folder());
+    ASSERT_TRUE(WaitFor([this] { return window_->count() > 0; }));
+    ASSERT_TRUE(Open(QFileInfo(other.Path("x")).path()));
+    EXPECT_EQ(window_->sheet().Count(), 1);
+}
+
+TEST_F(EditorWindowTest, AManyFileFolderComesInSlicesAndCanBeScrolledMeanwhile) {
+    for (int i = 0; i < 5000; ++i) pictures_.Write(QStringLiteral("p%1.jpg").arg(i), {});
+    window_->openFolder(Folder());
+    ASSERT_TRUE(WaitFor([this] { return window_->count() > 0; }));
+    EXPECT_GT(window_->sheet().CountAffiche(), 1);
+    window_->sheet().sheet().VScroll.SetValue(20);
+    const std::string top = Slide(0).ImageName();
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(window_->sheet().Count(), 5000);
+    EXPECT_EQ(Slide(0).ImageName(), top);
+    EXPECT_EQ(Status(), QString("%L1 images").arg(5000));
+}
+
+TEST_F(EditorWindowTest, TheZoomSliderSizesTheSlides) {
+    pictures_.WritePictures(60);
+    ASSERT_TRUE(Open(Folder()));
+    auto* slider = window_->findChild<QSlider*>("zoom");
+    for (const int width : {320, 96, 176}) {
+        slider->setValue(width);
+        EXPECT_EQ(QSize(window_->sheet().DiapoWidth(), window_->sheet().DiapoHeight()), slidesize::Of(width));
+        EXPECT_EQ(Slide(1).Width(), width);
+    }
+    const int before = window_->sheet().CountDiapoX();
+    slider->setValue(96);
+    EXPECT_GT(window_->sheet().CountDiapoX(), before);
+}
+
+TEST_F(EditorWindowTest, TheMenusAndTheWheelZoomToo) {
+    pictures_.WritePictures(3);
+    ASSERT_TRUE(Open(Folder()));
+    Action("Agrandir les diapositives").trigger();
+    EXPECT_EQ(window_->sheet().DiapoWidth(), 192);
+    Action("Réduire les diapositives").trigger();
+    Action("Réduire les diapositives").trigger();
+    EXPECT_EQ(window_->sheet().DiapoWidth(), 160);
+    Action("Taille normale (100 %)").trigger();
+    EXPECT_EQ(window_->sheet().DiapoWidth(), 176);
+    QWheelEvent wheel({50, 50}, {50, 50}, {}, {0, -120}, {}, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window_->sheet(), &wheel);
+    EXPECT_EQ(window_->sheet().DiapoWidth(), 160);
+}
+
+TEST_F(EditorWindowTest, ADroppedFolderIsOpened) {
+    pictures_.WritePictures(4);
+    Drop({QUrl::fromLocalFile(Folder())});
+    EXPECT_TRUE(accepted_);
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(Status(), "4 images");
+}
+
+TEST_F(EditorWindowTest, WhatIsNoFolderIsNotTaken) {
+    Drop({QUrl::fromLocalFile(pictures_.WritePicture("a.jpg"))});
+    EXPECT_FALSE(accepted_);
+    Drop({QUrl("https://example.org/folder")});
+    EXPECT_FALSE(accepted_);
+    Drop({QUrl::fromLocalFile(Folder()), QUrl::fromLocalFile(Folder())});
+    EXPECT_FALSE(accepted_);
+}
+
+TEST_F(EditorWindowTest, RemembersFoldersSlideSizeAndWindow) {
+    pictures_.WritePictures(2);
+    ASSERT_TRUE(Open(Folder()));
+    window_->status().setSlideWidth(256);
+    window_->resize(700, 500);
+    window_->close();
+    Make();
+    EXPECT_EQ(window_->status().slideWidth(), 256);
+    EXPECT_EQ(window_->sheet().DiapoWidth(), 256);
+    EXPECT_EQ(RecentFolders(settings_).list(), QStringList(Folder()));
+}
+
+TEST_F(EditorWindowTest, TheRecentFoldersAreInTheMenu) {
+    pictures_.WritePictures(2);
+    ASSERT_TRUE(Open(Folder()));
+    Make();
+    QMenu* recent = Action("Dossiers récents").menu();
+    Q_EMIT recent->aboutToShow();
+    ASSERT_EQ(recent->actions().value(0)->text(), Folder());
+    recent->actions().value(0)->trigger();
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(window_->folder(), Folder());
+    Action("Effacer la liste").trigger();
+    Q_EMIT recent->aboutToShow();
+    EXPECT_EQ(recent->actions().value(0)->text(), "Aucun dossier");
+}
+
+TEST_F(EditorWindowTest, AFolderThatIsGoneLeavesTheRecentOnes) {
+    const QString gone = pictures_.Path("gone");
+    RecentFolders(settings_).add(gone);
+    ASSERT_TRUE(Open(gone));
+    EXPECT_TRUE(RecentFolders(settings_).list().isEmpty());
+}
+
+TEST_F(EditorWindowTest, FollowsThePalette) {
+    const QPalette light = QApplication::palette();
+    const QPalette dark(QColor(40, 42, 46));
+    QApplication::setPalette(dark);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window_->sheet().BackColor(), dark.color(QPalette::Window));
+    EXPECT_EQ(window_->sheet().BackColorDiapo(), dark.color(QPalette::Base));
+    EXPECT_GT(window_->sheet().ForeColor().lightness(), 150);
+    QApplication::setPalette(light);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window_->sheet().BackColor(), light.color(QPalette::Window));
+}
+
+TEST_F(EditorWindowTest, FullScreenComesAndGoes) {
+    Action("Plein écran").trigger();
+    EXPECT_TRUE(window_->isFullScreen());
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, {});
+    QCoreApplication::sendEvent(window_.get(), &escape);
+    EXPECT_FALSE(window_->isFullScreen());
+    EXPECT_FALSE(Action("Plein écran").isChecked());
+}
+
+TEST_F(EditorWindowTest, SpeaksEnglishToo) {
+    QApplication& application = *qApp;
+    const auto before = application.findChildren<QTranslator*>();
+    InstallLanguage(application, "en");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Empty().title(), "Open a folder of pictures");
+    EXPECT_NO_THROW(Action("Open Folder…"));
+    pictures_.WritePictures(2);
+    EXPECT_TRUE(Open(Folder()));
+    EXPECT_EQ(Status(), "2 pictures");
+    for (QTranslator* translator : application.findChildren<QTranslator*>()) {
+        if (!before.contains(translator)) delete translator;
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Status(), "2 images");
+}
+
+TEST_F(EditorWindowTest, ItMayBeClosedWhileItReads) {
+    pictures_.WritePictures(200);
+    for (int i = 0; i < 10; ++i) {
+        window_->openFolder(Folder());
+        WaitFor([&] { return window_->count() >= i * 20; });
+        Make();
+    }
+}
