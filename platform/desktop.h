@@ -149,6 +149,10 @@ public:
     virtual std::optional<std::string> Text(std::string_view number) const = 0;
 };
 
+class Films;          // picture files that may move, see film.h
+class Forms;          // small windows of the library's own, see forms.h
+class SharedObjects;  // what the controls of a desktop share, see sharedobjects.h
+
 // The roles together, as a control holds them. The desktop that gives them outlives its controls.
 struct Desktop {
     Clock& clock;
@@ -160,6 +164,9 @@ struct Desktop {
     Pictures& pictures;
     Sounds& sounds;
     Texts& texts;
+    Forms& forms;
+    Films& films;
+    SharedObjects& shared;
 };
 
 }  // namespace vorlane

@@ -2,8 +2,8 @@
 // the focus nor any input, so that what lies beneath stays under the user's hand and under a drag.
 #pragma once
 
+#include "platform/ambient.h"
 #include "platform/color.h"
-#include "platform/desktop.h"
 #include "platform/geometry.h"
 #include "platform/region.h"
 
@@ -28,8 +28,8 @@ class Forms {
 public:
     virtual ~Forms() = default;
 
-    // A hidden window: empty, whole, opaque.
-    virtual Hwnd OpenForm() = 0;
+    // A hidden window: empty, whole, opaque. What its content is to be constructed with; Window names the form.
+    virtual Ambient OpenForm() = 0;
     // Shows a root control inside. The form's opener keeps the control at the form's size, and alive until the form is
     // closed.
     virtual void SetContent(Hwnd form, UserControl& content) = 0;

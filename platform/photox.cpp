@@ -4,8 +4,8 @@
 
 namespace vorlane {
 
-PhotoX::PhotoX(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, UserControl* container, Films& films)
-    : CompositeControl(desktop, ambient, container), films_(films), view_(desktop, ambient, this) {}
+PhotoX::PhotoX(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, UserControl* container)
+    : CompositeControl(desktop, ambient, container), view_(desktop, ambient, this) {}
 
 PhotoX::~PhotoX() {
     StopWaiting();
@@ -13,7 +13,7 @@ PhotoX::~PhotoX() {
 
 void PhotoX::Display(const std::string& path) {
     Clear();
-    film_ = films_.Open(path);
+    film_ = Desktop().films.Open(path);
     Advance();
 }
 

@@ -12,10 +12,10 @@ namespace vorlane {
 
 class PhotoX final : public CompositeControl {
 public:
-    PhotoX(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, UserControl* container, Films& films);
+    PhotoX(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, UserControl* container);
     ~PhotoX() override;
 
-    bool CanOpen(const std::string& path) const { return films_.CanOpen(path); }
+    bool CanOpen(const std::string& path) const { return Desktop().films.CanOpen(path); }
     // Shows the file from its start; a file that can't be read leaves the viewer empty.
     void Display(const std::string& path);
     void Clear();
@@ -40,7 +40,6 @@ private:
     void Schedule();
     void StopWaiting();
 
-    Films& films_;
     TessalyLight view_;
     std::unique_ptr<Film> film_;
     int32_t delay_ = 0;  // of the frame that is shown

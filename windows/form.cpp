@@ -8,20 +8,19 @@
 
 namespace vorlane {
 
-Form::Form(const Desktop& desktop, Forms& forms, int32_t designWidth, int32_t designHeight)
-    : desktop_(desktop), forms_(forms), design_{0, 0, designWidth, designHeight}, place_(design_) {}
+Form::Form(const Desktop& desktop, int32_t designWidth, int32_t designHeight)
+    : desktop_(desktop), design_{0, 0, designWidth, designHeight}, place_(design_) {}
 
 Form::~Form() {
-    if (Loaded()) forms_.CloseForm(hwnd_);
+    if (Loaded()) TheForms().CloseForm(hwnd_);
 }
 
 void Form::Load() {
     if (Loaded()) return;
-    hwnd_ = forms_.OpenForm();
-    vorlane::Ambient ambient;
-    ambient.Window = hwnd_;
+    const Ambient ambient = TheForms().OpenForm();
+    hwnd_ = ambient.Window;
     content_ = MakeContent(ambient, [this] { OnResize(); });
-    forms_.SetContent(hwnd_, *content_);
+    TheForms().SetContent(hwnd_, *content_);
     MoveTo(design_);
     OnLoad();
 }
@@ -30,7 +29,7 @@ void Form::Unload() {
     if (Loaded()) {
         const auto effect = OnUnload();
         const vorlane::Hwnd window = std::exchange(hwnd_, 0);
-        effect ? forms_.CloseForm(window, *effect) : forms_.CloseForm(window);
+        effect ? TheForms().CloseForm(window, *effect) : TheForms().CloseForm(window);
         content_.reset();
     }
     place_ = design_;
@@ -78,24 +77,24 @@ void Form::Move(double left, double top, double width, double height) {
 
 void Form::MoveTo(const WinRect& place) {
     place_ = place;
-    forms_.Move(hwnd_, place);
+    TheForms().Move(hwnd_, place);
     content_->Move(0, 0, ScaleWidth(), ScaleHeight());
 }
 
 void Form::Show() {
     Load();
-    forms_.Show(hwnd_);
+    TheForms().Show(hwnd_);
     OnVisibleChanged(true);
 }
 
 void Form::Hide() {
     if (!Loaded()) return;
-    forms_.Hide(hwnd_);
+    TheForms().Hide(hwnd_);
     OnVisibleChanged(false);
 }
 
 bool Form::Visible() const {
-    return Loaded() && forms_.Visible(hwnd_);
+    return Loaded() && TheForms().Visible(hwnd_);
 }
 
 void Form::Refresh() {

@@ -65,7 +65,7 @@ public:
 
 protected:
     // The size of the unloaded form, pixels.
-    Form(const Desktop& desktop, Forms& forms, int32_t designWidth, int32_t designHeight);
+    Form(const Desktop& desktop, int32_t designWidth, int32_t designHeight);
 
     virtual std::unique_ptr<FormContent> MakeContent(const Ambient& ambient, std::function<void()> onResize) = 0;
     virtual void OnLoad() = 0;
@@ -77,10 +77,10 @@ protected:
     virtual void Reset() = 0;
 
     // The part of the window that there is.
-    void SetWindowRgn(const Region& region) { forms_.SetWindowRgn(Hwnd(), region); }
+    void SetWindowRgn(const Region& region) { TheForms().SetWindowRgn(Hwnd(), region); }
 
     const Desktop& TheDesktop() const { return desktop_; }
-    Forms& TheForms() const { return forms_; }
+    Forms& TheForms() const { return desktop_.forms; }
     // The content of a loaded form.
     FormContent& Content();
 
@@ -88,7 +88,6 @@ private:
     void MoveTo(const WinRect& place);
 
     Desktop desktop_;
-    Forms& forms_;
     WinRect design_;
     WinRect place_;
     vorlane::Hwnd hwnd_ = 0;

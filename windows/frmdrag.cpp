@@ -1,5 +1,7 @@
 #include "windows/frmdrag.h"
 
+#include "platform/sharedobjects.h"
+
 #include <utility>
 
 namespace vorlane {
@@ -14,8 +16,8 @@ constexpr uint8_t kAlphaDimmed = 100;
 
 }  // namespace
 
-FrmDrag::FrmDrag(const Desktop& desktop, Forms& forms, int32_t systemFamily)
-    : Form(desktop, forms, kDesignWidth, kDesignHeight), systemFamily_(systemFamily) {}
+FrmDrag::FrmDrag(const Desktop& desktop, int32_t systemFamily)
+    : Form(desktop, kDesignWidth, kDesignHeight), systemFamily_(systemFamily) {}
 
 std::unique_ptr<FormContent> FrmDrag::MakeContent(const Ambient& ambient, std::function<void()> onResize) {
     return std::make_unique<FormContent>(TheDesktop(), ambient, std::move(onResize));
@@ -48,6 +50,10 @@ void FrmDrag::Reset() {
     ColorKey = 0;
     HotX = HotY = 0;
     StartRightPart = false;
+}
+
+FrmDrag& SharedFrmDrag(const Desktop& desktop) {
+    return desktop.shared.Get<FrmDrag>(desktop);
 }
 
 }  // namespace vorlane

@@ -1,6 +1,7 @@
 #include "windows/frmscroll.h"
 
 #include "platform/numbers.h"
+#include "platform/sharedobjects.h"
 #include "platform/trelmic6.h"
 
 #include <utility>
@@ -16,21 +17,17 @@ constexpr double kPixelsOfTenSteps = 108966;
 
 }  // namespace
 
-FrmScroll::View::View(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, std::function<void()> onResize,
-                      Films& films)
-    : FormContent(desktop, ambient, std::move(onResize)),
-      img(desktop, ambient, this, films),
-      img2(desktop, ambient, this) {
+FrmScroll::View::View(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, std::function<void()> onResize)
+    : FormContent(desktop, ambient, std::move(onResize)) {
     sh.SetBorderColor(kFrameColor);
     img.SetPlaying(false);
     img2.SetVisible(false);
 }
 
-FrmScroll::FrmScroll(const Desktop& desktop, Forms& forms, Films& films)
-    : Form(desktop, forms, kDesignWidth, kDesignHeight), films_(films) {}
+FrmScroll::FrmScroll(const Desktop& desktop) : Form(desktop, kDesignWidth, kDesignHeight) {}
 
 std::unique_ptr<FormContent> FrmScroll::MakeContent(const Ambient& ambient, std::function<void()> onResize) {
-    return std::make_unique<View>(TheDesktop(), ambient, std::move(onResize), films_);
+    return std::make_unique<View>(TheDesktop(), ambient, std::move(onResize));
 }
 
 void FrmScroll::OnLoad() {
@@ -88,6 +85,10 @@ void FrmScroll::Reset() {
     ZoomMode = false;
     ZoomX = ZoomY = 0;
     PlaceCode = 0;
+}
+
+FrmScroll& SharedFrmScroll(const Desktop& desktop) {
+    return desktop.shared.Get<FrmScroll>(desktop);
 }
 
 }  // namespace vorlane

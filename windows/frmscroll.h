@@ -15,7 +15,7 @@ namespace vorlane {
 
 class FrmScroll final : public Form {
 public:
-    FrmScroll(const Desktop& desktop, Forms& forms, Films& films);
+    FrmScroll(const Desktop& desktop);
 
     bool ZoomMode = false;  // it is a zoom window
     float ZoomX = 0;        // where a zoom window opened, twips
@@ -32,10 +32,9 @@ public:
 
 private:
     struct View final : FormContent {
-        View(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, std::function<void()> onResize,
-             Films& films);
-        PhotoX img;
-        TessalyLight img2;
+        View(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, std::function<void()> onResize);
+        PhotoX img{Desktop(), Ambient(), this};
+        TessalyLight img2{Desktop(), Ambient(), this};
         Shape sh{this};  // the thin frame
     };
 
@@ -48,8 +47,9 @@ private:
 
     View& Inside() { return static_cast<View&>(Content()); }
     std::optional<ClosingCorner> CornerToClose() const;
-
-    Films& films_;
 };
+
+// The one of the desktop.
+FrmScroll& SharedFrmScroll(const Desktop& desktop);
 
 }  // namespace vorlane

@@ -1,5 +1,7 @@
 #include "windows/frmwait.h"
 
+#include "platform/sharedobjects.h"
+
 #include <utility>
 
 namespace vorlane {
@@ -27,10 +29,13 @@ private:
 
 FrmWait::View::View(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, std::function<void()> onResize)
     : FormContent(desktop, ambient, std::move(onResize)) {
+    fond.SetFont(ambient.Font);
+    fond.SetColorStart(FromSystem(SystemColor::Window));
+    fond.SetColorEnd(FromSystem(SystemColor::ButtonFace));
     fond.SetCornerSize(kCorner);
 }
 
-FrmWait::FrmWait(const Desktop& desktop, Forms& forms) : Form(desktop, forms, kDesignWidth, kDesignHeight) {}
+FrmWait::FrmWait(const Desktop& desktop) : Form(desktop, kDesignWidth, kDesignHeight) {}
 
 std::unique_ptr<FormContent> FrmWait::MakeContent(const Ambient& ambient, std::function<void()> onResize) {
     return std::make_unique<View>(TheDesktop(), ambient, std::move(onResize));
@@ -139,6 +144,10 @@ void FrmWait::CloseWindow(bool withoutEffect) {
     fromWhere_ = WaitPlace::None;
     SetWindowRgn(Region::CreateRectRgn(0, 0, ScaleWidth(), ScaleHeight()));
     Unload();
+}
+
+FrmWait& SharedFrmWait(const Desktop& desktop) {
+    return desktop.shared.Get<FrmWait>(desktop);
 }
 
 }  // namespace vorlane

@@ -16,7 +16,7 @@ namespace vorlane {
 
 class FrmWait final : public Form {
 public:
-    FrmWait(const Desktop& desktop, Forms& forms);
+    FrmWait(const Desktop& desktop);
 
     // Opens the window over r, screen pixels. It is as wide as its caption asks. A place that is none leaves it where
     // it stands; in the middle it appears at once.
@@ -57,5 +57,8 @@ private:
     std::optional<WinRect> moved_;           // the rectangle that came meanwhile
     uint32_t pass_ = 0;                      // counts openings, closings and unloadings
 };
+
+// The one of the desktop.
+FrmWait& SharedFrmWait(const Desktop& desktop);
 
 }  // namespace vorlane

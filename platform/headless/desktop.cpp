@@ -17,14 +17,18 @@ namespace {
 Desktop::Desktop() : OnLeak(Abort) {}
 
 Desktop::~Desktop() {
-    const std::string leaks = Leaks();
+    std::string leaks = Leaks();
+    shared.Clear();
+    if (forms.OpenForms() > 0) leaks += "open forms: " + std::to_string(forms.OpenForms()) + "\n";
     if (!leaks.empty()) OnLeak(leaks);
 }
 
 std::string Desktop::Leaks() const {
     std::string leaks;
     if (clock.RunningTimers() > 0) leaks += "running timers: " + std::to_string(clock.RunningTimers()) + "\n";
-    if (windows.OpenWindows() > 0) leaks += "open windows: " + std::to_string(windows.OpenWindows()) + "\n";
+    const int32_t others = windows.OpenWindows() - forms.OpenForms();
+    if (others > 0) leaks += "open windows: " + std::to_string(others) + "\n";
+    if (forms.ShownForms() > 0) leaks += "shown forms: " + std::to_string(forms.ShownForms()) + "\n";
     if (screen.Captured() != 0) leaks += "captured by window " + std::to_string(screen.Captured()) + "\n";
     return leaks;
 }

@@ -1,11 +1,12 @@
 // The headless desktop: the roles together, for tests and servers. What was asked of it stands in one trace. Its end
-// checks for leaks: a timer, a window or a capture that is still there calls OnLeak, which aborts unless a test says
-// otherwise.
+// checks for leaks: a timer, a window, a form that shows or a capture that is still there calls OnLeak, which aborts
+// unless a test says otherwise.
 #pragma once
 
 #include "platform/headless/fakeforms.h"
 #include "platform/headless/faketooltips.h"
 #include "platform/headless/roles.h"
+#include "platform/sharedobjects.h"
 
 #include <functional>
 #include <string>
@@ -19,7 +20,9 @@ public:
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
-    vorlane::Desktop Roles() { return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts}; }
+    vorlane::Desktop Roles() {
+        return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts, forms, films, shared};
+    }
 
     // What is still running, one line each; empty when all is released.
     std::string Leaks() const;
@@ -37,6 +40,7 @@ public:
     FakeForms forms{trace, windows};
     FakeFilms films{trace};
     FakeTooltips tooltips{trace, windows};
+    SharedObjects shared;
 
     std::function<void(const std::string& leaks)> OnLeak;
 };

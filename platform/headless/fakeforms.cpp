@@ -1,5 +1,6 @@
 #include "platform/headless/fakeforms.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
@@ -53,11 +54,17 @@ FakeForms::State* FakeForms::Told(Hwnd form, const std::string& what) {
     return found == forms_.end() ? nullptr : &found->second;
 }
 
-Hwnd FakeForms::OpenForm() {
-    const Hwnd form = windows_.Open({});
-    forms_[form] = {};
-    Told(form, "open");
-    return form;
+int32_t FakeForms::ShownForms() const {
+    const auto shown = [](const auto& form) { return form.second.Visible; };
+    return static_cast<int32_t>(std::count_if(forms_.begin(), forms_.end(), shown));
+}
+
+Ambient FakeForms::OpenForm() {
+    Ambient ambient;
+    ambient.Window = windows_.Open({});
+    forms_[ambient.Window] = {};
+    Told(ambient.Window, "open");
+    return ambient;
 }
 
 void FakeForms::SetContent(Hwnd form, UserControl& content) {

@@ -1,5 +1,5 @@
 // The forms and films of the headless desktop. A form says in the trace what is done to it, as "form <its number> ...",
-// and keeps its state for a test to look at. A form that is still open at the end counts as an open window.
+// and keeps its state for a test to look at.
 #pragma once
 
 #include "platform/film.h"
@@ -29,8 +29,9 @@ public:
     // nullptr for a form that is not open.
     const State* Find(Hwnd form) const;
     int32_t OpenForms() const { return static_cast<int32_t>(forms_.size()); }
+    int32_t ShownForms() const;
 
-    Hwnd OpenForm() override;
+    Ambient OpenForm() override;
     void SetContent(Hwnd form, UserControl& content) override;
     void Move(Hwnd form, const WinRect& place) override;
     void Show(Hwnd form) override;

@@ -70,7 +70,7 @@ protected:
     std::string Shown() const { return NameOf(viewer.Picture()); }
 
     headless::Desktop desktop;
-    PhotoX viewer{desktop.Roles(), Ambient{}, nullptr, desktop.films};
+    PhotoX viewer{desktop.Roles(), Ambient{}, nullptr};
 };
 
 TEST_F(Viewer, OpensWhatTheDesktopCanOpen) {
@@ -153,7 +153,7 @@ TEST(ViewersEnd, StopsTheFilmThatPlays) {
     headless::Desktop desktop;
     desktop.films.AddMoving("moving.gif", 4, 3, 2, 10);
     {
-        PhotoX viewer(desktop.Roles(), Ambient{}, nullptr, desktop.films);
+        PhotoX viewer(desktop.Roles(), Ambient{}, nullptr);
         viewer.Display("moving.gif");
         EXPECT_EQ(desktop.clock.RunningTimers(), 1);
     }

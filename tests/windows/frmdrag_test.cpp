@@ -15,8 +15,8 @@ protected:
     const headless::FakeForms::State& State(FrmDrag& form) { return *desktop.forms.Find(form.Hwnd()); }
 
     headless::Desktop desktop;
-    FrmDrag ghost{desktop.Roles(), desktop.forms};
-    FrmDrag old{desktop.Roles(), desktop.forms, kWithoutLayers};
+    FrmDrag ghost{desktop.Roles()};
+    FrmDrag old{desktop.Roles(), kWithoutLayers};
 };
 
 // --- With layered windows ---

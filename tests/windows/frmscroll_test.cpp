@@ -46,7 +46,7 @@ protected:
     }
 
     headless::Desktop desktop;
-    FrmScroll form{desktop.Roles(), desktop.forms, desktop.films};
+    FrmScroll form{desktop.Roles()};
 };
 
 // --- Load ---
@@ -297,21 +297,51 @@ TEST_F(FollowWindow, OpensAgainAfterItWasUnloaded) {
 TEST(FollowWindowsEnd, ClosesAnOpenWindow) {
     headless::Desktop desktop;
     {
-        FrmScroll form(desktop.Roles(), desktop.forms, desktop.films);
+        FrmScroll form(desktop.Roles());
         form.Show();
     }
     EXPECT_EQ(desktop.forms.OpenForms(), 0);
     EXPECT_EQ(desktop.Leaks(), "");
 }
 
-TEST(FollowWindowsEnd, AWindowLeftOpenIsALeak) {
+// --- The shared one ---
+
+TEST(SharedFollowWindow, IsOneForAllControlsOfADesktop) {
+    headless::Desktop desktop;
+    headless::Desktop other;
+    EXPECT_EQ(&SharedFrmScroll(desktop.Roles()), &SharedFrmScroll(desktop.Roles()));
+    EXPECT_NE(&SharedFrmScroll(desktop.Roles()), &SharedFrmScroll(other.Roles()));
+    EXPECT_EQ(desktop.forms.OpenForms(), 0);
+}
+
+TEST(SharedFollowWindow, GoesWithItsDesktopWhenItWasLeftHidden) {
+    std::string leaks = "none";
+    {
+        headless::Desktop desktop;
+        desktop.OnLeak = [&](const std::string& told) { leaks = told; };
+        SharedFrmScroll(desktop.Roles()).Load();
+    }
+    EXPECT_EQ(leaks, "none");
+}
+
+TEST(SharedFollowWindow, LeftOnTheScreenIsALeak) {
+    std::string leaks;
+    {
+        headless::Desktop desktop;
+        desktop.OnLeak = [&](const std::string& told) { leaks = told; };
+        SharedFrmScroll(desktop.Roles()).Show();
+    }
+    EXPECT_EQ(leaks, "shown forms: 1\n");
+}
+
+TEST(SharedFollowWindow, AFormThatNobodyClosesIsALeak) {
     std::string leaks;
     {
         headless::Desktop desktop;
         desktop.OnLeak = [&](const std::string& told) { leaks = told; };
         desktop.forms.OpenForm();
     }
-    EXPECT_EQ(leaks, "open windows: 1\n");
+    EXPECT_EQ(leaks, "open forms: 1\n");
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ protected:
     void Open(WaitPlace place, bool withoutEffect = true) { form.ShowAnimatedFrom("", place, kTarget, withoutEffect); }
 
     headless::Desktop desktop;
-    FrmWait form{desktop.Roles(), desktop.forms};
+    FrmWait form{desktop.Roles()};
 };
 
 // --- Load ---

@@ -1,0 +1,47 @@
+#include "platform/qt/widgetpainting.h"
+
+#include "platform/failure.h"
+#include "platform/qt/colors.h"
+#include "platform/qt/controlpainter.h"
+#include "platform/usercontrol.h"
+
+#include <cmath>
+
+#include <QPainter>
+#include <QRegion>
+#include <QWidget>
+
+namespace vorlane {
+
+namespace {
+
+// The device pixels of a rectangle.
+QRect OnDevice(const QRect& rect, double scale) {
+    return QRectF(rect.x() * scale, rect.y() * scale, rect.width() * scale, rect.height() * scale).toAlignedRect();
+}
+
+}  // namespace
+
+QRegion TouchedBy(const Box& box) {
+    return QRectF(box.Left, box.Top, box.Width, box.Height).toAlignedRect().adjusted(-1, -1, 1, 1);
+}
+
+void PaintOnWidget(QPainter& painter, const QWidget& widget, const QRegion& part, const UserControl& root,
+                   const PaintTools& tools) {
+    const double scale = widget.devicePixelRatioF();
+    painter.scale(1 / scale, 1 / scale);
+    Attempt([&] {
+        ControlPainter control(painter, tools, scale);
+        for (const QRect& rect : part) {
+            const QRect damaged = OnDevice(rect, scale);
+            // At a density that is no whole number the widget's last pixel may reach beyond the control.
+            if (scale != std::floor(scale)) {
+                painter.setClipping(false);
+                painter.fillRect(damaged, ToQColor(root.Surface().BackColor(), tools.screen));
+            }
+            control.Paint(root, damaged);
+        }
+    });
+}
+
+}  // namespace vorlane
