@@ -3,11 +3,11 @@
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "platform/qt/colors.h"
-#include "platform/qt/controlpainter.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/peers.h"
 #include "platform/qt/qtdesktop.h"
 #include "platform/qt/qtpicturedata.h"
+#include "platform/qt/widgetpainting.h"
 
 #include <cmath>
 
@@ -48,21 +48,6 @@ QCursor CursorFrom(const Picture& icon, double scale) {
     return pixels.isNull() ? QCursor(Qt::ArrowCursor) : QCursor(pixels, 0, 0);
 }
 
-// The device pixels of a rectangle.
-QRect OnDevice(const QRect& rect, double scale) {
-    return QRectF(rect.x() * scale, rect.y() * scale, rect.width() * scale, rect.height() * scale).toAlignedRect();
-}
-
-// Makes the device pixel the painter's unit, from a whole one on. Returns how many of them make a logical pixel.
-double CountInDevicePixels(QPainter& painter) {
-    const QTransform device = painter.deviceTransform();
-    const bool upright = device.type() <= QTransform::TxScale && device.m11() > 0 && device.m11() == device.m22();
-    if (!upright) return 1;
-    painter.scale(1 / device.m11(), 1 / device.m11());
-    painter.translate(std::round(device.dx()) - device.dx(), std::round(device.dy()) - device.dy());
-    return device.m11();
-}
-
 }  // namespace
 
 ControlHost::ControlHost(QtDesktop& desktop, QWidget* parent) : QWidget(parent), desktop_(desktop) {
@@ -88,7 +73,7 @@ void ControlHost::Attach(std::unique_ptr<UserControl> control) {
     router_ = std::make_unique<InputRouter>(*control_);
     router_->DoubleClickTime = QApplication::doubleClickInterval();
     router_->DoubleClickDistance = static_cast<float>(QGuiApplication::styleHints()->mouseDoubleClickDistance());
-    damaged_ = control_->Damaged.connect([this](const Box& box) { update(Around(box).adjusted(-1, -1, 1, 1)); });
+    damaged_ = control_->Damaged.connect([this](const Box& box) { update(TouchedBy(box)); });
     peers_ = MakePeers(*control_, *this);
     Attempt([&] { control_->InitProperties(); });
     TakeSize();
@@ -125,19 +110,7 @@ void ControlHost::changeEvent(QEvent* event) {
 void ControlHost::paintEvent(QPaintEvent* event) {
     if (!control_) return;
     QPainter painter(this);
-    const double scale = CountInDevicePixels(painter);
-    Attempt([&] {
-        ControlPainter control(painter, desktop_.Tools(), scale);
-        for (const QRect& part : event->region()) {
-            const QRect damaged = OnDevice(part, scale);
-            // At a density that is no whole number the widget's last pixel may reach beyond the control.
-            if (scale != std::floor(scale)) {
-                painter.setClipping(false);
-                painter.fillRect(damaged, ToQColor(control_->Surface().BackColor(), desktop_.screen));
-            }
-            control.Paint(*control_, damaged);
-        }
-    });
+    PaintOnWidget(painter, event->region(), *control_, desktop_.Tools());
 }
 
 // --- Mouse ---

@@ -46,6 +46,18 @@ void Pill(QPainter& painter, const QRectF& box, const QColor& color) {
     painter.drawRoundedRect(box, radius, radius);
 }
 
+// A panel with round corners and a thin rim. Like a rounded region it covers one pixel less on the right and below.
+void RoundedPanel(QPainter& painter, const QRectF& area, double radius, const QLinearGradient& ground, double pixel) {
+    const double half = pixel / 2;
+    const QColor end = ground.stops().last().second;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(ground);
+    painter.setPen(QPen(end.lightness() > 127 ? end.darker(150) : end.lighter(200), pixel));
+    painter.drawRoundedRect(area.adjusted(half, half, -half - pixel, -half - pixel), radius, radius);
+    painter.restore();
+}
+
 }  // namespace
 
 void ControlPainter::Visit(const Label& label) {
@@ -113,7 +125,11 @@ void ControlPainter::Visit(const OmbrelGradient& panel) {
     QLinearGradient ground(area.topLeft(), area.bottomLeft() + QPoint(0, 1));
     ground.setColorAt(0, ToQColor(panel.ColorStart(), tools_.screen));
     ground.setColorAt(1, ToQColor(panel.ColorEnd(), tools_.screen));
-    painter_.fillRect(area, ground);
+    if (panel.CornerSize() > 0) {
+        RoundedPanel(painter_, area, panel.CornerSize() * grid_.Scale() / 2, ground, grid_.Scale());
+    } else {
+        painter_.fillRect(area, ground);
+    }
     if (panel.Caption().empty()) return;
 
     const QtTextMetrics::Resolved& font = tools_.fonts.Resolve(panel.Font());

@@ -5,6 +5,8 @@
 #include "platform/qt/painttools.h"
 #include "platform/qt/qtclock.h"
 #include "platform/qt/qtdialogs.h"
+#include "platform/qt/qtfilms.h"
+#include "platform/qt/qtforms.h"
 #include "platform/qt/qtkeyboard.h"
 #include "platform/qt/qtpictures.h"
 #include "platform/qt/qtscreen.h"
@@ -13,6 +15,7 @@
 #include "platform/qt/qttexts.h"
 #include "platform/qt/qtwindows.h"
 #include "platform/qt/scaledpictures.h"
+#include "platform/sharedobjects.h"
 
 #include <QObject>
 
@@ -26,11 +29,13 @@ class QtDesktop final : public QObject {
 public:
     explicit QtDesktop(QObject* parent = nullptr);
 
-    // The desktop that the controls of a program share when nothing else is said. It belongs to the application
-    // object, and is made when it is asked for first.
+    // The desktop that the controls of a program share when nothing else is said. It is made when it is asked for
+    // first, and ends when the application object does.
     static QtDesktop& Of(QCoreApplication& application);
 
-    Desktop Roles() { return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts}; }
+    Desktop Roles() {
+        return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts, forms, films, shared};
+    }
     PaintTools Tools() { return {screen, metrics, scaled}; }
 
     QtClock clock;
@@ -43,6 +48,9 @@ public:
     QtSounds sounds;
     QtTexts texts;
     ScaledPictures scaled;
+    QtForms forms{windows, Tools()};
+    QtFilms films{pictures};
+    SharedObjects shared;
 };
 
 }  // namespace vorlane

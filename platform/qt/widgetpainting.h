@@ -5,7 +5,6 @@
 
 class QPainter;
 class QRegion;
-class QWidget;
 
 namespace vorlane {
 
@@ -15,8 +14,7 @@ struct Box;
 // The pixels of a widget that a change of box touches.
 QRegion TouchedBy(const Box& box);
 
-// Paints part of root, in pixels of the widget. painter has not been scaled; widget gives the density. Never throws.
-void PaintOnWidget(QPainter& painter, const QWidget& widget, const QRegion& part, const UserControl& root,
-                   const PaintTools& tools);
+// Paints part of root, in pixels of the widget, with a painter as the widget's paint event begins with. Never throws.
+void PaintOnWidget(QPainter& painter, const QRegion& part, const UserControl& root, const PaintTools& tools);
 
 }  // namespace vorlane
