@@ -31,7 +31,7 @@ QString SortName(const QString& fileName) {
         digits.clear();
     };
     for (const QChar unit : fileName.normalized(QString::NormalizationForm_KD).toLower()) {
-        if (unit.category() == QChar::Mark_NonSpacing) continue;
+        if (unit > QChar(127) && unit.category() == QChar::Mark_NonSpacing) continue;
         const bool digit = unit >= QLatin1Char('0') && unit <= QLatin1Char('9');
         if (!digit) flush();
         (digit ? digits : sorted) += unit;
