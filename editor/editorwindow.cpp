@@ -1,5 +1,6 @@
 #include "editor/editorwindow.h"
 
+#include "editor/caption.h"
 #include "editor/emptypage.h"
 #include "editor/look.h"
 #include "editor/slidesize.h"
@@ -53,6 +54,8 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
     statusBar()->setSizeGripEnabled(false);
     sheet_->installEventFilter(this);
 
+    connect(sheet_, &VorlaneWidget::OnAdded, this,
+            [this](int index, const QString& file) { sheet_->SetCaptionBottom(index, CaptionOf(file, locale())); });
     MakeMenus();
     ConnectReader();
     ApplyLook(*sheet_, palette());

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
 
 namespace vorlane::editor {
@@ -27,6 +28,8 @@ void InstallLanguage(QCoreApplication& application, const QString& language) {
             delete translator;
         }
     };
+    const QLocale locale(language);
+    if (QLocale().language() != locale.language()) QLocale::setDefault(locale);
     install(QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     install(QStringLiteral("vorlane_") + language, QStringLiteral(":/editor/translations"));
 }

@@ -11,7 +11,8 @@ namespace vorlane::editor {
 // who states none, French.
 QString LanguageFor(const QStringList& userLanguages);
 
-// Sets the application's texts to the language, and those of its standard dialogs where the system has them.
+// Sets the application's texts to the language, and those of its standard dialogs where the system has them. Numbers
+// and dates follow the user's own locale where it speaks that language. To be called before there is a window.
 void InstallLanguage(QCoreApplication& application, const QString& language);
 
 }  // namespace vorlane::editor

@@ -12,9 +12,9 @@ QColor Mixed(const QColor& color, const QColor& into, int percent) {
     return {mix(color.red(), into.red()), mix(color.green(), into.green()), mix(color.blue(), into.blue())};
 }
 
-QFont SmallFont() {
+QFont CaptionFont() {
     QFont font;
-    font.setPixelSize(4);
+    font.setPointSizeF(font.pointSizeF() * 0.85);
     return font;
 }
 
@@ -38,7 +38,7 @@ void ApplyLook(VorlaneWidget& sheet, const QPalette& palette) {
     sheet.SetMarges(12);
     sheet.SetMargeDiapoMin(12);
     sheet.SetImageMarge(6);
-    sheet.SetLegendeFont(SmallFont());  // the editor has no captions yet; an empty line of them is room below the name
+    sheet.SetLegendeFont(CaptionFont());
     sheet.SetLegendeNbLig(1);
     sheet.SetShowDiapoJauge(false);
     sheet.SetShowJauge(false);  // a fill is done before anybody could read it

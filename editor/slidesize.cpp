@@ -6,7 +6,7 @@ namespace vorlane::editor::slidesize {
 
 namespace {
 
-constexpr int kTextHeight = 30;
+constexpr int kTextHeight = 42;
 
 }  // namespace
 

@@ -1,5 +1,5 @@
 // The slide's size at each step of the zoom. A pure rule: the slide is told by its width, in pixels; a picture of
-// four by three and one line of text fill it.
+// four by three, a name and a caption fill it.
 #pragma once
 
 #include <QSize>

@@ -233,6 +233,10 @@ public:
     int CurrentDiapo() const;
     bool Selected(int index) const;
     void SetSelected(int index, bool selected);
+    // The text under the name of a slide. It goes with the slide's item while rows are scrolled; a slide that takes
+    // another item keeps it until the host, told by OnAdded, sets it anew.
+    QString CaptionBottom(int index) const;
+    void SetCaptionBottom(int index, const QString& text);
     int Key(int listIndex) const;
     QString ImageFullPath(int listIndex) const;
 

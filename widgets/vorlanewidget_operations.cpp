@@ -131,6 +131,14 @@ void VorlaneWidget::SetSelected(int index, bool selected) {
     Do("SetSelected", [&] { sheet_.SetSelected(ToInt16(index), selected); });
 }
 
+QString VorlaneWidget::CaptionBottom(int index) const {
+    return Ask("CaptionBottom", QString(), [&] { return FromText(sheet_.Diapo.Item(index)->CaptionBottom()); });
+}
+
+void VorlaneWidget::SetCaptionBottom(int index, const QString& text) {
+    Do("SetCaptionBottom", [&] { sheet_.Diapo.Item(index)->SetCaptionBottom(ToText(text)); });
+}
+
 int VorlaneWidget::Key(int listIndex) const {
     return Ask("Key", 0, [&] { return sheet_.Key(listIndex); });
 }

@@ -1,10 +1,10 @@
 #include "widgets/thumbnailprovider.h"
-#include "widgets/vorlanewidget.h"
 
 #include "platform/qt/qtdesktop.h"
 #include "platform/qt/qtpicturedata.h"
 #include "sheet/vorlane.h"
 #include "tests/widgets/thumbnailsupport.h"
+#include "widgets/vorlanewidget.h"
 
 #include <gtest/gtest.h>
 

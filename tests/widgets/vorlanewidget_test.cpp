@@ -202,6 +202,17 @@ TEST_F(VorlaneWidgetTest, SelectingASlideSelectsItsItem) {
     EXPECT_TRUE(errors.contains("VorlaneWidget Selected"));
 }
 
+TEST_F(VorlaneWidgetTest, ASlideTakesACaption) {
+    Show();
+    AddPictures(2);
+    widget.StartLecture();
+    widget.SetCaptionBottom(1, QStringLiteral("Été"));
+    EXPECT_EQ(widget.CaptionBottom(1), QStringLiteral("Été"));
+    EXPECT_EQ(widget.sheet().Diapo.Item(1)->CaptionBottom(), "Été");
+    EXPECT_EQ(widget.CaptionBottom(99), QString());
+    EXPECT_TRUE(errors.contains("VorlaneWidget CaptionBottom"));
+}
+
 TEST_F(VorlaneWidgetTest, AListOf40000ItemsOverflowsTheCountAlone) {
     Show();
     for (int i = 0; i < 40000; ++i) widget.Add("/nowhere/a.wav", {}, i);
