@@ -35,17 +35,23 @@ std::optional<int32_t> Vorlane::WantedItem(const std::string& startImageName, in
     return std::nullopt;
 }
 
-// Moves the bar to the item and fills from where it then stands; a bar at its end can't follow any further. A fill is
-// wanted in any case: the list may have changed, so that the looks of the slides are not worth a copy.
 int16_t Vorlane::PositionOn(int32_t listIndex) {
     Bound().SetListIndex(listIndex);
+    FillFrom(listIndex);
+    bar_.ScrollValue = VScroll.Value();
+    return SlotFromListIndex(listIndex);
+}
+
+// Moves the bar to the item and fills from where it then stands; a bar at its end can't follow any further. A fill is
+// wanted in any case: the list may have changed, so that the looks of the slides are not worth a copy.
+void Vorlane::FillFrom(int32_t listIndex) {
     InitVScroll(false);
     bar_.JumpNext = true;
     VScroll.SetValue(listIndex);
     const bool moved = !std::exchange(bar_.JumpNext, false);
-    if (!moved) StartLect(VScroll.Value(), -1, -1);
-    bar_.ScrollValue = VScroll.Value();
-    return SlotFromListIndex(listIndex);
+    if (moved) return;
+    const int32_t start = VScroll.Value();
+    if (StartLect(start, -1, -1)) bar_.ScrollValue = start;
 }
 
 int16_t Vorlane::FillFromTop() {

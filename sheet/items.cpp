@@ -8,8 +8,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr std::string_view kCaption = "Vorlane";
-constexpr int32_t kWarning = 48;
 constexpr std::string_view kNoAddToFiles =
     "Impossible d'ajouter un élément lorsque le controle est lié a une FileListBox.";
 constexpr std::string_view kNoMultiSelect = "La proprété Multiselect de la liste n'est pas activée.";
@@ -69,7 +67,7 @@ int32_t Vorlane::Add(const std::string& imageName, const std::string& multipleDa
                      int32_t insertBefore) {
     const auto add = [&]() -> int32_t {
         if (Bound().AsFileListBox() != nullptr) {
-            Desktop().dialogs.MsgBox(kNoAddToFiles, kWarning, kCaption);
+            Warn(kNoAddToFiles);
             return 0;
         }
         if (imageName.empty()) return 0;
@@ -145,7 +143,7 @@ bool Vorlane::BindList(ListeModeType mode, ListControl* newList) {
     if (newList->Hwnd() == Bound().Hwnd()) return true;
     items_.Liste = newList;
     if (newList->MultiSelect() != 0) return true;
-    Desktop().dialogs.MsgBox(kNoMultiSelect, kWarning, kCaption);
+    Warn(kNoMultiSelect);
     return false;
 }
 

@@ -8,6 +8,13 @@
 
 namespace vorlane {
 
+namespace {
+
+constexpr std::string_view kCaption = "Vorlane";
+constexpr int32_t kWarning = 48;
+
+}  // namespace
+
 std::string LogArgument(std::string_view text) {
     return std::string(text);
 }
@@ -24,6 +31,10 @@ std::string LogArgument(double number) {
 
 void Vorlane::Report(const Failure& failure, const std::string& valeur) {
     Events.Error(failure.Number, failure.Description, failure.Source, failure.LastDllError, valeur);
+}
+
+void Vorlane::Warn(std::string_view text) const {
+    Desktop().dialogs.MsgBox(text, kWarning, kCaption);
 }
 
 }  // namespace vorlane

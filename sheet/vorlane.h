@@ -116,6 +116,9 @@ public:
     int16_t GetDiapoFromCol(float& x, float& y, bool& rightPart);
     // Gives all slides (dimAll) of a sheet that shows some another size, in pixels; otherwise only slide 0.
     void DiapoSizeChange(bool dimAll, int16_t newWidth, int16_t newHeight);
+    // Sorts the list on a criterion of its sort data, from 1; 0 stands for the last one. The selected item stays on its
+    // slide as far as the list's ends allow.
+    void Sort(uint8_t argIndice = 0);
     // A reduced copy of picture, as slide 0 makes it.
     std::optional<vorlane::Picture> Thumb(const vorlane::Picture& picture, int16_t resolution = -1) const {
         return First().Thumb(picture, resolution);
@@ -284,6 +287,7 @@ public:
         Event<int16_t, const std::string&> InvalidPicture;           // Index, FileName
         Event<int32_t, int32_t&> Scroll;                             // Value, AsValue: the value last acted on
         Event<> TLClear;                                             // the sheet has been cleared
+        Event<> Sorted;                                              // Sort has come to its end
         Event<int32_t, int32_t> TraitementFeedBack;                  // Value, Max: how far a long operation is
         Event<const std::string&, int32_t&, bool&> OLENewFileAdded;  // FileName, Key, Cancel
         // Number, Description, Source, LastDllError, Valeur: the log line
@@ -344,7 +348,7 @@ private:
         bool ShowJauge = false;
         bool JaugeAnimation = false;
     };
-    struct Sort {
+    struct Sorting {
         bool Sorted = false;
         SortSensType SortedSens = SortSensType::ssNone;
         uint8_t SortCurrent = 0;  // criterion last sorted on
@@ -417,6 +421,7 @@ private:
              [&](const Failure& failure) { Report(failure, LogText(name, Diapo.Count(), arguments...)); });
     }
     void Report(const Failure& failure, const std::string& valeur);
+    void Warn(std::string_view text) const;
 
     // cells.cpp
     grid::Frame Frame() const;
@@ -455,6 +460,7 @@ private:
     // display.cpp
     std::optional<int32_t> WantedItem(const std::string& startImageName, int32_t diapoKey);
     int16_t PositionOn(int32_t listIndex);
+    void FillFrom(int32_t listIndex);
     int16_t FillFromTop();
     bool StartLect(int32_t start, int16_t slot, int16_t count);
     bool Lect(int32_t start, int16_t slot, int16_t count);
@@ -490,6 +496,10 @@ private:
     bool ScrollForward();
     bool ScrollBack();
 
+    // sorting.cpp
+    int16_t SortInt(uint8_t criterion, int32_t& anchor);
+    int16_t AnchorSlot() const;
+
     // relayout.cpp
     void Resized() override { Resize(); }
     void Resize();
@@ -512,7 +522,7 @@ private:
     Layout layout_;
     Selection selection_;
     Gauge gauge_;
-    Sort sort_;
+    Sorting sort_;
     Sound sound_;
     std::string captionWait_;
     int16_t thumbnailSizeNormal_ = 0;

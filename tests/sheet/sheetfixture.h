@@ -42,6 +42,16 @@ protected:
         return NameOfFile(n);
     }
 
+    // The number of the picture that stands at each index of the list, by its key.
+    std::string Order() const {
+        const ListBox& list = *sheet->Liste()->AsListBox();
+        std::string text;
+        for (int32_t i = 0; i < list.ListCount(); ++i) {
+            text += (i == 0 ? "" : " ") + std::to_string(list.ItemData(i) - 1000);
+        }
+        return text;
+    }
+
     // Adds pictures first to last with their numbers as keys plus 1000.
     void AddItems(int32_t first, int32_t last) {
         for (int32_t n = first; n <= last; ++n) sheet->Add(File(n), "", 1000 + n);
@@ -95,6 +105,7 @@ protected:
     std::function<void()> onDisplayEnd;
     std::function<void(int32_t)> onFeedBack;
     std::function<void(int32_t&)> onScroll;
+    std::function<void()> onSorted;
 
 private:
     static std::string NameOfFile(int32_t n) {
@@ -135,6 +146,10 @@ private:
             if (onScroll) onScroll(asValue);
         });
         events.TLClear.connect([this] { Say("TLClear"); });
+        events.Sorted.connect([this] {
+            Say("Sorted");
+            if (onSorted) onSorted();
+        });
         events.TraitementFeedBack.connect([this](int32_t value, int32_t max) {
             Say("TraitementFeedBack " + std::to_string(value) + "/" + std::to_string(max));
             if (onFeedBack) onFeedBack(value);

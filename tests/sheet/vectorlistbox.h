@@ -62,9 +62,14 @@ public:
         return -1;
     }
     int32_t NewIndex() const override { return newIndex_; }
-    bool Sorted() const override { return false; }
+    bool Sorted() const override {
+        if (dead) throw failures::ObjectNotSet();
+        return sorted;
+    }
 
     mutable int32_t reads = 0;
+    bool sorted = false;  // says that it keeps itself in order; it does not
+    bool dead = false;    // can't tell whether it does
 
 private:
     struct Item {
