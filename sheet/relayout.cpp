@@ -36,13 +36,14 @@ float Vorlane::FreshToken() {
 }
 
 // A layout that was stopped starts again at the next tick. A tick inside a resize only stops what is running for
-// another grid.
+// another grid. A sheet that has been cleared meanwhile has nothing to lay out.
 void Vorlane::ResizeTick() {
     if (layout_.Resizing) {
         pass_.StopLect = ComputeCountX() != grid_.CountDiapoX || ComputeCountY() != grid_.CountDiapoY;
         return;
     }
-    if (!PlaceDiapos(CountDiapo(), FreshToken(), 0, 0)) return;
+    const bool cleared = !HasSlides() && Ambient().UserMode;
+    if (!cleared && !PlaceDiapos(CountDiapo(), FreshToken(), 0, 0)) return;
     TimerResize.SetEnabled(false);
     TimerUnload.SetEnabled(true);
 }
@@ -54,9 +55,13 @@ void Vorlane::UnloadTick() {
 }
 
 void Vorlane::UnloadExtraDiapos() {
+    UnloadSurplus();
+    Desktop().clock.DoEvents();
+}
+
+void Vorlane::UnloadSurplus() {
     const int64_t first = Max(CountDiapo(), 1);
     for (int32_t k = Diapo.Count() - 1; k >= first; --k) UnloadDiapo(Diapo.UpperBound());
-    Desktop().clock.DoEvents();
 }
 
 void Vorlane::DiapoSizeChange(bool dimAll, int16_t newWidth, int16_t newHeight) {
@@ -74,9 +79,9 @@ void Vorlane::DiapoSizeChange(bool dimAll, int16_t newWidth, int16_t newHeight) 
         if (CountDiapo() < Diapo.Count()) HideFrom(0);
         InitVScroll(false);
         if (PlaceDiapos(CountDiapo(), FreshToken(), newWidth, newHeight)) TimerUnload.SetEnabled(true);
-        layout_.Resizing = false;
     };
     GuardVoid(change, "DiapoSizeChange", dimAll, newWidth, newHeight);
+    layout_.Resizing = false;
 }
 
 void Vorlane::HideFrom(int64_t first) {
@@ -86,7 +91,7 @@ void Vorlane::HideFrom(int64_t first) {
 // --- The layout ---
 
 // Lays out the first wanted slides and makes those that are missing. A failure behind the computing of the gaps ends
-// it silently. Gives whether it ran to its end.
+// it silently. Only a stop that comes while it runs stops it. Gives whether it ran to its end.
 bool Vorlane::PlaceDiapos(int16_t wanted, float token, int16_t newWidth, int16_t newHeight) {
     const bool asIs = newWidth + newHeight == 0;
     Placement placement{};
@@ -98,7 +103,9 @@ bool Vorlane::PlaceDiapos(int16_t wanted, float token, int16_t newWidth, int16_t
     placement.X = placement.RowStart = spread.FirstLeft;
     placement.Y = spread.FirstTop;
     bool complete = false;
+    const bool stoppedBefore = std::exchange(pass_.StopLect, false);
     Attempt([&] { complete = PlaceAll(placement); });
+    pass_.StopLect = pass_.StopLect || stoppedBefore;
     return complete;
 }
 

@@ -38,6 +38,7 @@ void Vorlane::BarChanged(int32_t value) {
         MoveCurrentSlot(distance);
         bool complete = false;
         if (!jump && std::abs(distance) <= VScroll.SmallChange()) {
+            UnloadSurplus();  // a step reads on behind the last slide, which has to be one of the grid
             const bool back = distance <= 0;
             if (back ? First().Value() == 0 : AtListEnd()) return;
             complete = Scroll(back ? 1 : 0);

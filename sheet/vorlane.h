@@ -514,6 +514,7 @@ private:
     void ResizeTick();
     void UnloadTick();
     void UnloadExtraDiapos();
+    void UnloadSurplus();
 
     Grid grid_;
     Items items_;

@@ -139,6 +139,36 @@ TEST_F(RelayoutTest, ClearInsideALayoutEndsItSilently) {
     EXPECT_EQ(Slides(), "(.)");
 }
 
+TEST_F(RelayoutTest, AStopFromBeforeALayoutDoesNotStopIt) {
+    Show(40);
+    sheet->Clear();
+    AddItems(0, 39);
+    onBeforeSetPicture = [this](int16_t index, Picture&) {
+        if (index == 0) sheet->Clear();
+    };
+    sheet->StartLecture();
+    onBeforeSetPicture = {};
+    ASSERT_TRUE(sheet->Diapo.Item(0)->Picture().Handle() != 0) << "slide 0 was filled behind Clear";
+    AddItems(0, 39);
+    window.Resize(450, kHeight);
+    desktop.clock.Advance(50);
+    EXPECT_FALSE(sheet->TimerResize.Enabled());
+    EXPECT_EQ(sheet->Diapo.Count(), 12);
+}
+
+TEST_F(RelayoutTest, ASheetThatIsClearedBeforeItsLayoutStaysEmpty) {
+    Show(40);
+    window.Resize(450, kHeight);
+    sheet->Clear();
+    AddItems(0, 39);
+    desktop.trace.Clear();
+    desktop.clock.Advance(1);
+    EXPECT_EQ(Heard(), "");
+    EXPECT_EQ(Slides(), "(.)");
+    desktop.clock.Advance(200);
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+}
+
 TEST_F(RelayoutTest, AThrowInsideALayoutEndsItSilentlyAndTheTimerTriesAgain) {
     Show(40);
     window.Resize(450, kHeight);

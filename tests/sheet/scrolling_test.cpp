@@ -144,6 +144,26 @@ TEST_F(ScrollingTest, ASidewaysStepMovesByOneSlide) {
     ExpectSlidesAgreeWithList();
 }
 
+TEST_F(ScrollingTest, AStepAfterThePoolHasShrunkFirstUnloadsTheSurplus) {
+    Show(40);
+    window.Resize(240, kHeight);
+    desktop.clock.Advance(1);
+    ASSERT_EQ(Slides(), "0 1 2 3 4 5 (6) (7) (8)");
+    sheet->VScroll.SetValue(2);
+    EXPECT_EQ(Slides(), "2 3 4 5 6 7");
+    ExpectSlidesAgreeWithList();
+    desktop.clock.Advance(200);
+    EXPECT_EQ(Slides(), "2 3 4 5 6 7");
+}
+
+TEST_F(ScrollingTest, TheUsersWheelScrollsOverASlideAndOverTheGround) {
+    Show(40);
+    window.Wheel(-1, 50, 50);
+    EXPECT_EQ(Slides(), "3 4 5 6 7 8 9 10 11");
+    window.Wheel(-1, 1, 1);
+    EXPECT_EQ(Slides(), "6 7 8 9 10 11 12 13 14");
+}
+
 // --- Jumps ---
 
 TEST_F(ScrollingTest, MoreThanARowBindsAllSlidesAnew) {
