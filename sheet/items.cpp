@@ -53,12 +53,10 @@ int32_t Vorlane::GetListIndexFromItemData(int32_t key) {
 int16_t Vorlane::GetIndexFromKey(int32_t key) const {
     const ListBox* list = Bound().AsListBox();
     if (list == nullptr) return -1;
-    for (int16_t k = 0; k < Diapo.Count(); ++k) {
-        const int32_t item = Diapo.Item(k)->Value();
-        const bool shown = item >= 0 && item < list->ListCount();
-        if (shown && list->ItemData(item) == key) return k;
-    }
-    return -1;
+    return FindSlide([&](const eDiapoLight& slide) {
+        const int32_t item = slide.Value();
+        return item >= 0 && item < list->ListCount() && list->ItemData(item) == key;
+    });
 }
 
 // --- Adding and clearing ---

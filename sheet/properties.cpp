@@ -20,10 +20,7 @@ int32_t Vorlane::CountSelected() const {
 }
 
 int16_t Vorlane::CurrentDiapo() const {
-    for (int16_t k = 0; k < Diapo.Count(); ++k) {
-        if (Diapo.Item(k)->BackColor() == selection_.BackColorCurrent) return k;
-    }
-    return -1;
+    return FindSlide([this](const eDiapoLight& slide) { return slide.BackColor() == selection_.BackColorCurrent; });
 }
 
 void Vorlane::SetSelected(int16_t index, bool selected) {

@@ -25,10 +25,7 @@ std::shared_ptr<eDiapoLight> Vorlane::MakeSlide(int32_t index) {
 }
 
 int16_t Vorlane::SlotFromListIndex(int32_t listIndex) const {
-    for (int16_t k = 0; k < Diapo.Count(); ++k) {
-        if (Diapo.Item(k)->Value() == listIndex) return k;
-    }
-    return -1;
+    return FindSlide([=](const eDiapoLight& slide) { return slide.Value() == listIndex; });
 }
 
 // Slide 0 always stays: it goes blank and out of sight.

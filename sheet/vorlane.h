@@ -16,6 +16,7 @@
 #include "platform/filelistbox.h"
 #include "platform/imagelist.h"
 #include "platform/memorylistbox.h"
+#include "platform/numbers.h"
 #include "platform/ombrel.h"
 #include "platform/propertybag.h"
 #include "platform/scrollbarplus.h"
@@ -449,6 +450,14 @@ private:
     vorlane::Picture PictureFor(DiapoPictureIndex index, const vorlane::Picture& present, bool invalidSound) const;
     eDiapoLight& First() const { return *Diapo.Item(0); }
     std::shared_ptr<eDiapoLight> Last() const { return Diapo.Item(Diapo.Count() - 1); }
+    // Index of the first slide that passes a test, -1 for none.
+    template <class Test>
+    int16_t FindSlide(Test&& test) const {
+        for (int32_t k = 0; k < Diapo.Count(); ++k) {
+            if (test(*Diapo.Item(k))) return ToInt16(k);
+        }
+        return -1;
+    }
     int16_t SlotFromListIndex(int32_t listIndex) const;
     void UnloadDiapo(int32_t index);
     void ResetDiapo(int32_t index);
