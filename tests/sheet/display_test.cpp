@@ -85,6 +85,7 @@ TEST_F(DisplayTest, AnEmptyListFromTheStartShowsNothing) {
     EXPECT_EQ(sheet->StartLecture(), 0);
     EXPECT_EQ(Heard(), "host DisplayStart\nhost DisplayEnd\n");
     EXPECT_EQ(Slides(), "(.)");
+    EXPECT_EQ(sheet->LstInterne.ListIndex(), -1);
 }
 
 TEST_F(DisplayTest, AStartBeyondTheEndOfTheListEmptiesTheSheet) {

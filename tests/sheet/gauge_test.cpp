@@ -62,6 +62,14 @@ TEST_F(GaugeTest, StaysAfterAStoppedFill) {
     EXPECT_TRUE(sheet->Jauge.Visible());
 }
 
+TEST_F(GaugeTest, StaysAfterAFillThatFails) {
+    Show(40);
+    onAdded = [](int16_t) { throw failures::TypeMismatch(); };
+    sheet->StartLecture();
+    EXPECT_TRUE(sheet->Jauge.Visible());
+    EXPECT_EQ(desktop.screen.MousePointer(), 0);
+}
+
 TEST_F(GaugeTest, NeverShowsWhenItIsNotWanted) {
     Show(40);
     sheet->SetShowJauge(false);

@@ -118,6 +118,25 @@ TEST_F(ScrollingTest, AShortLastRowLeavesAHole) {
     ExpectSlidesAgreeWithList();
 }
 
+TEST_F(ScrollingTest, AShorterLastStepStillCopiesAWholeRow) {
+    Show(14);
+    ASSERT_EQ(sheet->VScroll.Max(), 8);
+    sheet->VScroll.SetValue(3);
+    sheet->VScroll.SetValue(6);
+    EXPECT_EQ(Slides(), "6 7 8 9 10 11 12 13");
+    sheet->VScroll.SetValue(8);
+    EXPECT_EQ(Slides(), "9 10 11 12 13");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ScrollingTest, AStepToTheTopFromAnUnevenPlaceShowsItemsTwice) {
+    Show(40);
+    sheet->StartLecture("", 1002);
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(Slides(), "0 1 2 2 3 4 5 6 7");
+    ExpectSlidesAgreeWithList();
+}
+
 TEST_F(ScrollingTest, OneRowAloneIsFilledAnewWithoutCopies) {
     window.Resize(kWidth, 5);
     Start();
