@@ -93,7 +93,9 @@ void EditorWindow::Retranslate() {
 void EditorWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) Retranslate();
-    if (event->type() == QEvent::PaletteChange && sheet_) ApplyLook(*sheet_, palette());
+    if (event->type() != QEvent::PaletteChange || !sheet_) return;
+    ApplyLook(*sheet_, palette());
+    ShowSheet();
 }
 
 void EditorWindow::closeEvent(QCloseEvent* event) {

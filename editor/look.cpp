@@ -35,6 +35,10 @@ void ApplyLook(VorlaneWidget& sheet, const QPalette& palette) {
     sheet.SetShadowColor(Mixed(palette.color(QPalette::Shadow), card, 30));
     sheet.SetShadowWidth(3);
 
+    const QColor mark = palette.color(QPalette::Highlight);
+    sheet.SetBackColorSelected(Mixed(mark, card, 40));
+    sheet.SetBackColorCurrent(Mixed(mark, card, 65));
+
     sheet.SetMarges(12);
     sheet.SetMargeDiapoMin(12);
     sheet.SetImageMarge(6);
@@ -42,6 +46,7 @@ void ApplyLook(VorlaneWidget& sheet, const QPalette& palette) {
     sheet.SetLegendeNbLig(1);
     sheet.SetShowDiapoJauge(false);
     sheet.SetShowJauge(false);  // a fill is done before anybody could read it
+    sheet.StartAgain();
 }
 
 }  // namespace vorlane::editor

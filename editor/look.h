@@ -9,6 +9,7 @@ class VorlaneWidget;
 
 namespace vorlane::editor {
 
+// The sheet's slides want filling then.
 void ApplyLook(VorlaneWidget& sheet, const QPalette& palette);
 
 }  // namespace vorlane::editor

@@ -258,6 +258,9 @@ public:
 public Q_SLOTS:
     void Clear();
     void Refresh();
+    // Starts the sheet with its present properties, as a saved one starts: what it takes over once at its start, as the
+    // ground of selected slides, it takes over as it is now. Its slides want filling then.
+    void StartAgain();
 
 Q_SIGNALS:
     void PropertyChanged(const QString& key);

@@ -161,6 +161,14 @@ void VorlaneWidget::Refresh() {
     Do("Refresh", [&] { sheet_.Refresh(); });
 }
 
+void VorlaneWidget::StartAgain() {
+    Do("StartAgain", [&] {
+        PropertyBag bag;
+        sheet_.WriteProperties(bag);
+        sheet_.ReadProperties(bag);
+    });
+}
+
 void VorlaneWidget::InitListe(ui::ListeMode mode, ListControl* newList, const QString& newPath,
                               const QString& newPattern, std::optional<int> stdSortArgs) {
     Do("InitListe", [&] {

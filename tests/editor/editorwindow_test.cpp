@@ -315,6 +315,8 @@ TEST_F(EditorWindowTest, AFolderThatIsGoneLeavesTheRecentOnes) {
 }
 
 TEST_F(EditorWindowTest, FollowsThePalette) {
+    pictures_.WritePictures(60);
+    ASSERT_TRUE(Open(Folder()));
     const QPalette light = QApplication::palette();
     const QPalette dark(QColor(40, 42, 46));
     QApplication::setPalette(dark);
@@ -322,6 +324,11 @@ TEST_F(EditorWindowTest, FollowsThePalette) {
     EXPECT_EQ(window_->sheet().BackColor(), dark.color(QPalette::Window));
     EXPECT_EQ(window_->sheet().BackColorDiapo(), dark.color(QPalette::Base));
     EXPECT_GT(window_->sheet().ForeColor().lightness(), 150);
+    EXPECT_LT(window_->sheet().BackColorSelected().lightness(), 150);
+    EXPECT_TRUE(Slide(0).Visible());
+    EXPECT_EQ(Slide(0).ImageName(), "p000.jpg");
+    window_->sheet().StartLecture({}, 40);  // slides that are filled later are of the same look
+    EXPECT_LT(window_->sheet().BackColorSelected().lightness(), 150);
     QApplication::setPalette(light);
     QCoreApplication::processEvents();
     EXPECT_EQ(window_->sheet().BackColor(), light.color(QPalette::Window));
