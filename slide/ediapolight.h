@@ -67,8 +67,9 @@ public:
 
     // --- Operations ---
     // Shows a file: its picture, or the owner's substitute for other kinds and bad files, its name and its buttons. A
-    // thumb that is not empty replaces the decoding of a picture file. Reports a failure through Error.
-    void PictureByString(const std::string& path, const vorlane::Picture& thumb = {}, bool onLect = false);
+    // thumb that is not empty replaces the decoding of a picture file. Reports a failure through Error. onLect is
+    // ignored.
+    void PictureByString(const std::string& path, vorlane::Picture thumb = {}, bool onLect = false);
     // A reduced copy whose longest side is resolution pixels; -1 takes the slide's own thumbnail size. A picture that
     // is no bitmap comes back as it is. Nothing for an empty one, and after a failure, which Error reports.
     std::optional<vorlane::Picture> Thumb(const vorlane::Picture& picture, int16_t resolution = -1);
@@ -80,8 +81,9 @@ public:
     // --- Picture and file ---
     const vorlane::Picture& Picture() const { return Img.Picture(); }
     // The empty picture clears the slide. Every statement of the assignment that fails shows the owner's substitute and
-    // raises InvalidPicture with an empty name, and the next one runs.
-    void SetPicture(const vorlane::Picture& picture);
+    // raises InvalidPicture with an empty name, and the next one runs. A handler that fails in its answer to these two
+    // ends the assignment, with the picture visible, and its failure reaches the caller.
+    void SetPicture(vorlane::Picture picture);
     // Nothing at all is such a failure, and nothing further happens.
     void SetPicture(std::nullopt_t) { ShowFailedAssignment(); }
     // Full name of the file. Setting it loads nothing.
@@ -339,6 +341,7 @@ private:
     std::optional<vorlane::Picture> LoadFilePicture(const std::string& path, const vorlane::Picture& thumb);
     vorlane::Picture LoadPictureFile(const std::string& path, const vorlane::Picture& thumb);
     vorlane::Picture SubstituteFor(DiapoPictureIndex index, const std::string& playable);
+    void AssignPicture(const vorlane::Picture& picture);
     void ClearPicture();
     void PlaceAssigned();
     void ShowAssigned(const vorlane::Picture& picture);

@@ -14,12 +14,24 @@ PictureSize PixelSize(const Picture& picture) {
             Rescale(picture.Height(), ScaleMode::HiMetric, ScaleMode::Pixels)};
 }
 
+// A flag that is down again behind its block, however that ends.
+class WithinBlock {
+public:
+    WithinBlock(bool& flag, bool value) : flag_(flag) { flag_ = value; }
+    ~WithinBlock() { flag_ = false; }
+    WithinBlock(const WithinBlock&) = delete;
+    WithinBlock& operator=(const WithinBlock&) = delete;
+
+private:
+    bool& flag_;
+};
+
 }  // namespace
 
 // --- Files ---
 
-// A file without extension is known, and shown, by its name with a point behind it. onLect has no meaning any more.
-void eDiapoLight::PictureByString(const std::string& path, const vorlane::Picture& thumb, bool) {
+// A file without extension is known, and shown, by its name with a point behind it. onLect is ignored.
+void eDiapoLight::PictureByString(const std::string& path, vorlane::Picture thumb, bool) {
     std::string file = path;
     Trap(
         pending_,
@@ -43,7 +55,7 @@ void eDiapoLight::ShowNoFile() {
 
 void eDiapoLight::ShowFile(const std::string& path, const vorlane::Picture& thumb) {
     Img.SetTag(path);
-    image_.HasGivenThumb = thumb.Type() > 0;
+    const WithinBlock given(image_.HasGivenThumb, thumb.Type() > 0);
     const bool toolsRow = Trelmic6::FileKind(path) == 0 && settings_.ShowDiapoTools;
     BtPlay.SetVisible(media_.SoundMusic);
     SetButtonPicture(BtPlay, toolsRow ? DiapoPictureIndex::PicBtPlay : DiapoPictureIndex::PicBtPlayPlain,
@@ -52,9 +64,11 @@ void eDiapoLight::ShowFile(const std::string& path, const vorlane::Picture& thum
     SetButtonPicture(BtComment, DiapoPictureIndex::PicBtComment, media_.InvalidComm);
     BtTexte.SetVisible(media_.Texte);
     SetButtonPicture(BtTexte, DiapoPictureIndex::PicBtText, false);
-    const std::optional<vorlane::Picture> picture = LoadFilePicture(path, thumb);
-    picture ? SetPicture(*picture) : SetPicture(std::nullopt);
-    image_.HasGivenThumb = false;
+    if (const std::optional<vorlane::Picture> picture = LoadFilePicture(path, thumb)) {
+        SetPicture(*picture);
+    } else {
+        SetPicture(std::nullopt);
+    }
     LblTop.SetCaption(Trelmic6::FilePart(path, kFileName));
 }
 
@@ -103,7 +117,17 @@ Picture eDiapoLight::SubstituteFor(DiapoPictureIndex index, const std::string& p
 
 // --- Assignment ---
 
-void eDiapoLight::SetPicture(const vorlane::Picture& picture) {
+// By value: the picture may be the slide's own, which handlers replace.
+void eDiapoLight::SetPicture(vorlane::Picture picture) {
+    try {
+        AssignPicture(picture);
+    } catch (...) {
+        Attempt([&] { Img.SetVisible(true); });
+        throw;
+    }
+}
+
+void eDiapoLight::AssignPicture(const vorlane::Picture& picture) {
     const auto step = [this](auto&& statement) {
         if (!Attempt(statement)) ShowFailedAssignment();
     };
