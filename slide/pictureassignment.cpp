@@ -49,6 +49,7 @@ void eDiapoLight::PictureByString(const std::string& path, vorlane::Picture thum
 void eDiapoLight::ShowNoFile() {
     Img.SetPicture({});
     Img.SetTag("");
+    image_.IsSubstitute = false;
     LblTop.SetCaption("");
     if (!settings_.ShowDiapoTools) BtPlay.SetVisible(false);
 }

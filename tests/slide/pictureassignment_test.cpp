@@ -136,6 +136,15 @@ TEST_F(PictureTest, AGoodPictureAfterASubstituteIsEnlargedAgain) {
     EXPECT_EQ(Place(slide.Img), "39,10 86x86");
 }
 
+TEST_F(PictureTest, AnEmptyNameForgetsThatASubstituteWasShown) {
+    OwnAnswers();
+    slide.SetThumbnail(true);
+    slide.PictureByString("/a.mp3");
+    slide.PictureByString("");
+    slide.SetPicture(Bitmap(400, 400));
+    EXPECT_EQ(Shown(), "resized:bitmap");
+}
+
 TEST_F(PictureTest, WithoutAnOwnerASubstituteIsNoPicture) {
     slide.SetPicture(Bitmap(20, 20));
     slide.PictureByString("/a.mp3");
