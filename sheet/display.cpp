@@ -251,7 +251,7 @@ bool Vorlane::SetDiapoImage(int16_t slot, const std::string& imageName, int32_t 
 }
 
 bool Vorlane::SetDiapoPicture(int16_t slot, const std::string& imageName) {
-    if (Diapo.Item(slot)->ImageFullPath() == imageName) return true;
+    if (Diapo.Item(slot)->ImageFullPath() == eDiapoLight::KnownPath(imageName)) return true;
     vorlane::Picture picture;
     bool haveSound = false;
     bool haveComment = false;

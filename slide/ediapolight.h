@@ -86,6 +86,8 @@ public:
     void SetPicture(vorlane::Picture picture);
     // Nothing at all is such a failure, and nothing further happens.
     void SetPicture(std::nullopt_t) { ShowFailedAssignment(); }
+    // The full name by which a slide knows, and shows, a file: with a point behind a name that has no extension.
+    static std::string KnownPath(const std::string& path);
     // Full name of the file. Setting it loads nothing.
     const std::string& ImageFullPath() const { return Img.Tag(); }
     void SetImageFullPath(const std::string& path);

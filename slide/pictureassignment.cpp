@@ -30,13 +30,16 @@ private:
 
 // --- Files ---
 
-// A file without extension is known, and shown, by its name with a point behind it. onLect is ignored.
+std::string eDiapoLight::KnownPath(const std::string& path) {
+    const bool unnamed = Trelmic6::FilePart(path, kFileName).empty() && !Trelmic6::FileName(path).empty();
+    return unnamed ? path + '.' : path;
+}
+
 void eDiapoLight::PictureByString(const std::string& path, vorlane::Picture thumb, bool) {
-    std::string file = path;
+    const std::string file = KnownPath(path);
     Trap(
         pending_,
         [&] {
-            if (Trelmic6::FilePart(file, kFileName).empty() && !Trelmic6::FileName(file).empty()) file += '.';
             if (Trelmic6::FilePart(file, kFileName).empty()) {
                 ShowNoFile();
             } else {

@@ -303,6 +303,16 @@ TEST_F(DisplayTest, AFileWithoutExtensionIsShown) {
     EXPECT_EQ(Shown(0), "/p/photo");
 }
 
+TEST_F(DisplayTest, AFileWithoutExtensionIsDecodedOnceForTwoFills) {
+    Start();
+    desktop.pictures.Add("/p/photo", 60, 40);
+    sheet->Add("/p/photo", "");
+    sheet->StartLecture();
+    sheet->StartLecture();
+    EXPECT_EQ(desktop.pictures.Loads(), 1);
+    EXPECT_EQ(Shown(0), "/p/photo");
+}
+
 TEST_F(DisplayTest, OtherKindsOfFilesShowWhatStandsForThem) {
     Start();
     for (const char* name : {"/p/a.mp3", "/p/a.avi", "/p/a.txt", "/p/a.zip"}) sheet->Add(name, "");
