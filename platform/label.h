@@ -1,5 +1,5 @@
 // Label: a windowless text on a transparent ground. A line that is too long ends in an ellipsis; a label of several
-// lines wraps at words and cuts what does not fit.
+// lines wraps at words, and its last line ends in one when there is more text.
 #pragma once
 
 #include "platform/color.h"

@@ -17,6 +17,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyleHints>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -46,6 +47,12 @@ QCursor CursorFrom(const Picture& icon, double scale) {
     QPixmap pixels = QPixmap::fromImage(RenderPicture(icon, size));
     pixels.setDevicePixelRatio(scale);
     return pixels.isNull() ? QCursor(Qt::ArrowCursor) : QCursor(pixels, 0, 0);
+}
+
+// A text that shows as it stands, also where Qt would take it for formatted.
+QString Unformatted(const QString& text) {
+    if (!Qt::mightBeRichText(text)) return text;
+    return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QStringLiteral("<br>")));
 }
 
 }  // namespace
@@ -180,7 +187,7 @@ bool ControlHost::ShowToolTip(const QHelpEvent& event) {
         QToolTip::hideText();
         return true;
     }
-    const QString text = QString::fromStdString(under->ToolTipText()).toHtmlEscaped();
+    const QString text = Unformatted(QString::fromStdString(under->ToolTipText()));
     QToolTip::showText(event.globalPos(), text, this, Around(under->BoundsInRoot()));
     return true;
 }

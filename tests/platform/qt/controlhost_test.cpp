@@ -132,15 +132,15 @@ TEST_F(ControlHostTest, ATooltipComesFromTheControlUnderThePointerOrItsContainer
     Show();
     board.image.Move(10, 10, 20, 20);
     board.image.SetVisible(true);
-    board.image.SetToolTipText("a < b");
+    board.image.SetToolTipText("Tom & Lea < Max");
     QHelpEvent over(QEvent::ToolTip, {15, 15}, host.mapToGlobal(QPoint(15, 15)));
     QCoreApplication::sendEvent(&host, &over);
-    EXPECT_EQ(QToolTip::text(), "a &lt; b");
+    EXPECT_EQ(QToolTip::text(), "Tom & Lea < Max");
     QHelpEvent beside(QEvent::ToolTip, {100, 50}, host.mapToGlobal(QPoint(100, 50)));
     QCoreApplication::sendEvent(&host, &beside);
-    board.SetToolTipText("board");
+    board.SetToolTipText("<b>board</b>");
     QCoreApplication::sendEvent(&host, &beside);
-    EXPECT_EQ(QToolTip::text(), "board");
+    EXPECT_EQ(QToolTip::text(), "<p>&lt;b&gt;board&lt;/b&gt;</p>");
     QToolTip::hideText();
 }
 
