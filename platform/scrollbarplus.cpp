@@ -42,7 +42,19 @@ void ScrollbarPlus::SetOrientation(vorlane::Orientation orientation) {
 }
 
 void ScrollbarPlus::DragThumb(int32_t value) {
-    Scroll(std::clamp(value, min_, max_));
+    Scroll(ThumbRest(value));
+}
+
+void ScrollbarPlus::DropThumb(int32_t value) {
+    SetValue(ThumbRest(value));
+}
+
+// The nearest of the places where the thumb rests, the lower one of two as near.
+int32_t ScrollbarPlus::ThumbRest(int32_t value) const {
+    const int64_t place = std::clamp(value, min_, max_);
+    const int64_t below = place - (place - min_) % smallChange_;
+    const int64_t above = std::min<int64_t>(below + smallChange_, max_);
+    return static_cast<int32_t>(place - below <= above - place ? below : above);
 }
 
 }  // namespace vorlane

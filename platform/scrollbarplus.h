@@ -35,8 +35,10 @@ public:
     vorlane::Orientation Orientation() const { return orientation_; }
     void SetOrientation(vorlane::Orientation orientation);
 
-    // The user's thumb passes over value. For peers and scripted users.
+    // The user's thumb is dragged to value, and let go there. It rests on whole steps of SmallChange from Min, and on
+    // Max. For peers and scripted users.
     void DragThumb(int32_t value);
+    void DropThumb(int32_t value);
 
     void Accept(ControlVisitor& visitor) const override { visitor.Visit(*this); }
 
@@ -45,6 +47,7 @@ public:
 
 private:
     void SetRange(int32_t min, int32_t max);
+    int32_t ThumbRest(int32_t value) const;
 
     int32_t min_ = 0;
     int32_t max_ = 0;

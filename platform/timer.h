@@ -6,6 +6,7 @@
 #include "platform/event.h"
 
 #include <cstdint>
+#include <memory>
 
 namespace vorlane {
 
@@ -22,12 +23,15 @@ public:
     // Enabling a timer that runs already does not start its interval anew.
     void SetEnabled(bool enabled);
 
-    Event<> Tick;
+    Event<> Tick;  // never inside its own raise
 
 private:
+    void RaiseTick();
+
     Clock& clock_;
     int32_t interval_;
     Clock::TimerId running_ = 0;
+    std::shared_ptr<bool> ticking_ = std::make_shared<bool>(false);  // a handler of Tick is running
 };
 
 }  // namespace vorlane

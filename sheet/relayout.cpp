@@ -13,7 +13,7 @@ bool Vorlane::HasSlides() const {
 }
 
 void Vorlane::Resize() {
-    if (!layout_.Ready) return;
+    if (!layout_.Ready || items_.Liste == nullptr) return;
     ComputeArea();
     LstInterne.SetWidth(ScaleWidth());
     const int16_t columns = ComputeCountX();
@@ -43,7 +43,9 @@ void Vorlane::ResizeTick() {
         return;
     }
     const bool cleared = !HasSlides() && Ambient().UserMode;
-    if (!cleared && !PlaceDiapos(CountDiapo(), FreshToken(), 0, 0)) return;
+    const int16_t wanted = CountDiapo();
+    if (!cleared && !PlaceDiapos(wanted, FreshToken(), 0, 0)) return;
+    if (wanted != CountDiapo()) return;  // another resize, at the very end of the layout
     TimerResize.SetEnabled(false);
     TimerUnload.SetEnabled(true);
 }
@@ -105,7 +107,9 @@ bool Vorlane::PlaceDiapos(int16_t wanted, float token, int16_t newWidth, int16_t
     bool complete = false;
     const bool stoppedBefore = std::exchange(pass_.StopLect, false);
     Attempt([&] { complete = PlaceAll(placement); });
+    First().SetNoResize(false);  // also when it was stopped
     pass_.StopLect = pass_.StopLect || stoppedBefore;
+    if (complete && placement.AtEnd) FollowBar();
     return complete;
 }
 
@@ -116,7 +120,8 @@ bool Vorlane::PlaceAll(Placement& placement) {
     for (int16_t i = 0; i < placement.Wanted; ++i) {
         Jauge.SetValue(i);
         const Placed placed = PlaceSlot(i, placement);
-        if (placed == Placed::AtEnd) break;
+        placement.AtEnd = placed == Placed::AtEnd;
+        if (placement.AtEnd) break;
         if (placed == Placed::Yes && !MayGoOn(placement)) return false;
     }
     Jauge.SetValue(Jauge.Max());
@@ -149,7 +154,7 @@ Vorlane::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
     if (!Ambient().UserMode) {
         slide->Refresh();
     } else if (slide->Picture().Handle() == 0) {
-        SetDiapoImage(slot, name, -1);
+        if (!SetDiapoImage(slot, name, -1)) throw failures::ControlNotLoaded();
     }
     slide->SetVisible(true);
     placement.X += slide->Width() + grid_.MargeX;

@@ -5,7 +5,6 @@
 #include "sheet/vorlane.h"
 
 #include <cstdlib>
-#include <limits>
 
 namespace vorlane {
 
@@ -36,25 +35,35 @@ void Vorlane::BarChanged(int32_t value) {
         if (!jump && value == bar_.ScrollValue) return;
         const int64_t distance = int64_t{value} - bar_.ScrollValue;
         MoveCurrentSlot(distance);
-        bool complete = false;
-        if (!jump && std::abs(distance) <= VScroll.SmallChange()) {
+        const bool step = !jump && std::abs(distance) <= VScroll.SmallChange();
+        const bool back = distance <= 0;
+        if (step) {
             UnloadSurplus();  // a step reads on behind the last slide, which has to be one of the grid
-            const bool back = distance <= 0;
             if (back ? First().Value() == 0 : AtListEnd()) return;
-            complete = Scroll(back ? 1 : 0);
-        } else {
-            complete = Jump(value);
         }
+        const bool complete = step && IsWholeRow(distance) ? Scroll(back ? 1 : 0) : Jump(value);
         Events.Scroll(value, bar_.ScrollValue);
         if (complete) bar_.ScrollValue = value;
     };
     GuardVoid(change, "VScroll_Change", value);
 }
 
-// The current slide moves with the list; above the first slide it drops off.
+// The current slide moves with the list; outside the pool it drops off.
 void Vorlane::MoveCurrentSlot(int64_t distance) {
-    const int64_t slot = Max(-1, CurrentDiapo() - distance);
-    selection_.CurrentSlot = ToInt16(Min(slot, std::numeric_limits<int16_t>::max()));
+    const int64_t slot = CurrentDiapo() - distance;
+    selection_.CurrentSlot = slot >= 0 && slot < CountDiapo() ? ToInt16(slot) : int16_t{-1};
+}
+
+// Whether copied looks come to stand on the right slides: the slides stand where the bar stood, and move by one row.
+bool Vorlane::IsWholeRow(int64_t distance) const {
+    return std::abs(distance) == RowLength() && First().Value() == bar_.ScrollValue;
+}
+
+// Shows what the bar stands for, where a layout has left the slides behind it.
+void Vorlane::FollowBar() {
+    const int32_t shown = First().Value();
+    if (shown < 0 || shown == VScroll.Value()) return;
+    if (StartLect(VScroll.Value(), -1, -1)) bar_.ScrollValue = VScroll.Value();
 }
 
 bool Vorlane::Jump(int32_t value) {

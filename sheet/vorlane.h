@@ -378,6 +378,7 @@ private:
         double X;  // next place
         double Y;
         double RowStart;
+        bool AtEnd;  // the list has no more items
     };
     enum class Placed : uint8_t { Yes, Skipped, AtEnd };
 
@@ -499,6 +500,8 @@ private:
     void InitVScroll(bool reset);
     void BarChanged(int32_t value);
     void MoveCurrentSlot(int64_t distance);
+    bool IsWholeRow(int64_t distance) const;
+    void FollowBar();
     bool Jump(int32_t value);
     bool AtListEnd() const;
     bool Scroll(int16_t up);

@@ -5,6 +5,8 @@
 #include "platform/qt/keys.h"
 #include "platform/scale.h"
 
+#include <utility>
+
 #include <QMouseEvent>
 #include <QWheelEvent>
 
@@ -28,10 +30,18 @@ ScrollBarPeer::ScrollBarPeer(ScrollbarPlus& model, ControlHost& host) : QScrollB
     setTracking(false);
     setContextMenuPolicy(Qt::NoContextMenu);
     changed_ = model_.Changed.connect([this] { Follow(); });
-    connect(this, &QScrollBar::sliderMoved, this, [this](int value) { Attempt([&] { model_.DragThumb(value); }); });
+    connect(this, &QScrollBar::sliderMoved, this, [this](int value) {
+        dragged_ = true;
+        Attempt([&] { model_.DragThumb(value); });
+    });
     connect(this, &QScrollBar::valueChanged, this, [this](int value) {
         if (following_) return;
-        Attempt([&] { model_.SetValue(value); });
+        const bool dropped = std::exchange(dragged_, false);
+        Attempt([&] { dropped ? model_.DropThumb(value) : model_.SetValue(value); });
+        Follow();
+    });
+    connect(this, &QScrollBar::sliderReleased, this, [this] {
+        dragged_ = false;
         Follow();
     });
     Follow();

@@ -27,6 +27,7 @@ private:
     ScrollbarPlus& model_;
     ScopedConnection changed_;
     bool following_ = false;
+    bool dragged_ = false;  // the user has moved the thumb and not let go of it
 };
 
 }  // namespace vorlane

@@ -104,6 +104,15 @@ TEST_F(ScrollbarPlusTest, TheThumbScrollsWithinTheRangeAndChangesNothing) {
     EXPECT_EQ(bar.Value(), 0);
 }
 
+TEST_F(ScrollbarPlusTest, TheThumbRestsOnWholeStepsAndOnTheEnd) {
+    bar.SetMax(11);
+    bar.SetSmallChange(4);
+    for (const int32_t value : {1, 2, 3, 7, 9, 10, 11}) bar.DragThumb(value);
+    EXPECT_EQ(log, "scroll 0 scroll 0 scroll 4 scroll 8 scroll 8 scroll 11 scroll 11 ");
+    bar.DropThumb(7);
+    EXPECT_EQ(bar.Value(), 8);
+}
+
 TEST_F(ScrollbarPlusTest, AHandlerOfChangeMaySetTheBarAgain) {
     bar.SetMax(10);
     bar.Change.connect([this](int32_t value) {
@@ -205,6 +214,37 @@ TEST_F(TimerTest, MayBeDisabledByItsTick) {
     desktop.clock.Advance(100);
     EXPECT_EQ(ticks, 1);
     EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+}
+
+// A clock whose message loop brings a timer's next tick inside its own.
+class NestingClock final : public Clock {
+public:
+    int64_t Now() const override { return 0; }
+    TimerId StartTimer(int32_t, std::function<void()> tick) override {
+        tick_ = std::move(tick);
+        return 1;
+    }
+    void StopTimer(TimerId) override { tick_ = nullptr; }
+    void DoEvents() override { tick_(); }
+    void Sleep(int32_t) override {}
+
+private:
+    std::function<void()> tick_;
+};
+
+TEST(TimerAlone, DoesNotTickInsideItsOwnTick) {
+    NestingClock clock;
+    Timer timer(clock, 10);
+    int ticks = 0;
+    timer.Tick.connect([&] {
+        ++ticks;
+        clock.DoEvents();
+    });
+    timer.SetEnabled(true);
+    clock.DoEvents();
+    EXPECT_EQ(ticks, 1);
+    clock.DoEvents();
+    EXPECT_EQ(ticks, 2);
 }
 
 TEST_F(TimerTest, MayEndInItsTick) {

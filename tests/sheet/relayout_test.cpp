@@ -100,7 +100,53 @@ TEST_F(RelayoutTest, AtTheListsEndTheBarGoesBackWhenAWholeColumnIsFree) {
     EXPECT_THAT(Heard(), testing::Not(testing::HasSubstr("Error")));
     desktop.clock.Advance(200);
     EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+    EXPECT_EQ(sheet->VScroll.Value(), 31);
+    EXPECT_EQ(Slides(), "31 32 33 34 35 36 37 38 39");
     ExpectSlidesAgreeWithList();
+}
+
+TEST_F(RelayoutTest, APoolThatGrowsBeyondTheListShowsAllOfIt) {
+    Show(12);
+    sheet->VScroll.SetValue(3);
+    window.Resize(450, 260);
+    desktop.clock.Advance(200);
+    ASSERT_GT(sheet->CountDiapo(), 12);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8 9 10 11");
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(RelayoutTest, AResizeAtTheVeryEndOfALayoutHasALayoutOfItsOwn) {
+    Show(40);
+    sheet->Events.DisplayEnd.connect([this, done = false]() mutable {
+        if (!std::exchange(done, true)) window.Resize(560, kHeight);
+    });
+    window.Resize(450, kHeight);
+    desktop.clock.Advance(200);
+    EXPECT_EQ(sheet->CountDiapo(), 15);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8 9 10 11 12 13 14");
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+}
+
+TEST_F(RelayoutTest, AResizeOfASheetThatHasEndedDoesNothing) {
+    Show(40);
+    sheet->Terminate();
+    window.Resize(450, kHeight);
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(RelayoutTest, AStoppedLayoutLeavesSlideZeroFreeToLayItselfOut) {
+    Show(40);
+    onAdded = [this](int16_t index) {
+        if (index == 9) window.Resize(560, kHeight);
+    };
+    window.Resize(450, kHeight);
+    desktop.clock.Advance(1);
+    ASSERT_TRUE(sheet->TimerResize.Enabled());
+    EXPECT_FALSE(sheet->Diapo.Item(0)->NoResize());
+    onAdded = nullptr;
+    desktop.clock.Advance(200);
 }
 
 TEST_F(RelayoutTest, ALayoutThatIsStoppedStartsAgainAtTheNextTick) {

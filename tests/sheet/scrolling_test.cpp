@@ -118,22 +118,22 @@ TEST_F(ScrollingTest, AShortLastRowLeavesAHole) {
     ExpectSlidesAgreeWithList();
 }
 
-TEST_F(ScrollingTest, AShorterLastStepStillCopiesAWholeRow) {
+TEST_F(ScrollingTest, AShorterLastStepFillsAnew) {
     Show(14);
     ASSERT_EQ(sheet->VScroll.Max(), 8);
     sheet->VScroll.SetValue(3);
     sheet->VScroll.SetValue(6);
     EXPECT_EQ(Slides(), "6 7 8 9 10 11 12 13");
     sheet->VScroll.SetValue(8);
-    EXPECT_EQ(Slides(), "9 10 11 12 13");
+    EXPECT_EQ(Slides(), "8 9 10 11 12 13");
     ExpectSlidesAgreeWithList();
 }
 
-TEST_F(ScrollingTest, AStepToTheTopFromAnUnevenPlaceShowsItemsTwice) {
+TEST_F(ScrollingTest, AStepToTheTopFromAnUnevenPlaceShowsEachItemOnce) {
     Show(40);
     sheet->StartLecture("", 1002);
     sheet->VScroll.SetValue(0);
-    EXPECT_EQ(Slides(), "0 1 2 2 3 4 5 6 7");
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
     ExpectSlidesAgreeWithList();
 }
 
@@ -282,6 +282,17 @@ TEST_F(ScrollingTest, AFailureInTheBarsSetUpLeavesItDeadUntilTheNextOne) {
     EXPECT_THAT(Heard(), testing::HasSubstr("host Error 91 Vorlane InitVScroll DpCnt=9 - 0\n"));
     sheet->VScroll.SetValue(20);
     EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(ScrollingTest, SlideZeroShowsTheBarsValueAllTheWayUpFromTheEnd) {
+    Show(40);
+    sheet->VScroll.SetValue(34);
+    while (sheet->VScroll.Value() > 0) {
+        sheet->Wheel(1);
+        ASSERT_EQ(sheet->Diapo.Item(0)->Value(), sheet->VScroll.Value());
+    }
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+    ExpectSlidesAgreeWithList();
 }
 
 TEST_F(ScrollingTest, AVeryLongJumpBackDoesNotOverflowTheCurrentSlide) {
