@@ -50,6 +50,12 @@ void FileListBox::SetPattern(std::string pattern) {
     Refresh();
 }
 
+void FileListBox::Read(std::string path, std::string pattern) {
+    path_ = std::move(path);
+    pattern_ = std::move(pattern);
+    Refresh();
+}
+
 void FileListBox::Refresh() {
     const Wildcards wildcards(pattern_);
     std::vector<std::string> names = FileNames(path_);

@@ -21,6 +21,8 @@ public:
     const std::string& Pattern() const { return pattern_; }
     void SetPattern(std::string pattern);
     void Refresh();
+    // Sets both and reads the folder once, as Refresh does.
+    void Read(std::string path, std::string pattern);
 
     int32_t ListCount() const override { return static_cast<int32_t>(entries_.size()); }
     std::string List(int32_t index) const override;

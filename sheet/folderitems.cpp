@@ -9,8 +9,7 @@ int32_t AddFolderItems(ListBox& list, FileListBox& reader, const std::string& fo
                        const FolderRules& rules) {
     if (!Trelmic6::PathExists(folder, PathKind::Folder)) return 0;
     const std::string path = Trelmic6::NormalizePath(folder);
-    reader.SetPath(path);
-    reader.SetPattern(rules.Pattern);
+    reader.Read(path, rules.Pattern);
     int32_t added = 0;
     int32_t key = -1;
     bool cancel = false;

@@ -33,6 +33,13 @@ TEST_F(FolderItemsTest, AFolderThatIsNotThereGivesNothing) {
     EXPECT_EQ(AddFolderItems(list, reader, "/nowhere", -1, rules), 0);
 }
 
+TEST_F(FolderItemsTest, AFolderThatHasChangedIsReadAnew) {
+    folder.File("a.jpg");
+    EXPECT_EQ(AddFolder(), 1);
+    folder.File("b.jpg");
+    EXPECT_EQ(AddFolder(), 2);
+}
+
 TEST_F(FolderItemsTest, FilesComeInWithSortDataAndFullName) {
     folder.File("a.jpg");
     EXPECT_EQ(AddFolder(), 1);
