@@ -86,6 +86,8 @@ public:
     void SetPicture(vorlane::Picture picture);
     // Nothing at all is such a failure, and nothing further happens.
     void SetPicture(std::nullopt_t) { ShowFailedAssignment(); }
+    // Shows the picture that another slide shows, with what that slide knows of it. Decodes and reduces nothing.
+    void TakePicture(const eDiapoLight& from);
     // The full name by which a slide knows, and shows, a file: with a point behind a name that has no extension.
     static std::string KnownPath(const std::string& path);
     // Full name of the file. Setting it loads nothing.

@@ -150,6 +150,14 @@ void eDiapoLight::AssignPicture(const vorlane::Picture& picture) {
     step([&] { Img.SetVisible(true); });
 }
 
+void eDiapoLight::TakePicture(const eDiapoLight& from) {
+    const PictureSize native = from.image_.Native;
+    image_.IsSubstitute = from.image_.IsSubstitute;
+    const WithinBlock given(image_.HasGivenThumb, true);
+    SetPicture(from.Picture());
+    image_.Native = native;
+}
+
 void eDiapoLight::ClearPicture() {
     Img.SetPicture({});
     Img.SetTag("");
