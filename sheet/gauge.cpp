@@ -63,9 +63,11 @@ void Vorlane::SlideGaugeIn() {
     for (float top = start; top >= area.Bottom() - Jauge.Height(); top -= 1) StepGauge(area, top);
 }
 
+// A sheet that has grown meanwhile leaves the gauge far up: only the last of its way is shown.
 void Vorlane::SlideGaugeOut() {
     const Box area = GaugeArea();
-    for (float top = Jauge.Top(); top <= area.Bottom() + 1; top += 1) StepGauge(area, top);
+    const float start = Max(Jauge.Top(), area.Bottom() - Jauge.Height());
+    for (float top = start; top <= area.Bottom() + 1; top += 1) StepGauge(area, top);
     Jauge.SetVisible(false);
 }
 

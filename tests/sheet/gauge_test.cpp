@@ -107,6 +107,19 @@ TEST_F(GaugeTest, SlidesOutStepByStepAndIsHidden) {
     EXPECT_FALSE(sheet->Jauge.Visible());
 }
 
+TEST_F(GaugeTest, OfASheetThatHasGrownSlidesOutFromTheBottomOnly) {
+    Show(3);
+    sheet->SetJaugeAnimation(true);
+    onAdded = [this](int16_t index) {
+        if (index == 2) window.Resize(kWidth, kHeight + 40);
+        desktop.trace.Clear();
+    };
+    sheet->StartLecture();
+    const std::string seen = Heard({"sleep"});
+    EXPECT_EQ(std::count(seen.begin(), seen.end(), '\n'), 17);
+    EXPECT_FALSE(sheet->Jauge.Visible());
+}
+
 TEST_F(GaugeTest, OfANarrowSheetIsAsWideAsTheSheet) {
     window.Resize(120, kHeight);
     Start();
