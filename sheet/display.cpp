@@ -7,6 +7,24 @@
 
 namespace vorlane {
 
+namespace {
+
+// Lets slide 0 lay itself out again at the end of its block, however that ends.
+class StillSlide {
+public:
+    explicit StillSlide(eDiapoLight& slide) : slide_(slide) {}
+    ~StillSlide() {
+        Attempt([this] { slide_.SetNoResize(false); });
+    }
+    StillSlide(const StillSlide&) = delete;
+    StillSlide& operator=(const StillSlide&) = delete;
+
+private:
+    eDiapoLight& slide_;
+};
+
+}  // namespace
+
 // --- Where to start ---
 
 int16_t Vorlane::StartLecture(const std::string& startImageName, int32_t diapoKey) {
@@ -106,7 +124,7 @@ bool Vorlane::FillSlots(Fill& fill) {
     for (int32_t i = fill.Start; i <= last; ++i) {
         Jauge.SetValue(i);
         if (i > ListCount() - 1) break;
-        const Filled filled = FillSlot(fill.Cursor, i);
+        const Filled filled = FillSlot(fill, i);
         if (filled == Filled::Lost) return false;
         if (filled == Filled::Refused) continue;
         ++fill.Cursor;
@@ -123,17 +141,21 @@ bool Vorlane::FillSlots(Fill& fill) {
     return true;
 }
 
-Vorlane::Filled Vorlane::FillSlot(int16_t cursor, int32_t listIndex) {
+// A newer pass that ran meanwhile may have put another item on the slide, which is then that pass's own.
+Vorlane::Filled Vorlane::FillSlot(const Fill& fill, int32_t listIndex) {
     const std::string name = ItemFullPath(listIndex);
+    const int16_t cursor = fill.Cursor;
     const bool missing = (cursor == 0 && pass_.NoSlideYet) || cursor > Diapo.Count() - 1;
-    if (missing) {
-        if (AddInterne(name, listIndex, false) == -1) return Filled::Refused;
-    } else {
+    if (!missing) {
         Rebind(cursor, name, listIndex);
+    } else if (AddInterne(name, listIndex, false) == -1) {
+        if (!MayGoOn(fill)) return Filled::Lost;
+        const bool shownMeanwhile = Diapo.Loaded(cursor) && Diapo.Item(cursor)->Value() == listIndex;
+        return shownMeanwhile ? Filled::Yes : Filled::Refused;
     }
     if (!Diapo.Loaded(cursor)) return Filled::Lost;
     const auto slide = Diapo.Item(cursor);
-    slide->SetValue(listIndex);
+    if (MayGoOn(fill)) slide->SetValue(listIndex);
     SweepByBand(*slide);
     return Filled::Yes;
 }
@@ -168,19 +190,28 @@ void Vorlane::SweepByBand(eDiapoLight& slide) const {
 
 // --- One slide ---
 
+// Whether slide 0 is free for an item.
+bool Vorlane::Blank() const {
+    return Diapo.Count() == 1 && First().Value() == -1 && First().Picture().Handle() == 0;
+}
+
 // Makes the next slide of the grid for a file; a blank sheet uses slide 0. Gives its index, also when a handler has
-// unloaded it meanwhile; -1 when the pool is full or the host refuses the file.
+// unloaded it meanwhile; -1 when the pool is full, when the host refuses the file, and when slides were made or
+// unloaded while it was asked.
 int16_t Vorlane::AddInterne(const std::string& imageName, int32_t listIndex, bool silent) {
     const auto add = [&]() -> int16_t {
-        const bool blank = First().Picture().Handle() == 0;
-        if (!blank && Diapo.Count() >= CountDiapo()) {
+        const bool blank = Blank();
+        const int32_t loaded = Diapo.Count();
+        const auto full = [&] { return !blank && loaded >= CountDiapo(); };
+        if (full()) {
             InitVScroll(false);
             return -1;
         }
-        const NextCell cell = FindNextCell(blank);
         std::string name = imageName;
-        if (Refused(name)) return -1;
-        const int16_t index = blank ? int16_t{0} : LoadFor(listIndex);
+        if (Refused(name) || Blank() != blank || Diapo.Count() != loaded || full()) return -1;
+        const NextCell cell = FindNextCell(blank);
+        const StillSlide still(First());
+        const int16_t index = LoadFor(listIndex, blank);
         const auto slide = Diapo.Item(index);
         slide->SetCol(cell.X);
         slide->SetLig(cell.Y);
@@ -189,7 +220,6 @@ int16_t Vorlane::AddInterne(const std::string& imageName, int32_t listIndex, boo
             slide->SetVisible(true);
             Events.Added(index, name);
         }
-        First().SetNoResize(false);
         pass_.NoSlideYet = false;
         InitVScroll(false);
         return index;
@@ -224,15 +254,17 @@ Vorlane::NextCell Vorlane::FindNextCell(bool blank) {
     return cell;
 }
 
-// Loads the next slide, blank but for the selection of its item, which is asked for first: a list that fails leaves no
-// slide without a place behind. Slide 0 keeps still until the slide is filled.
-int16_t Vorlane::LoadFor(int32_t listIndex) {
+// Loads the next slide, or takes slide 0 of a blank sheet, blank but for the selection of its item, which is asked for
+// first: a list that fails leaves no slide without a place behind. Slide 0 keeps still while another is loaded.
+int16_t Vorlane::LoadFor(int32_t listIndex, bool blank) {
     const bool bound = listIndex > -1;
     const bool selected = bound && Bound().Selected(listIndex);
-    First().SetNoResize(true);
-    const int16_t index = ToInt16(Diapo.Count());
-    Diapo.Load(index);
-    ResetDiapo(index);
+    const int16_t index = blank ? int16_t{0} : ToInt16(Diapo.Count());
+    if (!blank) {
+        First().SetNoResize(true);
+        Diapo.Load(index);
+        ResetDiapo(index);
+    }
     const auto slide = Diapo.Item(index);
     const bool current = bound && listIndex == selection_.CurrentListIndex;
     slide->SetBackColorSelected(current ? selection_.BackColorCurrent : selection_.SelectedColor);
@@ -240,7 +272,7 @@ int16_t Vorlane::LoadFor(int32_t listIndex) {
     return index;
 }
 
-// Both give whether the slide is still there.
+// Both give whether the slide is still there, and for the same item.
 bool Vorlane::SetDiapoImage(int16_t slot, const std::string& imageName, int32_t listIndex) {
     const auto slide = Diapo.Item(slot);
     slide->SetNoResize(false);
@@ -252,6 +284,7 @@ bool Vorlane::SetDiapoImage(int16_t slot, const std::string& imageName, int32_t 
 
 bool Vorlane::SetDiapoPicture(int16_t slot, const std::string& imageName) {
     if (Diapo.Item(slot)->ImageFullPath() == eDiapoLight::KnownPath(imageName)) return true;
+    const int32_t item = Diapo.Item(slot)->Value();
     vorlane::Picture picture;
     bool haveSound = false;
     bool haveComment = false;
@@ -259,7 +292,7 @@ bool Vorlane::SetDiapoPicture(int16_t slot, const std::string& imageName) {
     bool invalidMusic = false;
     bool invalidCom = false;
     Events.BeforeSetPicture(slot, imageName, picture, haveSound, haveComment, haveTexte, invalidMusic, invalidCom);
-    if (!Diapo.Loaded(slot)) return false;
+    if (!Diapo.Loaded(slot) || Diapo.Item(slot)->Value() != item) return false;
     const auto slide = Diapo.Item(slot);
     slide->SetOnGetThumb(true);
     slide->SetHaveInvalidMusic(invalidMusic);

@@ -91,10 +91,14 @@ void Vorlane::Clear() {
     }
     pass_.StopLect = true;
     ImgDrag.SetVisible(false);
-    const int32_t loaded = Diapo.Count();
-    for (int32_t k = 0; k < loaded; ++k) UnloadDiapo(k);
+    const int32_t last = Diapo.UpperBound();
+    for (int32_t k = 0; k <= last; ++k) {
+        if (Diapo.Loaded(k)) UnloadDiapo(k);
+    }
     ListBox* list = Bound().AsListBox();
     if (list != nullptr && list->Hwnd() == LstInterne.Hwnd()) list->Clear();
+    selection_.CurrentSlot = -1;
+    selection_.CurrentListIndex = -1;
     InitVScroll(true);
     Events.TLClear();
 }
@@ -150,8 +154,7 @@ void Vorlane::SetPath(const std::string& path) {
     items_.Path = Trelmic6::NormalizePath(path);
     FolderChanged([&](FileListBox& files) {
         if (Trelmic6::NormalizePath(files.Path()) == items_.Path) return;
-        files.SetPath(path);
-        files.Refresh();
+        files.Read(path, files.Pattern());
     });
 }
 
@@ -160,8 +163,7 @@ void Vorlane::SetPattern(const std::string& pattern) {
     items_.Pattern = pattern;
     FolderChanged([&](FileListBox& files) {
         if (files.Pattern() == pattern) return;
-        files.SetPattern(pattern);
-        files.Refresh();
+        files.Read(files.Path(), pattern);
     });
 }
 
@@ -188,9 +190,7 @@ void Vorlane::LstCopy() {
         items_.InternalCopy = false;
         if (!Ambient().UserMode || !items_.ListAutoFill || path.empty() || items_.Pattern.empty()) return;
         LstInterne.Clear();
-        FileInterne.SetPath(path);
-        FileInterne.SetPattern(items_.Pattern);
-        FileInterne.Refresh();
+        FileInterne.Read(path, items_.Pattern);
         const std::string folder = Trelmic6::NormalizePath(FileInterne.Path());
         const int32_t count = FileInterne.ListCount();
         for (int32_t i = 0; i < count; ++i) {

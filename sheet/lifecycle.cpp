@@ -13,6 +13,9 @@ constexpr int32_t kDragInterval = 10;
 constexpr int32_t kResizeInterval = 1;
 constexpr int32_t kUnloadInterval = 100;
 
+constexpr std::string_view kCaption = "Vorlane";
+constexpr int32_t kWarning = 48;
+
 // A number for the n-th list of the sheet in that window, which no list of the host's should bear.
 Hwnd ListHandle(Hwnd window, uint32_t n) {
     return static_cast<Hwnd>(0x80000000U | ((static_cast<uint32_t>(window) + n * 0x20000000U) & 0x7FFFFFFFU));
@@ -39,8 +42,8 @@ Vorlane::Vorlane(const vorlane::Desktop& desktop, const vorlane::Ambient& ambien
       TimerDrag(desktop.clock, kDragInterval),
       TimerResize(desktop.clock, kResizeInterval),
       TimerUnload(desktop.clock, kUnloadInterval),
-      Diapo([this](int32_t index) { return MakeSlide(index); }),
-      random_(desktop.clock.Now()) {
+      random_(desktop.clock.Now()),
+      Diapo([this](int32_t index) { return MakeSlide(index); }) {
     for (Control* child : std::initializer_list<Control*>{&Txt, &ImgDrag, &Jauge, &SelRect}) child->SetVisible(false);
     VScroll.SetOrientation(Orientation::Vertical);
     VScroll.SetAlign(vorlane::Align::Right);
@@ -93,6 +96,14 @@ void Vorlane::WriteProperties(PropertyBag& bag) const {
 
 void Vorlane::Show() {
     layout_.NotShown = false;
+}
+
+void Vorlane::Report(const Failure& failure, const std::string& valeur) {
+    Events.Error(failure.Number, failure.Description, failure.Source, failure.LastDllError, valeur);
+}
+
+void Vorlane::Warn(std::string_view text) const {
+    Desktop().dialogs.MsgBox(text, kWarning, kCaption);
 }
 
 bool Vorlane::Wheel(double notches) {

@@ -10,6 +10,10 @@
 namespace vorlane {
 
 std::string LogArgument(std::string_view text);
+// A literal is a text too, and not a flag.
+inline std::string LogArgument(const char* text) {
+    return text;
+}
 std::string LogArgument(bool flag);
 std::string LogArgument(double number);
 template <std::integral Number>

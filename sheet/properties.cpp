@@ -117,6 +117,14 @@ std::vector<Vorlane::PersistedProperty> Vorlane::MakePersistedProperties() {
         sheet.First().SetBackColor(color);
     };
 
+    // Any number but 0 counts as a yes.
+    const auto lax = [](PersistedProperty property, auto group, auto member) {
+        property.Read = [=, key = property.Key](This& sheet, const PropertyBag& bag) {
+            sheet.*group.*member = bag.ReadInt32(key, 0) != 0;
+        };
+        return property;
+    };
+
     const int16_t zero16 = 0;
     const int32_t zero32 = 0;
     const OLE_COLOR black = 0;
@@ -196,7 +204,8 @@ std::vector<Vorlane::PersistedProperty> Vorlane::MakePersistedProperties() {
             field(&This::selection_, &Selection::BackColorCurrent)),
         row("OLEDropMode", always(zero16), &This::OLEDropMode, &This::SetOLEDropMode),
         row("OLEDragMode", always(zero16), &This::OLEDragMode, &This::SetOLEDragMode),
-        row("JaugeAnimation", always(false), &This::JaugeAnimation, field(&This::gauge_, &Gauge::JaugeAnimation)),
+        lax(row("JaugeAnimation", always(false), &This::JaugeAnimation, field(&This::gauge_, &Gauge::JaugeAnimation)),
+            &This::gauge_, &Gauge::JaugeAnimation),
     };
 }
 

@@ -62,7 +62,7 @@ void Vorlane::CopyDiapo(int16_t from, int16_t to) {
         const auto source = Diapo.Item(from);
         const auto target = Diapo.Item(to);
         target->SetImageFullPath(source->ImageFullPath());
-        target->SetPicture(source->Picture());
+        target->TakePicture(*source);
         target->SetCaptionBottom(source->CaptionBottom());
         target->SetSelected(source->Selected());
         if (source->Selected()) RecolourCopy(*target, to);
@@ -96,18 +96,19 @@ void Vorlane::RecolourCopy(eDiapoLight& slide, int16_t index) {
 // --- What a slide asks and tells ---
 
 void Vorlane::ConnectSlide(eDiapoLight& slide, int16_t index) {
-    slide.Events.GetKey.connect([this, index](int32_t& key) {
+    // By the slide itself: it may still ask when it has left the array.
+    slide.Events.GetKey.connect([this, &slide](int32_t& key) {
         key = -1;
-        Attempt([&] { key = KeyOfSlide(index).value_or(-1); });
+        Attempt([&] { key = KeyOf(slide).value_or(-1); });
     });
     // What is stored is no key, whatever the slide was given.
-    slide.Events.SetKey.connect([this, index](int32_t) {
+    slide.Events.SetKey.connect([this, &slide](int32_t) {
         Attempt([&] {
-            if (ListBox* list = Bound().AsListBox()) list->SetItemData(Diapo.Item(index)->Value(), -1);
+            if (ListBox* list = Bound().AsListBox()) list->SetItemData(slide.Value(), -1);
         });
     });
-    slide.Events.GetWindowsPos.connect([this, index](WinRect& rect, std::string& text) {
-        rect = ScreenRectOf(*Diapo.Item(index));
+    slide.Events.GetWindowsPos.connect([this, &slide](WinRect& rect, std::string& text) {
+        rect = ScreenRectOf(slide);
         text = captionWait_;
     });
     slide.Events.SetPicture.connect([this](DiapoPictureIndex picture, vorlane::Picture& answer, bool invalidSound) {
@@ -120,10 +121,10 @@ void Vorlane::ConnectSlide(eDiapoLight& slide, int16_t index) {
     });
 }
 
-std::optional<int32_t> Vorlane::KeyOfSlide(int16_t index) const {
+std::optional<int32_t> Vorlane::KeyOf(const eDiapoLight& slide) const {
     const ListBox* list = Bound().AsListBox();
     if (list == nullptr) return std::nullopt;
-    return list->ItemData(Diapo.Item(index)->Value());
+    return list->ItemData(slide.Value());
 }
 
 WinRect Vorlane::ScreenRectOf(const eDiapoLight& slide) const {

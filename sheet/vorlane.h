@@ -70,22 +70,21 @@ public:
     bool Wheel(double notches) override;
 
     // --- Children, front to back ---
-    TextBox Txt{this};                // renames in place
-    OmbrelGradient ImgDrag{this};     // the insertion mark of a drag
-    OmbrelProgressBar Jauge{this};    // how far a fill is
-    ScrollbarPlus VScroll{this};      // the one scroll bar, at the right or at the bottom
-    Shape SelRect{this};              // the rubber band
-    MemoryListBox LstInterne;         // the sheet's own list
-    FileListBox FileInterne;          // reads a folder for the sheet's own list
-    FileListBox TmpFile;              // reads a dropped folder
-    ImageList ImgLst;                 // what stands for a file: substitute, sound, video, document, other
-    ImageList ImgLstBtPlay;           // buttons: play, stop, play music, play comment, show text, sound missing
-    Timer TimerSon;                   // polls the sounds
-    Timer TimerDrag;                  // moves a drag on
-    Timer TimerResize;                // the layout that a resize has put off
-    Timer TimerUnload;                // unloads surplus slides
-    ControlArray<eDiapoLight> Diapo;  // the pool; slide 0 is always there, the template and the measure of all
-    ClsDiapo Diapos;                  // the slides by index, for hosts
+    TextBox Txt{this};              // renames in place
+    OmbrelGradient ImgDrag{this};   // the insertion mark of a drag
+    OmbrelProgressBar Jauge{this};  // how far a fill is
+    ScrollbarPlus VScroll{this};    // the one scroll bar, at the right or at the bottom
+    Shape SelRect{this};            // the rubber band
+    MemoryListBox LstInterne;       // the sheet's own list
+    FileListBox FileInterne;        // reads a folder for the sheet's own list
+    FileListBox TmpFile;            // reads a dropped folder
+    ImageList ImgLst;               // what stands for a file: substitute, sound, video, document, other
+    ImageList ImgLstBtPlay;         // buttons: play, stop, play music, play comment, show text, sound missing
+    Timer TimerSon;                 // polls the sounds
+    Timer TimerDrag;                // moves a drag on
+    Timer TimerResize;              // the layout that a resize has put off
+    Timer TimerUnload;              // unloads surplus slides
+    ClsDiapo Diapos;                // the slides by index, for hosts; Diapo, the last member, holds them
 
     // --- Items ---
     // Adds a file, at the end or in front of list index insertBefore. Key -1 becomes the item's index. Gives the index
@@ -367,7 +366,7 @@ private:
         int16_t Pool;    // pool size at its beginning
         int16_t Cursor;  // next slide
     };
-    enum class Filled : uint8_t { Yes, Refused, Lost };  // Lost: a handler has unloaded the slide meanwhile
+    enum class Filled : uint8_t { Yes, Refused, Lost };  // Lost: a handler has taken the slide away
 
     // A layout under way.
     struct Placement {
@@ -404,23 +403,27 @@ private:
     }
     template <class Set, class Value>
     void SetOnSlides(Set set, const Value& value) {
-        for (int32_t k = 0; k < Diapo.Count(); ++k) std::invoke(set, *Diapo.Item(k), value);
+        ForEachSlide([&](eDiapoLight& slide) { std::invoke(set, slide, value); });
     }
     template <class Get, class Set, class Value>
     void Forward(std::string_view key, Get get, Set set, const Value& value);
 
-    // log.cpp
+    // lifecycle.cpp
     // Runs an operation of the sheet; its failure raises Error with a log line of the operation and its arguments.
     template <class Result, class Operation, class... Arguments>
     Result Guard(Result otherwise, Operation&& operation, std::string_view name, const Arguments&... arguments) {
-        return Trap(
-            pending_, std::forward<Operation>(operation),
-            [&](const Failure& failure) { Report(failure, LogText(name, Diapo.Count(), arguments...)); }, otherwise);
+        const auto report = [&](const Failure& failure) {
+            Report(failure, LogText(name, Diapo.Count(), arguments...));
+        };
+        return Trap(pending_, std::forward<Operation>(operation), report, otherwise);
     }
     template <class Operation, class... Arguments>
     void GuardVoid(Operation&& operation, std::string_view name, const Arguments&... arguments) {
-        Trap(pending_, std::forward<Operation>(operation),
-             [&](const Failure& failure) { Report(failure, LogText(name, Diapo.Count(), arguments...)); });
+        const auto run = [&] {
+            std::forward<Operation>(operation)();
+            return true;
+        };
+        Guard(false, run, name, arguments...);
     }
     void Report(const Failure& failure, const std::string& valeur);
     void Warn(std::string_view text) const;
@@ -451,11 +454,18 @@ private:
     vorlane::Picture PictureFor(DiapoPictureIndex index, const vorlane::Picture& present, bool invalidSound) const;
     eDiapoLight& First() const { return *Diapo.Item(0); }
     std::shared_ptr<eDiapoLight> Last() const { return Diapo.Item(Diapo.Count() - 1); }
-    // Index of the first slide that passes a test, -1 for none.
+    // Calls visit with each loaded slide, in the order of the array. A handler may load and unload slides meanwhile.
+    template <class Visit>
+    void ForEachSlide(Visit&& visit) const {
+        for (int32_t k = 0; k <= Diapo.UpperBound(); ++k) {
+            if (Diapo.Loaded(k)) visit(*Diapo.Item(k));
+        }
+    }
+    // Index of the first loaded slide that passes a test, -1 for none.
     template <class Test>
     int16_t FindSlide(Test&& test) const {
-        for (int32_t k = 0; k < Diapo.Count(); ++k) {
-            if (test(*Diapo.Item(k))) return ToInt16(k);
+        for (int32_t k = 0; k <= Diapo.UpperBound(); ++k) {
+            if (Diapo.Loaded(k) && test(*Diapo.Item(k))) return ToInt16(k);
         }
         return -1;
     }
@@ -464,7 +474,7 @@ private:
     void ResetDiapo(int32_t index);
     void CopyDiapo(int16_t from, int16_t to);
     void RecolourCopy(eDiapoLight& slide, int16_t index);
-    std::optional<int32_t> KeyOfSlide(int16_t index) const;
+    std::optional<int32_t> KeyOf(const eDiapoLight& slide) const;
     WinRect ScreenRectOf(const eDiapoLight& slide) const;
 
     // display.cpp
@@ -477,13 +487,14 @@ private:
     bool RunFill(Fill& fill);
     bool FillSlots(Fill& fill);
     bool MayGoOn(const Fill& fill) const;
-    Filled FillSlot(int16_t cursor, int32_t listIndex);
+    Filled FillSlot(const Fill& fill, int32_t listIndex);
     void Rebind(int16_t cursor, const std::string& name, int32_t listIndex);
     void SweepByBand(eDiapoLight& slide) const;
+    bool Blank() const;
     int16_t AddInterne(const std::string& imageName, int32_t listIndex, bool silent);
     bool Refused(std::string& imageName);
     NextCell FindNextCell(bool blank);
-    int16_t LoadFor(int32_t listIndex);
+    int16_t LoadFor(int32_t listIndex, bool blank);
     bool SetDiapoImage(int16_t slot, const std::string& imageName, int32_t listIndex);
     bool SetDiapoPicture(int16_t slot, const std::string& imageName);
 
@@ -544,6 +555,11 @@ private:
     bool internalDrag_ = false;  // a drag that started here is running
     RandomMarks random_;
     PendingError pending_;
+
+public:
+    // The pool; slide 0 is always there, the template and the measure of all. It is made last and goes first, for the
+    // slides ask the sheet from their beginning.
+    ControlArray<eDiapoLight> Diapo;
 };
 
 }  // namespace vorlane

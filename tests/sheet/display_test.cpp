@@ -340,6 +340,27 @@ TEST_F(DisplayTest, ANewSlideTakesTheSelectionOfItsItem) {
     EXPECT_EQ(sheet->Diapo.Item(2)->BackColor(), 7321083U);
 }
 
+TEST_F(DisplayTest, TheVeryFirstSlideTakesTheSelectionOfItsItemToo) {
+    Start();
+    AddItems(0, 3);
+    sheet->LstInterne.SetSelected(0, true);
+    sheet->StartLecture();
+    EXPECT_TRUE(sheet->Diapo.Item(0)->Selected());
+    EXPECT_EQ(sheet->Diapo.Item(0)->BackColor(), 7321083U);
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(DisplayTest, AFirstItemWithoutAFileNameKeepsItsSlide) {
+    Start();
+    sheet->Add("/p/", "");
+    AddItems(1, 4);
+    sheet->StartLecture();
+    EXPECT_EQ(Slides(), "0 1 2 3 4");
+    EXPECT_EQ(Shown(0), "");
+    EXPECT_EQ(Shown(1), "/p/001.jpg");
+    EXPECT_EQ(Place(1), "111,5");
+}
+
 TEST_F(DisplayTest, TheCurrentItemGetsItsColourWhereverItShows) {
     Show(40);
     sheet->SetSelected(4, true);

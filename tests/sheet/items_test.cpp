@@ -82,6 +82,17 @@ TEST_F(ItemsTest, ClearUnloadsTheSlidesAndEmptiesTheSheetsOwnList) {
     EXPECT_FALSE(sheet->ImgDrag.Visible());
 }
 
+TEST_F(ItemsTest, ClearForgetsTheCurrentItem) {
+    AddItems(0, 8);
+    sheet->StartLecture();
+    sheet->SetSelected(4, true);
+    sheet->Clear();
+    AddItems(0, 8);
+    sheet->StartLecture();
+    EXPECT_EQ(sheet->CurrentDiapo(), -1);
+    EXPECT_EQ(sheet->Diapo.Item(4)->BackColorSelected(), 7321083U);
+}
+
 TEST_F(ItemsTest, ClearLeavesAHostsListItsItems) {
     VectorListBox list(500);
     list.AddItem("\t" + File(3));
@@ -190,6 +201,19 @@ TEST_F(ItemsTest, InitListeBindsTheHostsList) {
     sheet->InitListe(ListeModeType::lmList, &list);
     EXPECT_EQ(sheet->Liste(), &list);
     EXPECT_EQ(Heard(), "host TLClear\n");
+}
+
+TEST_F(ItemsTest, InitListeWithTheListThatIsBoundClearsAndKeepsIt) {
+    VectorListBox list(500);
+    list.AddItem("\t" + File(3));
+    sheet->InitListe(ListeModeType::lmList, &list);
+    sheet->StartLecture();
+    desktop.trace.Clear();
+    sheet->InitListe(ListeModeType::lmList, &list);
+    EXPECT_EQ(Heard(), "host TLClear\n");
+    EXPECT_EQ(sheet->Liste(), &list);
+    EXPECT_EQ(list.ListCount(), 1);
+    EXPECT_EQ(Slides(), "(.)");
 }
 
 TEST_F(ItemsTest, InitListeWithoutAListBindsOneOfTheSheetsOwn) {

@@ -42,6 +42,13 @@ TEST_F(LifecycleTest, TheSheetsOwnListsHaveHandlesOfTheirOwn) {
     EXPECT_NE(sheet->LstInterne.Hwnd(), sheet->TmpFile.Hwnd());
 }
 
+TEST_F(LifecycleTest, AnyNumberButZeroLetsTheGaugeSlide) {
+    PropertyBag bag;
+    bag.SetValue("JaugeAnimation", int64_t{5});
+    Start(bag);
+    EXPECT_TRUE(sheet->JaugeAnimation());
+}
+
 TEST_F(LifecycleTest, ASheetPlacedNewShowsThumbnailsAndLeavesTheirSizeOpen) {
     window.Host(*sheet);
     EXPECT_TRUE(sheet->Thumbnail());

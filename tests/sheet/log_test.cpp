@@ -17,6 +17,10 @@ TEST(Log, ArgumentsStandBehindDashes) {
               "Vorlane Lect DpCnt=3 - 7 - -1 - -1 - 2.5 - x y");
 }
 
+TEST(Log, ALiteralIsATextAndAFlagANumber) {
+    EXPECT_EQ(LogText("Lect", 1, "x", false), "Vorlane Lect DpCnt=1 - x - 0");
+}
+
 TEST(Log, OperationsOnTheListAloneHaveNoNumberOfSlides) {
     EXPECT_EQ(ListLogText("Add", std::string("/p/a.jpg"), std::string(), int32_t{-1}, int32_t{4}),
               "Vorlane Add /p/a.jpg -  - -1 - 4");

@@ -244,6 +244,51 @@ TEST_F(ScrollingTest, AStepMovesTheWholeLookOfASlide) {
     EXPECT_EQ(to->LblTop.Caption(), "004.jpg");
 }
 
+TEST_F(ScrollingTest, AStepReducesOnlyTheNewRowsPictures) {
+    Start();
+    sheet->SetThumbnail(true);
+    for (int32_t n = 0; n < 40; ++n) {
+        const std::string name = "/large/" + std::to_string(n) + ".jpg";
+        desktop.pictures.Add(name, 900, 600);
+        sheet->Add(name, "");
+    }
+    sheet->StartLecture();
+    const Picture shown = sheet->Diapo.Item(4)->Picture();
+    const float width = sheet->Diapo.Item(4)->ImageWidth();
+    desktop.trace.Clear();
+    sheet->VScroll.SetValue(3);
+    const std::string resized = Heard({"resize"});
+    EXPECT_EQ(std::count(resized.begin(), resized.end(), '\n'), 3) << resized;
+    EXPECT_EQ(sheet->Diapo.Item(1)->Picture(), shown);
+    EXPECT_EQ(sheet->Diapo.Item(1)->ImageWidth(), width) << "of the whole picture";
+}
+
+TEST_F(ScrollingTest, ASubstituteStaysOneWhenItMoves) {
+    Start();
+    for (int32_t n = 0; n < 40; ++n) {
+        n % 3 == 0 ? sheet->Add("/p/sound" + std::to_string(n) + ".mp3", "") : sheet->Add(File(n), "");
+    }
+    sheet->StartLecture();
+    for (int32_t k = 0; k < 9; ++k) sheet->Diapo.Item(k)->SetAlwaysFullSize(true);
+    sheet->StartLecture("", -1);
+    const auto below = sheet->Diapo.Item(3);
+    const float width = below->Img.Width();
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(headless::NameOf(sheet->Diapo.Item(0)->Picture()), "file-sound");
+    EXPECT_EQ(sheet->Diapo.Item(0)->Img.Width(), width) << "an icon is never enlarged";
+    EXPECT_GT(sheet->Diapo.Item(1)->Img.Width(), 60) << "a picture is";
+}
+
+TEST_F(ScrollingTest, AStepBackWhoseBlankSlidesAreRefusedKeepsTheSlidesThatThereAre) {
+    Show(12);
+    sheet->VScroll.SetValue(3);
+    sheet->VScroll.SetValue(6);
+    onBeforeAdd = [](std::string&, bool& cancel) { cancel = true; };
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(Slides(), "3 4 5 6 7 8");
+    ExpectSlidesAgreeWithList();
+}
+
 // --- The Scroll event ---
 
 TEST_F(ScrollingTest, AfterAStoppedFillTheNextChangeIsMeasuredFromTheOldPlace) {
@@ -293,17 +338,49 @@ TEST_F(ScrollingTest, SlideZeroShowsTheBarsValueAllTheWayUpFromTheEnd) {
     }
     EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
     ExpectSlidesAgreeWithList();
-}
 
-TEST_F(ScrollingTest, AVeryLongJumpBackDoesNotOverflowTheCurrentSlide) {
-    Start();
-    for (int32_t n = 0; n < 100000; ++n) sheet->LstInterne.AddItem("\t" + File(n % 20));
-    sheet->StartLecture();
-    sheet->VScroll.SetValue(99000);
-    sheet->VScroll.SetValue(0);
-    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
-    EXPECT_THAT(Heard(), testing::Not(testing::HasSubstr("Error")));
-}
+    TEST_F(ScrollingTest, AStepWithoutAListIsReportedByTheScroll) {
+        Show(40);
+        sheet->Terminate();
+        sheet->VScroll.SetValue(3);
+        EXPECT_THAT(Heard(), testing::HasSubstr("host Error 91 Vorlane Scroll DpCnt=9 - 0\n"));
+    }
+
+    TEST_F(ScrollingTest, ACopyFromASlideThatIsGoneIsReportedWithBothPlaces) {
+        Show(40);
+        sheet->Diapo.Unload(4);
+        sheet->VScroll.SetValue(3);
+        EXPECT_THAT(Heard(), testing::HasSubstr("host Error 340 Vorlane CopyDiapo DpCnt=8 - 4 - 1\n"));
+    }
+
+    TEST_F(ScrollingTest, AStepOnFromASlideThatStandsBehindTheListDoesNothing) {
+        Show(40);
+        while (sheet->Diapo.Count() > 6) sheet->Diapo.Unload(sheet->Diapo.UpperBound());
+        sheet->Diapo.Item(5)->SetValue(40);
+        sheet->VScroll.SetValue(3);
+        EXPECT_EQ(Heard(), "");
+        EXPECT_EQ(Slides(), "0 1 2 3 4 40");
+    }
+
+    TEST_F(ScrollingTest, ASelectedLookThatMovesOntoTheCurrentSlideTakesItsColour) {
+        Show(40);
+        sheet->LstInterne.SetSelected(7, true);
+        sheet->StartLecture();
+        sheet->SetSelected(4, true);
+        sheet->VScroll.SetValue(3);
+        EXPECT_EQ(sheet->Diapo.Item(1)->BackColor(), sheet->BackColorCurrent()) << "the current slide has moved up";
+        EXPECT_EQ(sheet->Diapo.Item(4)->BackColor(), 7321083U) << "and left its place to a selected one";
+    }
+
+    TEST_F(ScrollingTest, AVeryLongJumpBackDoesNotOverflowTheCurrentSlide) {
+        Start();
+        for (int32_t n = 0; n < 100000; ++n) sheet->LstInterne.AddItem("\t" + File(n % 20));
+        sheet->StartLecture();
+        sheet->VScroll.SetValue(99000);
+        sheet->VScroll.SetValue(0);
+        EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+        EXPECT_THAT(Heard(), testing::Not(testing::HasSubstr("Error")));
+    }
 
 }  // namespace
 }  // namespace vorlane

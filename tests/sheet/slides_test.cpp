@@ -34,6 +34,25 @@ TEST_F(SlidesTest, ASlideGetsItsPlaceOnTheScreenAndTheTextForWaiting) {
     EXPECT_EQ(text, "Un instant");
 }
 
+TEST_F(SlidesTest, ASlideThatHasLeftTheSheetStillGetsItsPlace) {
+    Show(9);
+    const auto slide = sheet->Diapo.Item(4);
+    while (sheet->Diapo.Count() > 4) sheet->Diapo.Unload(sheet->Diapo.UpperBound());
+    WinRect rect;
+    std::string text;
+    slide->Events.GetWindowsPos(rect, text);
+    EXPECT_EQ(rect, (WinRect{100 + 111, 200 + 86, 100 + 211, 200 + 161}));
+    EXPECT_EQ(slide->Key(), 1004);
+}
+
+TEST_F(SlidesTest, APropertyReachesTheSlidesOnBothSidesOfAHole) {
+    Show(9);
+    sheet->Diapo.Unload(4);
+    sheet->SetShadowWidth(2);
+    EXPECT_EQ(sheet->Diapo.Item(8)->ShadowWidth(), 2);
+    EXPECT_EQ(sheet->GetIndexFromKey(1008), 8);
+}
+
 TEST_F(SlidesTest, AnErrorOfASlideReachesTheHostWithItsIndex) {
     Show(3);
     desktop.pictures.FailResizing(true);
