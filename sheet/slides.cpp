@@ -4,6 +4,28 @@
 
 namespace vorlane {
 
+namespace {
+
+// A slide as an element of the pool. Whoever works on a slide holds it, also when it has been unloaded and its index is
+// gone or another slide's.
+struct Member {
+    const ControlArray<eDiapoLight>& Pool;
+    const eDiapoLight& Slide;
+    int16_t Index;
+
+    bool Loaded() const { return Pool.Loaded(Index) && Pool.Item(Index).get() == &Slide; }
+};
+
+// Connects a handler that hears the slide for as long as it is in the pool.
+template <class... Args, class Handler>
+void Hear(Event<Args...>& event, const Member& member, Handler handler) {
+    event.connect([member, handler](Args... args) {
+        if (member.Loaded()) handler(args...);
+    });
+}
+
+}  // namespace
+
 // --- The pool ---
 
 // Slide 0 takes its design from the sheet's properties; the others copy it as it is now. A slide that is loaded later
@@ -96,29 +118,31 @@ void Vorlane::RecolourCopy(eDiapoLight& slide, int16_t index) {
 // --- What a slide asks and tells ---
 
 void Vorlane::ConnectSlide(eDiapoLight& slide, int16_t index) {
-    // By the slide itself: it may still ask when it has left the array.
-    slide.Events.GetKey.connect([this, &slide](int32_t& key) {
+    const Member member{Diapo, slide, index};
+    Hear(slide.Events.GetKey, member, [this, &slide](int32_t& key) {
         key = -1;
         Attempt([&] { key = KeyOf(slide).value_or(-1); });
     });
     // What is stored is no key, whatever the slide was given.
-    slide.Events.SetKey.connect([this, &slide](int32_t) {
+    Hear(slide.Events.SetKey, member, [this, &slide](int32_t) {
         Attempt([&] {
             if (ListBox* list = Bound().AsListBox()) list->SetItemData(slide.Value(), -1);
         });
     });
-    slide.Events.GetWindowsPos.connect([this, &slide](WinRect& rect, std::string& text) {
-        rect = ScreenRectOf(slide);
+    Hear(slide.Events.GetWindowsPos, member, [this, &slide](WinRect& rect, std::string& text) {
+        Attempt([&] { rect = ScreenRectOf(slide); });
         text = captionWait_;
     });
-    slide.Events.SetPicture.connect([this](DiapoPictureIndex picture, vorlane::Picture& answer, bool invalidSound) {
-        answer = PictureFor(picture, answer, invalidSound);
+    Hear(slide.Events.SetPicture, member, [this](DiapoPictureIndex picture, vorlane::Picture& answer, bool invalid) {
+        answer = PictureFor(picture, answer, invalid);
     });
-    slide.Events.InvalidPicture.connect([this, index](const std::string& name) { Events.InvalidPicture(index, name); });
-    slide.Events.Error.connect([this, index](int32_t number, const std::string& description, const std::string& source,
-                                             int32_t lastDllError, const std::string& valeur) {
-        Events.Error(number, description, source, lastDllError, valeur + " - Index=" + std::to_string(index));
-    });
+    Hear(slide.Events.InvalidPicture, member,
+         [this, index](const std::string& name) { Events.InvalidPicture(index, name); });
+    Hear(slide.Events.Error, member,
+         [this, index](int32_t number, const std::string& description, const std::string& source, int32_t lastDllError,
+                       const std::string& valeur) {
+             Events.Error(number, description, source, lastDllError, valeur + " - Index=" + std::to_string(index));
+         });
 }
 
 std::optional<int32_t> Vorlane::KeyOf(const eDiapoLight& slide) const {

@@ -99,5 +99,50 @@ TEST_F(SlidesTest, ASlideThatIsUnloadedWhileAHandlerHoldsItLivesOnUntilThen) {
     EXPECT_EQ(slide->ImageFullPath(), "/p/005.jpg");
 }
 
+TEST_F(SlidesTest, AnUnloadedSlideThatIsStillHeldIsHeardNoMore) {
+    Show(9);
+    const auto slide = sheet->Diapo.Item(5);
+    sheet->Clear();
+    Heard();
+    EXPECT_EQ(slide->Key(), 0);
+    slide->PictureByString("/p/broken.png");
+    EXPECT_EQ(slide->Picture().Type(), 0);
+    desktop.pictures.FailResizing(true);
+    slide->Thumb(headless::FakePictures::Make("x", 900, 900), 50);
+    WinRect rect{1, 2, 3, 4};
+    std::string text = "as it was";
+    slide->Events.GetWindowsPos(rect, text);
+    EXPECT_EQ(rect, (WinRect{1, 2, 3, 4}));
+    EXPECT_EQ(text, "as it was");
+    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(SlidesTest, AnUnloadedSlideIsNotTakenForTheSlideThatHasItsIndexNow) {
+    Show(9);
+    const auto slide = sheet->Diapo.Item(5);
+    sheet->Clear();
+    AddItems(10, 18);
+    sheet->StartLecture();
+    Heard();
+    ASSERT_EQ(sheet->Diapo.Item(5)->Key(), 1015);
+    EXPECT_EQ(slide->Key(), 0);
+    slide->SetKey(7);
+    EXPECT_EQ(sheet->Diapo.Item(5)->Key(), 1015);
+    slide->PictureByString("/p/broken.png");
+    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(SlidesTest, ASlideTooFarOutForTheScreenGetsTheTextForWaitingAlone) {
+    Show(1);
+    sheet->SetCaptionWait("Un instant");
+    const auto slide = sheet->Diapo.Item(0);
+    slide->SetLeft(1e12);
+    WinRect rect{1, 2, 3, 4};
+    std::string text;
+    slide->Events.GetWindowsPos(rect, text);
+    EXPECT_EQ(rect, (WinRect{1, 2, 3, 4}));
+    EXPECT_EQ(text, "Un instant");
+}
+
 }  // namespace
 }  // namespace vorlane
