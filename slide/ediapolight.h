@@ -5,6 +5,7 @@
 // Lengths are pixels of the slide. One layout computes and draws everything from the outer size; it waits while
 // NoResize is set at run time and until the properties have been initialised or read. A setter of a persisted property
 // reports PropertyChanged behind its work. A handler of the host that throws fails the operation that raised the event.
+// It may unload the slide from the array that holds it, but must not destroy a slide that no array holds.
 #pragma once
 
 #include "platform/failure.h"

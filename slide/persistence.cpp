@@ -115,13 +115,14 @@ std::vector<eDiapoLight::PersistedProperty> eDiapoLight::MakePersistedProperties
     };
 }
 
+// A host that fails when it hears of a change leaves the slide ready all the same.
 void eDiapoLight::InitProperties() {
-    SetBackColor(kWhite);
+    Attempt([&] { SetBackColor(kWhite); });
     for (const PersistedProperty& property : PersistedProperties()) {
         if (property.Initialize) property.Initialize(*this);
     }
     settings_.ShowDiapoTools = false;
-    ShowGround(Ambient().BackColor, false);
+    Attempt([&] { ShowGround(Ambient().BackColor, false); });
     life_ = {true, true};
 }
 

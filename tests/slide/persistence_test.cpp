@@ -1,3 +1,4 @@
+#include "platform/failure.h"
 #include "slidetest.h"
 
 #include <map>
@@ -124,6 +125,13 @@ TEST_F(PersistenceTest, ANewSlideIsWhiteOnceItHasBeenSelected) {
     slide.SetSelected(true);
     slide.SetSelected(false);
     EXPECT_EQ(slide.BackColor(), 0xFFFFFFU);
+}
+
+TEST_F(PersistenceTest, AHostThatFailsWhenItHearsOfAChangeLeavesANewSlideReady) {
+    slide.PropertyChanged.connect([](std::string_view) { throw failures::InvalidCall(); });
+    EXPECT_NO_THROW(slide.InitProperties());
+    EXPECT_EQ(slide.BorderSize(), 5);
+    EXPECT_TRUE(LaysOut([&] { slide.Refresh(); }));
 }
 
 TEST_F(PersistenceTest, EveryKeyIsReadAndWrittenBack) {
