@@ -152,6 +152,7 @@ public:
 class Films;          // picture files that may move, see film.h
 class Forms;          // small windows of the library's own, see forms.h
 class SharedObjects;  // what the controls of a desktop share, see sharedobjects.h
+class Tooltips;       // tooltip windows, see tooltips.h
 
 // The roles together, as a control holds them. The desktop that gives them outlives its controls.
 struct Desktop {
@@ -166,6 +167,7 @@ struct Desktop {
     Texts& texts;
     Forms& forms;
     Films& films;
+    Tooltips& tooltips;
     SharedObjects& shared;
 };
 

@@ -31,8 +31,8 @@ std::string MadeEven(const std::string& text) {
 
 }  // namespace
 
-clsToolTip::clsToolTip(const Desktop& desktop, Tooltips& tooltips) : desktop_(desktop), tooltips_(tooltips) {
-    tooltips_.InitCommonControls();
+clsToolTip::clsToolTip(const Desktop& desktop) : desktop_(desktop) {
+    desktop_.tooltips.InitCommonControls();
 }
 
 clsToolTip::~clsToolTip() {
@@ -43,7 +43,7 @@ void clsToolTip::Destroy() {
     if (window_ != 0) {
         tool_.cbSize = kToolSize;
         Send(TTM_DELTOOLA, 0, tool_);
-        tooltips_.DestroyTooltip(window_);
+        desktop_.tooltips.DestroyTooltip(window_);
         window_ = 0;
     }
     style_ = -1;
@@ -88,8 +88,8 @@ void clsToolTip::TakeColors(OLE_COLOR foreColor, OLE_COLOR backColor) {
 }
 
 void clsToolTip::Open(bool tracking) {
-    window_ = tooltips_.CreateTooltip(style_ | TTS_NOPREFIX, tool_.hwnd);
-    tooltips_.BringToTop(window_);
+    window_ = desktop_.tooltips.CreateTooltip(style_ | TTS_NOPREFIX, tool_.hwnd);
+    desktop_.tooltips.BringToTop(window_);
     Send(TTM_ADDTOOLA, 0, tool_);
     Send(TTM_SETTITLEA, icon_, title_);
     Send(TTM_SETTIPTEXTCOLOR, static_cast<int32_t>(foreColor_), 0);
@@ -100,7 +100,7 @@ void clsToolTip::Open(bool tracking) {
 }
 
 void clsToolTip::Send(TooltipMessage message, int32_t wParam, const TooltipParameter& lParam) {
-    tooltips_.SendMessageA(window_, message, wParam, lParam);
+    desktop_.tooltips.SendMessageA(window_, message, wParam, lParam);
 }
 
 // --- The open window ---

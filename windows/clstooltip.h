@@ -15,7 +15,7 @@ namespace vorlane {
 
 class clsToolTip {
 public:
-    clsToolTip(const Desktop& desktop, Tooltips& tooltips);
+    explicit clsToolTip(const Desktop& desktop);
     ~clsToolTip();
     clsToolTip(const clsToolTip&) = delete;
     clsToolTip& operator=(const clsToolTip&) = delete;
@@ -57,7 +57,6 @@ private:
     void Send(TooltipMessage message, int32_t wParam, const TooltipParameter& lParam);
 
     Desktop desktop_;
-    Tooltips& tooltips_;
     Hwnd window_ = 0;
     int32_t style_ = -1;
     int32_t icon_ = 0;

@@ -13,6 +13,7 @@
 #include "platform/qt/qtsounds.h"
 #include "platform/qt/qttextmetrics.h"
 #include "platform/qt/qttexts.h"
+#include "platform/qt/qttooltips.h"
 #include "platform/qt/qtwindows.h"
 #include "platform/qt/scaledpictures.h"
 #include "platform/sharedobjects.h"
@@ -34,7 +35,7 @@ public:
     static QtDesktop& Of(QCoreApplication& application);
 
     Desktop Roles() {
-        return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts, forms, films, shared};
+        return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts, forms, films, tooltips, shared};
     }
     PaintTools Tools() { return {screen, metrics, scaled}; }
 
@@ -50,6 +51,7 @@ public:
     ScaledPictures scaled;
     QtForms forms{windows, Tools()};
     QtFilms films{pictures};
+    QtTooltips tooltips{windows, screen};
     SharedObjects shared;
 };
 

@@ -25,7 +25,7 @@ protected:
 
     headless::Desktop desktop;
     headless::Window window{desktop, {100, 100, 400, 300}};
-    clsToolTip tip{desktop.Roles(), desktop.tooltips};
+    clsToolTip tip{desktop.Roles()};
 };
 
 // --- An object without a window ---
@@ -235,7 +235,7 @@ TEST_F(ToolTip, CanBeTracked) {
 
 TEST_F(ToolTip, GoesWithItsObject) {
     {
-        clsToolTip other(desktop.Roles(), desktop.tooltips);
+        clsToolTip other(desktop.Roles());
         other.Create(window.Handle(), "text", 0, false, false, 0, "", 0, 1, 0, 0);
         EXPECT_EQ(desktop.windows.OpenWindows(), 2);
     }
