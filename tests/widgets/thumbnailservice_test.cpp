@@ -373,6 +373,30 @@ TEST_F(ThumbnailServiceTest, EntriesAreWrittenBehindAllRequests) {
     EXPECT_EQ(QDir(cache.filePath("thumbnails/normal")).entryList(QDir::Files).size(), 20);
 }
 
+TEST_F(ThumbnailServiceTest, ThatAFileCouldNotBeOpenedIsNotKeptOnDisk) {
+    const QTemporaryDir cache;
+    ThumbnailOptions options = Options();
+    options.cacheFolder = cache.filePath("thumbnails");
+    options.decoder = [](const QString&, int) { return ThumbnailDecoded{}; };
+    Start(std::move(options));
+    service_->request(pictures_.WritePicture("a.jpg"), 128);
+    ASSERT_TRUE(Settle());
+    service_->waitForWorkers();
+    EXPECT_EQ(failed_, QStringList("a.jpg"));
+    EXPECT_TRUE(QDir(cache.path()).isEmpty());
+}
+
+TEST_F(ThumbnailServiceTest, AnSvgFilesThumbnailIsABitmapLikeAnyOther) {
+    Start(Options());
+    const QString path = pictures_.Write("a.svg", R"(<svg xmlns="http://www.w3.org/2000/svg" width="400" height="200">
+        <rect width="400" height="200" fill="#00f"/></svg>)");
+    service_->request(path, 128);
+    ASSERT_TRUE(Settle());
+    const QImage image = service_->request(path, 128).thumbnail.image;
+    EXPECT_EQ(image.size(), QSize(128, 64));
+    EXPECT_EQ(image.pixelColor(60, 30), QColor(0, 0, 255));
+}
+
 TEST_F(ThumbnailServiceTest, ADecoderThatThrowsFailsTheFileAndNothingElse) {
     ThumbnailOptions options = Options();
     options.decoder = [](const QString&, int) -> ThumbnailDecoded { throw std::runtime_error("no memory"); };
