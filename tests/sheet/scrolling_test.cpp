@@ -338,49 +338,50 @@ TEST_F(ScrollingTest, SlideZeroShowsTheBarsValueAllTheWayUpFromTheEnd) {
     }
     EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
     ExpectSlidesAgreeWithList();
+}
 
-    TEST_F(ScrollingTest, AStepWithoutAListIsReportedByTheScroll) {
-        Show(40);
-        sheet->Terminate();
-        sheet->VScroll.SetValue(3);
-        EXPECT_THAT(Heard(), testing::HasSubstr("host Error 91 Vorlane Scroll DpCnt=9 - 0\n"));
-    }
+TEST_F(ScrollingTest, AStepWithoutAListIsReportedByTheScroll) {
+    Show(40);
+    sheet->Terminate();
+    sheet->VScroll.SetValue(3);
+    EXPECT_THAT(Heard(), testing::HasSubstr("host Error 91 Vorlane Scroll DpCnt=9 - 0\n"));
+}
 
-    TEST_F(ScrollingTest, ACopyFromASlideThatIsGoneIsReportedWithBothPlaces) {
-        Show(40);
-        sheet->Diapo.Unload(4);
-        sheet->VScroll.SetValue(3);
-        EXPECT_THAT(Heard(), testing::HasSubstr("host Error 340 Vorlane CopyDiapo DpCnt=8 - 4 - 1\n"));
-    }
+TEST_F(ScrollingTest, ACopyFromASlideThatIsGoneIsReportedWithBothPlaces) {
+    Show(40);
+    sheet->Diapo.Unload(4);
+    sheet->VScroll.SetValue(3);
+    EXPECT_THAT(Heard(), testing::HasSubstr("host Error 340 Vorlane CopyDiapo DpCnt=8 - 4 - 1\n"));
+}
 
-    TEST_F(ScrollingTest, AStepOnFromASlideThatStandsBehindTheListDoesNothing) {
-        Show(40);
-        while (sheet->Diapo.Count() > 6) sheet->Diapo.Unload(sheet->Diapo.UpperBound());
-        sheet->Diapo.Item(5)->SetValue(40);
-        sheet->VScroll.SetValue(3);
-        EXPECT_EQ(Heard(), "");
-        EXPECT_EQ(Slides(), "0 1 2 3 4 40");
-    }
+TEST_F(ScrollingTest, AStepOnFromASlideThatStandsBehindTheListDoesNothing) {
+    Show(40);
+    while (sheet->Diapo.Count() > 6) sheet->Diapo.Unload(sheet->Diapo.UpperBound());
+    sheet->Diapo.Item(5)->SetValue(40);
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(Heard(), "");
+    EXPECT_EQ(Slides(), "0 1 2 3 4 40");
+}
 
-    TEST_F(ScrollingTest, ASelectedLookThatMovesOntoTheCurrentSlideTakesItsColour) {
-        Show(40);
-        sheet->LstInterne.SetSelected(7, true);
-        sheet->StartLecture();
-        sheet->SetSelected(4, true);
-        sheet->VScroll.SetValue(3);
-        EXPECT_EQ(sheet->Diapo.Item(1)->BackColor(), sheet->BackColorCurrent()) << "the current slide has moved up";
-        EXPECT_EQ(sheet->Diapo.Item(4)->BackColor(), 7321083U) << "and left its place to a selected one";
-    }
+TEST_F(ScrollingTest, ASelectedLookThatMovesOntoTheCurrentSlideTakesItsColour) {
+    Show(40);
+    sheet->LstInterne.SetSelected(7, true);
+    sheet->StartLecture();
+    sheet->SetSelected(4, true);
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(sheet->Diapo.Item(1)->BackColor(), sheet->BackColorCurrent()) << "the current slide has moved up";
+    EXPECT_EQ(sheet->Diapo.Item(4)->BackColor(), 7321083U) << "and left its place to a selected one";
+}
 
-    TEST_F(ScrollingTest, AVeryLongJumpBackDoesNotOverflowTheCurrentSlide) {
-        Start();
-        for (int32_t n = 0; n < 100000; ++n) sheet->LstInterne.AddItem("\t" + File(n % 20));
-        sheet->StartLecture();
-        sheet->VScroll.SetValue(99000);
-        sheet->VScroll.SetValue(0);
-        EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
-        EXPECT_THAT(Heard(), testing::Not(testing::HasSubstr("Error")));
-    }
+TEST_F(ScrollingTest, AVeryLongJumpBackDoesNotOverflowTheCurrentSlide) {
+    Start();
+    for (int32_t n = 0; n < 100000; ++n) sheet->LstInterne.AddItem("\t" + File(n % 20));
+    sheet->StartLecture();
+    sheet->VScroll.SetValue(99000);
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+    EXPECT_THAT(Heard(), testing::Not(testing::HasSubstr("Error")));
+}
 
 }  // namespace
 }  // namespace vorlane
