@@ -145,13 +145,15 @@ bool Vorlane::FillSlots(Fill& fill) {
 Vorlane::Filled Vorlane::FillSlot(const Fill& fill, int32_t listIndex) {
     const std::string name = ItemFullPath(listIndex);
     const int16_t cursor = fill.Cursor;
+    const float token = pass_.LectToken;
     const bool missing = (cursor == 0 && pass_.NoSlideYet) || cursor > Diapo.Count() - 1;
     if (!missing) {
         Rebind(cursor, name, listIndex);
     } else if (AddInterne(name, listIndex, false) == -1) {
         if (!MayGoOn(fill)) return Filled::Lost;
-        const bool shownMeanwhile = Diapo.Loaded(cursor) && Diapo.Item(cursor)->Value() == listIndex;
-        return shownMeanwhile ? Filled::Yes : Filled::Refused;
+        const bool passedMeanwhile = pass_.LectToken != token;
+        const bool shown = Diapo.Loaded(cursor) && Diapo.Item(cursor)->Value() == listIndex;
+        return passedMeanwhile && shown ? Filled::Yes : Filled::Refused;
     }
     if (!Diapo.Loaded(cursor)) return Filled::Lost;
     const auto slide = Diapo.Item(cursor);

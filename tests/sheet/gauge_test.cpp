@@ -111,8 +111,8 @@ TEST_F(GaugeTest, OfASheetThatHasGrownSlidesOutFromTheBottomOnly) {
     Show(3);
     sheet->SetJaugeAnimation(true);
     onAdded = [this](int16_t index) {
-        if (index == 2) window.Resize(kWidth, kHeight + 40);
         desktop.trace.Clear();
+        if (index == 2) window.Resize(kWidth, kHeight + 5);
     };
     sheet->StartLecture();
     const std::string seen = Heard({"sleep"});
