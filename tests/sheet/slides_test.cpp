@@ -34,17 +34,6 @@ TEST_F(SlidesTest, ASlideGetsItsPlaceOnTheScreenAndTheTextForWaiting) {
     EXPECT_EQ(text, "Un instant");
 }
 
-TEST_F(SlidesTest, ASlideThatHasLeftTheSheetStillGetsItsPlace) {
-    Show(9);
-    const auto slide = sheet->Diapo.Item(4);
-    while (sheet->Diapo.Count() > 4) sheet->Diapo.Unload(sheet->Diapo.UpperBound());
-    WinRect rect;
-    std::string text;
-    slide->Events.GetWindowsPos(rect, text);
-    EXPECT_EQ(rect, (WinRect{100 + 111, 200 + 86, 100 + 211, 200 + 161}));
-    EXPECT_EQ(slide->Key(), 1004);
-}
-
 TEST_F(SlidesTest, APropertyReachesTheSlidesOnBothSidesOfAHole) {
     Show(9);
     sheet->Diapo.Unload(4);
