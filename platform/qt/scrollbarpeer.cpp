@@ -36,12 +36,11 @@ ScrollBarPeer::ScrollBarPeer(ScrollbarPlus& model, ControlHost& host) : QScrollB
     });
     connect(this, &QScrollBar::valueChanged, this, [this](int value) {
         if (following_) return;
-        const bool dropped = std::exchange(dragged_, false);
-        Attempt([&] { dropped ? model_.DropThumb(value) : model_.SetValue(value); });
+        Attempt([&] { model_.SetValue(value); });
         Follow();
     });
     connect(this, &QScrollBar::sliderReleased, this, [this] {
-        dragged_ = false;
+        if (std::exchange(dragged_, false)) Attempt([&] { model_.DropThumb(sliderPosition()); });
         Follow();
     });
     Follow();
