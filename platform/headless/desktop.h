@@ -21,7 +21,8 @@ public:
     Desktop& operator=(const Desktop&) = delete;
 
     vorlane::Desktop Roles() {
-        return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts, forms, films, tooltips, shared};
+        return {clock,  screen, keyboard, metrics, windows,  dialogs, pictures,
+                sounds, texts,  forms,    films,   tooltips, shared};
     }
 
     // What is still running, one line each; empty when all is released.

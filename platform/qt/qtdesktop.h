@@ -35,7 +35,8 @@ public:
     static QtDesktop& Of(QCoreApplication& application);
 
     Desktop Roles() {
-        return {clock, screen, keyboard, metrics, windows, dialogs, pictures, sounds, texts, forms, films, tooltips, shared};
+        return {clock,  screen, keyboard, metrics, windows,  dialogs, pictures,
+                sounds, texts,  forms,    films,   tooltips, shared};
     }
     PaintTools Tools() { return {screen, metrics, scaled}; }
 
