@@ -122,6 +122,7 @@ Picture eDiapoLight::SubstituteFor(DiapoPictureIndex index, const std::string& p
 // --- Assignment ---
 
 // By value: the picture may be the slide's own, which handlers replace.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 void eDiapoLight::SetPicture(vorlane::Picture picture) {
     try {
         AssignPicture(picture);

@@ -11,7 +11,7 @@ namespace vorlane {
 class FrmDrag final : public Form {
 public:
     // systemFamily: on the scale of Trelmic6; below 8 there are no layered windows.
-    FrmDrag(const Desktop& desktop, int32_t systemFamily = Trelmic6::SystemFamily());
+    explicit FrmDrag(const Desktop& desktop, int32_t systemFamily = Trelmic6::SystemFamily());
 
     bool AlphaMode = false;  // seen through all over, without a hole of the colour key
     OLE_COLOR ColorKey = 0;  // what has this colour is a hole

@@ -15,7 +15,7 @@ namespace vorlane {
 
 class FrmScroll final : public Form {
 public:
-    FrmScroll(const Desktop& desktop);
+    explicit FrmScroll(const Desktop& desktop);
 
     bool ZoomMode = false;  // it is a zoom window
     float ZoomX = 0;        // where a zoom window opened, twips

@@ -16,7 +16,7 @@ namespace vorlane {
 
 class FrmWait final : public Form {
 public:
-    FrmWait(const Desktop& desktop);
+    explicit FrmWait(const Desktop& desktop);
 
     // Opens the window over r, screen pixels. It is as wide as its caption asks. A place that is none leaves it where
     // it stands; in the middle it appears at once.
