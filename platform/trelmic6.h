@@ -15,6 +15,13 @@ namespace vorlane {
 
 enum class PathKind : int16_t { File = 0, Folder = 1 };
 
+// What FilePart gives of a path.
+enum class PathPart : int16_t {
+    FileName = 2,   // without folder, empty when it has no extension ("name." gives "name.")
+    Extension = 3,  // without the point
+    BaseName = 4,   // without folder, extension and its point, also of a name without extension; what a rename edits
+};
+
 class Trelmic6 {
 public:
     explicit Trelmic6(const Desktop& desktop) : desktop_(desktop) {}
@@ -32,11 +39,8 @@ public:
     // --- Paths ---
     // Both "/" and "\" end a folder. The extension of a name is what stands behind its last point; points at the very
     // front start no extension. So "a.tar.gz" has "gz", "name." an empty one, ".profile" and "name" have none.
-    //
-    // Part 2: the file name without folder, empty when it has no extension ("name." gives "name."). 3: the extension
-    // without the point. 4: the file name without folder, extension and its point, also of a name without extension;
-    // it is what a rename edits. An unknown part gives an empty text.
-    static std::string FilePart(std::string_view path, int16_t part);
+    // An unknown part gives an empty text.
+    static std::string FilePart(std::string_view path, PathPart part);
     // The file name without folder, whatever its extension.
     static std::string FileName(std::string_view path);
     // By extension, in any case: 0 a picture, 1 a sound, 2 a video, 3 a document, 5 anything else. A name without

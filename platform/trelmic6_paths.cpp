@@ -56,20 +56,19 @@ std::string LocalTimeText(std::time_t moment) {
 
 }  // namespace
 
-std::string Trelmic6::FilePart(std::string_view path, int16_t part) {
+std::string Trelmic6::FilePart(std::string_view path, PathPart part) {
     const std::string_view name = NameOf(path);
     const size_t point = ExtensionPoint(name);
     const bool extended = point != std::string_view::npos;
     switch (part) {
-        case 2:
+        case PathPart::FileName:
             return std::string(extended ? name : "");
-        case 3:
+        case PathPart::Extension:
             return std::string(extended ? name.substr(point + 1) : "");
-        case 4:
+        case PathPart::BaseName:
             return std::string(name.substr(0, point));
-        default:
-            return {};
     }
+    return {};
 }
 
 std::string Trelmic6::FileName(std::string_view path) {
@@ -77,7 +76,7 @@ std::string Trelmic6::FileName(std::string_view path) {
 }
 
 int16_t Trelmic6::FileKind(std::string_view path) {
-    const std::string extension = LowerCase(FilePart(path, 3));
+    const std::string extension = LowerCase(FilePart(path, PathPart::Extension));
     if (extension.empty() || Holds(kPictures, extension)) return 0;
     if (Holds(kSounds, extension)) return 1;
     if (Holds(kVideos, extension)) return 2;

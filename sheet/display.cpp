@@ -232,7 +232,7 @@ int16_t Vorlane::AddInterne(const std::string& imageName, int32_t listIndex, boo
 // Whether the host refuses the file, whose name it may change.
 bool Vorlane::Refused(std::string& imageName) {
     bool cancel = false;
-    Events.BeforeAdd(imageName, Trelmic6::LowerCase(Trelmic6::FilePart(imageName, 3)), cancel);
+    Events.BeforeAdd(imageName, Trelmic6::LowerCase(Trelmic6::FilePart(imageName, PathPart::Extension)), cancel);
     return cancel;
 }
 

@@ -16,7 +16,7 @@ std::string_view ItemFileName(std::string_view itemText) {
 }
 
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
-    const std::string extension = Trelmic6::LowerCase(Trelmic6::FilePart(name, 3));
+    const std::string extension = Trelmic6::LowerCase(Trelmic6::FilePart(name, PathPart::Extension));
     if (extension.empty()) return false;
     return pattern.find("*.*") != std::string_view::npos || pattern.find(extension) != std::string_view::npos;
 }

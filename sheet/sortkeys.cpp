@@ -36,7 +36,7 @@ std::string BuildSortKey(const std::string& fileName, int32_t mask) {
     add(saDateFirst, [&] { return DateDigits(Trelmic6::FileDateText(fileName, 0)); });
     add(saDateSecond, [&] { return DateDigits(Trelmic6::FileDateText(fileName, 1)); });
     add(saSize, [&] { return ZeroPadded(Trelmic6::FileLength(fileName), 10); });
-    add(saExtension, [&] { return Trelmic6::LowerCase(Trelmic6::FilePart(fileName, 3)); });
+    add(saExtension, [&] { return Trelmic6::LowerCase(Trelmic6::FilePart(fileName, PathPart::Extension)); });
     return key;
 }
 

@@ -94,7 +94,7 @@ public:
     // Full name of the file. Setting it loads nothing.
     const std::string& ImageFullPath() const { return Img.Tag(); }
     void SetImageFullPath(const std::string& path);
-    std::string ImageName() const { return Trelmic6::FilePart(Img.Tag(), 2); }
+    std::string ImageName() const { return Trelmic6::FilePart(Img.Tag(), PathPart::FileName); }
     // Native size in pixels of the last picture assigned.
     float ImageWidth() const { return image_.Native.Width; }
     float ImageHeight() const { return image_.Native.Height; }

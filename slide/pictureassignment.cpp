@@ -6,7 +6,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr int16_t kFileName = 2;
 constexpr int16_t kOwnSize = -1;
 
 PictureSize PixelSize(const Picture& picture) {
@@ -31,7 +30,7 @@ private:
 // --- Files ---
 
 std::string eDiapoLight::KnownPath(const std::string& path) {
-    const bool unnamed = Trelmic6::FilePart(path, kFileName).empty() && !Trelmic6::FileName(path).empty();
+    const bool unnamed = Trelmic6::FilePart(path, PathPart::FileName).empty() && !Trelmic6::FileName(path).empty();
     return unnamed ? path + '.' : path;
 }
 
@@ -40,7 +39,7 @@ void eDiapoLight::PictureByString(const std::string& path, vorlane::Picture thum
     Trap(
         pending_,
         [&] {
-            if (Trelmic6::FilePart(file, kFileName).empty()) {
+            if (Trelmic6::FilePart(file, PathPart::FileName).empty()) {
                 ShowNoFile();
             } else {
                 ShowFile(file, thumb);
@@ -73,7 +72,7 @@ void eDiapoLight::ShowFile(const std::string& path, const vorlane::Picture& thum
     } else {
         SetPicture(std::nullopt);
     }
-    LblTop.SetCaption(Trelmic6::FilePart(path, kFileName));
+    LblTop.SetCaption(Trelmic6::FilePart(path, PathPart::FileName));
 }
 
 // Nothing for a kind of file that the slide does not know.
@@ -102,7 +101,7 @@ Picture eDiapoLight::LoadPictureFile(const std::string& path, const vorlane::Pic
     }
     vorlane::Picture substitute = RequestPicture(DiapoPictureIndex::PicSubstitute, false);
     image_.IsSubstitute = true;
-    LblTop.SetCaption(Trelmic6::FilePart(path, kFileName));
+    LblTop.SetCaption(Trelmic6::FilePart(path, PathPart::FileName));
     if (!settings_.ShowDiapoTools) {
         BtPlay.SetVisible(false);
         BtComment.SetVisible(false);

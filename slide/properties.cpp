@@ -22,7 +22,7 @@ void eDiapoLight::Change(T& field, T value, std::string_view key) {
 
 void eDiapoLight::SetImageFullPath(const std::string& path) {
     Img.SetTag(path);
-    LblTop.SetCaption(Trelmic6::FilePart(path, 2));
+    LblTop.SetCaption(Trelmic6::FilePart(path, PathPart::FileName));
 }
 
 WinRect eDiapoLight::ImageNameRect() const {

@@ -12,7 +12,7 @@ FileKind FileKindOf(const QString& path) {
 }
 
 bool HasExtension(const QString& path) {
-    return !Trelmic6::FilePart(path.toStdString(), 3).empty();
+    return !Trelmic6::FilePart(path.toStdString(), PathPart::Extension).empty();
 }
 
 bool HoldsPicture(const QString& path) {

@@ -17,9 +17,9 @@ class FilePartTest : public testing::TestWithParam<NameParts> {};
 TEST_P(FilePartTest, CutsThePath) {
     const NameParts& expected = GetParam();
     EXPECT_EQ(Trelmic6::FileName(expected.Path), expected.Name);
-    EXPECT_EQ(Trelmic6::FilePart(expected.Path, 2), expected.Part2);
-    EXPECT_EQ(Trelmic6::FilePart(expected.Path, 3), expected.Extension);
-    EXPECT_EQ(Trelmic6::FilePart(expected.Path, 4), expected.Base);
+    EXPECT_EQ(Trelmic6::FilePart(expected.Path, PathPart::FileName), expected.Part2);
+    EXPECT_EQ(Trelmic6::FilePart(expected.Path, PathPart::Extension), expected.Extension);
+    EXPECT_EQ(Trelmic6::FilePart(expected.Path, PathPart::BaseName), expected.Base);
 }
 
 INSTANTIATE_TEST_SUITE_P(Paths, FilePartTest,
@@ -37,9 +37,9 @@ INSTANTIATE_TEST_SUITE_P(Paths, FilePartTest,
                                          NameParts{"/photos.d/", "", "", "", ""}, NameParts{"", "", "", "", ""}));
 
 TEST(FilePart, AnUnknownPartGivesAnEmptyText) {
-    EXPECT_EQ(Trelmic6::FilePart("/photos/a.jpg", 0), "");
-    EXPECT_EQ(Trelmic6::FilePart("/photos/a.jpg", 1), "");
-    EXPECT_EQ(Trelmic6::FilePart("/photos/a.jpg", 5), "");
+    EXPECT_EQ(Trelmic6::FilePart("/photos/a.jpg", static_cast<PathPart>(0)), "");
+    EXPECT_EQ(Trelmic6::FilePart("/photos/a.jpg", static_cast<PathPart>(1)), "");
+    EXPECT_EQ(Trelmic6::FilePart("/photos/a.jpg", static_cast<PathPart>(5)), "");
 }
 
 TEST(FileKind, TellsTheKindByTheExtensionInAnyCase) {
