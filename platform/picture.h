@@ -27,6 +27,7 @@ public:
 
     // 0 none, 1 bitmap, 2 metafile, 3 icon, 4 enhanced metafile.
     int16_t Type() const;
+    bool IsBitmap() const { return Type() == static_cast<int16_t>(PictureType::Bitmap); }
     // Not 0 exactly for a picture that is not empty; equal for copies, different for any two living pictures.
     uintptr_t Handle() const { return reinterpret_cast<uintptr_t>(body_.get()); }
     // Size in HiMetric.

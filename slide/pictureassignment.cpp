@@ -185,7 +185,7 @@ void eDiapoLight::ShowAssigned(const vorlane::Picture& picture) {
 }
 
 bool eDiapoLight::ShowsThumbOf(const vorlane::Picture& picture) const {
-    if (picture.Type() != static_cast<int16_t>(PictureType::Bitmap) || !settings_.Thumbnail) return false;
+    if (!picture.IsBitmap() || !settings_.Thumbnail) return false;
     if (image_.IsSubstitute || image_.HasGivenThumb) return false;
     const PictureSize pixels = PixelSize(picture);
     const AreaSize area = PictureArea();
@@ -211,7 +211,7 @@ void eDiapoLight::FitImage(const vorlane::Picture& picture) {
 
 std::optional<Picture> eDiapoLight::Thumb(const vorlane::Picture& picture, int16_t resolution) {
     if (picture.Handle() == 0) return std::nullopt;
-    if (picture.Type() != static_cast<int16_t>(PictureType::Bitmap)) return picture;
+    if (!picture.IsBitmap()) return picture;
     return Trap(
         pending_,
         [&]() -> std::optional<vorlane::Picture> {

@@ -75,8 +75,7 @@ std::string ExistingPath(const std::string& path) {
 
 // How many pixels there are to take from.
 QSize Available(const Picture& picture) {
-    const bool bitmap = picture.Type() == static_cast<int16_t>(PictureType::Bitmap);
-    return bitmap ? PixelSizeOf(picture) : QSize(INT32_MAX, INT32_MAX);
+    return picture.IsBitmap() ? PixelSizeOf(picture) : QSize(INT32_MAX, INT32_MAX);
 }
 
 // How many pixels stand behind a side of that many logical ones, when the source has available of them.
