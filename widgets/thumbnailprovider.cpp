@@ -68,14 +68,10 @@ void ThumbnailProvider::Answer(const std::string& name, Picture& picture) {
     picture = tile ? Tile() : ToPicture(answer.thumbnail);
 }
 
-// A slide writes a point behind the name of a file without extension.
 void ThumbnailProvider::Refuse(const std::string& name, bool& refused) const {
     if (!service_) return;
-    QString path = Text(name);
-    for (int spelling = 0; spelling < 2; ++spelling, path.chop(1)) {
-        refused = refused || refused_.contains(path) || service_->isKnownBroken(path);
-        if (!path.endsWith(QLatin1Char('.'))) return;
-    }
+    const QString path = Text(name);
+    refused = refused || refused_.contains(path) || service_->isKnownBroken(path);
 }
 
 // --- What the service tells ---

@@ -93,10 +93,11 @@ QtPictures::QtPictures() {
 }
 
 std::optional<Picture> QtPictures::LoadImageFile(const std::string& path) {
+    const std::string file = ExistingPath(path);
     bool broken = false;
-    BeforeLoad(path, broken);
+    BeforeLoad(file, broken);
     if (broken) return std::nullopt;
-    const Picture picture = PictureFromFile(ExistingPath(path));
+    const Picture picture = PictureFromFile(file);
     return picture.Type() == 0 ? std::nullopt : std::optional(picture);
 }
 

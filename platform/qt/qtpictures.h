@@ -22,7 +22,7 @@ public:
     Picture Get(Artwork artwork) override;
 
     // A file is about to be read on the user's thread. A handler that knows it for broken spares that; the file then
-    // counts as one that can't be read: path, broken.
+    // counts as one that can't be read: the path of the file as it is found, broken.
     Event<const std::string&, bool&> BeforeLoad;
 
 private:

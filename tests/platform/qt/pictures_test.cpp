@@ -283,6 +283,18 @@ TEST_F(QtPicturesTest, AFileThatAHandlerKnowsForBrokenIsNotRead) {
     EXPECT_TRUE(pictures_.LoadImageFile(path));
 }
 
+TEST_F(QtPicturesTest, AHandlerIsToldTheFileAsItIsFound) {
+    std::string asked;
+    const ScopedConnection connection =
+        pictures_.BeforeLoad.connect([&](const std::string& file, bool&) { asked = file; });
+    const std::string bare = Write("photo", Encoded(Sample(60, 40), "png"));
+    EXPECT_TRUE(pictures_.LoadImageFile(bare + '.'));
+    EXPECT_EQ(asked, bare);
+    const std::string pointed = Write("photo.", Encoded(Sample(60, 40), "png"));
+    EXPECT_TRUE(pictures_.LoadImageFile(pointed));
+    EXPECT_EQ(asked, pointed);
+}
+
 TEST_F(QtPicturesTest, ResizingGivesTheSizeThatIsAskedFor) {
     const auto picture = pictures_.LoadImageFile(Write("a.png", Encoded(Sample(300, 200), "png")));
     ASSERT_TRUE(picture);
