@@ -39,7 +39,9 @@ TEST(ShadowLines, AreATenthOfTheShorterSideAtMostTheWidthAndAtLeastOne) {
 
 TEST(ShadowLines, OverflowBeyondAByte) {
     EXPECT_THROW(ShadowLines({0, 0, 100, -6}, 5), Failure);
-    EXPECT_THROW(ShadowLines({0, 0, 3000, 3000}, 5), Failure);
+    EXPECT_EQ(ShadowLines({0, 0, 2554, 3000}, 255), 255);
+    EXPECT_THROW(ShadowLines({0, 0, 2555, 3000}, 5), Failure);
+    EXPECT_THROW(ShadowLines({0, 0, 3000, 2555}, 5), Failure);
 }
 
 TEST(ShadowFade, RunsFromTheShadowTowardsTheBackgroundInRoundedSteps) {
