@@ -12,8 +12,9 @@
 
 namespace vorlane {
 
-// Mouse positions are in the container's scale, measured from the slide's own corner. Info... and ZoomMouseDown give
-// them in twips of the button; drags over the slide's bare ground give them in pixels.
+// Mouse positions are in the container's scale, measured from the slide's own corner; of moves over the zoom corner the
+// corner's twips are taken for pixels. Info... and ZoomMouseDown give twips of the button; drags over the slide's bare
+// ground give pixels.
 struct DiapoEvents {
     Event<int16_t> Click;  // Button
     Event<int16_t> DblClick;

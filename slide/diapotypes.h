@@ -24,10 +24,10 @@ enum class DiapoPictureIndex : int32_t {
     PicFileKind2 = 2,
     PicFileKind3 = 3,
     PicFileKind5 = 4,
-    PicBtPlay = 5,  // BtPlay of a picture file in the tools row
+    PicBtPlay = 5,  // BtPlay of a slide that is given music, and of a picture file shown with the tools row
     PicBtComment = 6,
     PicBtText = 7,
-    PicBtPlayPlain = 8,  // BtPlay in every other case
+    PicBtPlayPlain = 8,  // BtPlay of any other file when it is shown
 };
 
 }  // namespace vorlane

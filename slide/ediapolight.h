@@ -64,7 +64,7 @@ public:
     Image CornerResize{this};
     Image ImgInfo{this};
     Image Img{this};            // the picture; Tag holds the file's full path
-    OmbrelSlider Slider{this};  // how much the picture is reduced, in percent
+    OmbrelSlider Slider{this};  // how much the picture is reduced, in percent; named by its role, like Img
 
     // --- Operations ---
     // Shows a file: its picture, or the owner's substitute for other kinds and bad files, its name and its buttons. A

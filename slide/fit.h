@@ -24,10 +24,12 @@ struct FitRules {
 };
 
 // Fits a picture into area with its aspect kept and puts the result, in whole pixels, into fit. Fails with
-// DivisionByZero() for a picture without width or height; fit then holds what was computed so far.
+// DivisionByZero() for a picture without width, and for one without height in an area of negative height; fit then
+// holds what was computed so far.
 void FitPicture(PictureSize& fit, const PictureSize& picture, const AreaSize& area, const FitRules& rules);
 
-// The size of a thumbnail whose longest side is size; a positive side is at least 1. Fails like FitPicture.
+// The size of a thumbnail whose longest side is size; a positive side is at least 1. A negative size gives
+// negative sides. Fails with DivisionByZero() for a picture without width, and under a negative size without height.
 PictureSize FitThumbnail(const PictureSize& picture, int16_t size);
 
 }  // namespace vorlane

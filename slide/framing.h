@@ -8,7 +8,8 @@
 
 namespace vorlane {
 
-// The box of a frame, in pixels; X2 and Y2 lie just behind its last line.
+// The box of a frame, in pixels. Its right and bottom lines stand one pixel before X2 and Y2, where its shadow begins.
+// Of a sunken or raised frame the top line ends on X2 all the same, and both upright lines on Y2.
 struct FrameBox {
     double X1 = 0;
     double Y1 = 0;
