@@ -5,7 +5,6 @@ namespace vorlane {
 namespace {
 
 constexpr float kButtonSize = 16;
-constexpr float kCornerSize = 9;
 
 }  // namespace
 

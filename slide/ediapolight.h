@@ -30,15 +30,24 @@ namespace vorlane {
 
 class eDiapoLight final : public UserControl {
 public:
-    // One persisted property: how it is read, written and set in a new slide.
-    struct PersistedProperty {
+    // One persisted property. How it is read, and set in a new slide, is the slide's own affair.
+    class PersistedProperty {
+    public:
+        using Get = std::function<BagValue(const eDiapoLight&)>;
+
         std::string Key;
-        // The value that a missing key stands for, and that is not stored.
-        std::function<BagValue(const eDiapoLight&)> Default;
-        std::function<BagValue(const eDiapoLight&)> Value;
-        std::function<void(eDiapoLight&, const PropertyBag&)> Read;
-        // Sets the value of a new slide; empty where the slide's design has it already.
-        std::function<void(eDiapoLight&)> Initialize;
+        Get Default;  // the value that a missing key stands for, and that is not stored
+        Get Value;
+
+    private:
+        friend class eDiapoLight;
+        using ReadFrom = std::function<void(eDiapoLight&, const PropertyBag&)>;
+        using SetFresh = std::function<void(eDiapoLight&)>;
+
+        PersistedProperty(std::string key, Get otherwise, Get value, ReadFrom read, SetFresh initialize = {});
+
+        ReadFrom read_;
+        SetFresh initialize_;  // empty where the slide's design has the value of a new slide already
     };
     // All of them, in the order of reading.
     static const std::vector<PersistedProperty>& PersistedProperties();
@@ -305,6 +314,9 @@ private:
         float Top = 0;  // where it stood before
     };
     struct Measures;
+
+    // The side of the zoom corner and of the info button, pixels.
+    static constexpr float kCornerSize = 9;
 
     // persistence.cpp
     static std::vector<PersistedProperty> MakePersistedProperties();

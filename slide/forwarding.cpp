@@ -1,5 +1,8 @@
 // What the user does on the slide's children, passed on as the slide's own events.
+#include "platform/scale.h"
 #include "slide/ediapolight.h"
+
+#include <initializer_list>
 
 namespace vorlane {
 

@@ -1,5 +1,4 @@
 // The slide's frames and shadow on its surface.
-#include "platform/numbers.h"
 #include "slide/ediapolight.h"
 
 namespace vorlane {

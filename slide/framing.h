@@ -37,7 +37,8 @@ FrameColors ColorsOf(bool raised);
 uint8_t ShadowLines(const FrameBox& box, uint8_t shadowWidth);
 
 // A shadow's colours, from its inner edge outwards: each line adds the steps to the colour of the line before.
-struct ShadowFade {
+class ShadowFade {
+public:
     ShadowFade(const Rgb& shadow, const Rgb& background, uint8_t lines);
 
     // Fails with InvalidCall() where the rounded steps have led below 0.

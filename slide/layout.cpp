@@ -1,13 +1,13 @@
 // The layout: it computes the whole slide from its outer size and draws it. A statement that fails leaves the value
 // that it would have set as it was, and the next one runs.
 #include "platform/numbers.h"
+#include "platform/scale.h"
 #include "slide/ediapolight.h"
 
 namespace vorlane {
 
 namespace {
 
-constexpr double kInfoHeight = 9;
 // A picture shown smaller by more than this many pixels counts as reduced.
 constexpr float kReduced = 10;
 
@@ -85,7 +85,7 @@ void eDiapoLight::ComputeArea(Measures& measures) {
     const float width = ScaleWidth() - static_cast<float>(outer + margins);
     const float height =
         ScaleHeight() - static_cast<float>(outer) - LblBottom.Height() - LblTop.Height() - ImgInfo.Height();
-    Attempt([&] { ImgInfo.SetHeight(set.ShowInfo || set.ShowZoom ? kInfoHeight : 0); });
+    Attempt([&] { ImgInfo.SetHeight(set.ShowInfo || set.ShowZoom ? kCornerSize : 0); });
 
     WinRect& area = image_.Area;
     Attempt([&] { area.Top = ToInt32(ImgInfo.Height() + static_cast<float>(inner)); });

@@ -15,6 +15,14 @@ constexpr OLE_COLOR kDesignForeColor = 0;
 
 }  // namespace
 
+eDiapoLight::PersistedProperty::PersistedProperty(std::string key, Get otherwise, Get value, ReadFrom read,
+                                                  SetFresh initialize)
+    : Key(std::move(key)),
+      Default(std::move(otherwise)),
+      Value(std::move(value)),
+      read_(std::move(read)),
+      initialize_(std::move(initialize)) {}
+
 const std::vector<eDiapoLight::PersistedProperty>& eDiapoLight::PersistedProperties() {
     static const std::vector<PersistedProperty> table = MakePersistedProperties();
     return table;
@@ -43,7 +51,6 @@ std::vector<eDiapoLight::PersistedProperty> eDiapoLight::MakePersistedProperties
             [=](eDiapoLight& slide, const PropertyBag& bag) {
                 std::invoke(set, slide, Unboxed(bag, key, otherwise(slide)));
             },
-            {},
         };
     };
     const auto always = [](auto value) { return [value](const eDiapoLight&) { return value; }; };
@@ -57,7 +64,6 @@ std::vector<eDiapoLight::PersistedProperty> eDiapoLight::MakePersistedProperties
         [](eDiapoLight& slide, const PropertyBag& bag) {
             slide.SetForeColor(bag.ReadColor("ForeColor", slide.ForeColor()));
         },
-        {},
     };
 
     using S = Settings;
@@ -119,7 +125,7 @@ std::vector<eDiapoLight::PersistedProperty> eDiapoLight::MakePersistedProperties
 void eDiapoLight::InitProperties() {
     Attempt([&] { SetBackColor(kWhite); });
     for (const PersistedProperty& property : PersistedProperties()) {
-        if (property.Initialize) property.Initialize(*this);
+        if (property.initialize_) property.initialize_(*this);
     }
     settings_.ShowDiapoTools = false;
     Attempt([&] { ShowGround(Ambient().BackColor, false); });
@@ -129,7 +135,7 @@ void eDiapoLight::InitProperties() {
 // A value that can't be read leaves its property as it was.
 void eDiapoLight::ReadProperties(const PropertyBag& bag) {
     for (const PersistedProperty& property : PersistedProperties()) {
-        Attempt([&] { property.Read(*this, bag); });
+        Attempt([&] { property.read_(*this, bag); });
     }
     life_ = {true, true};
 }

@@ -1,5 +1,6 @@
 // From a file or a picture to a picture on the slide.
 #include "platform/numbers.h"
+#include "platform/scale.h"
 #include "slide/ediapolight.h"
 
 namespace vorlane {

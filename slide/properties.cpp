@@ -2,6 +2,8 @@
 #include "platform/numbers.h"
 #include "slide/ediapolight.h"
 
+#include <utility>
+
 namespace vorlane {
 
 template <class T>
