@@ -87,6 +87,30 @@ TEST_F(ForwardingTest, APressedButtonIsShiftedByOnePixelUntilItsRelease) {
               "slide Click 1\nslide ClickPlay true\n");
 }
 
+TEST_F(ForwardingTest, MovesOverTheButtonsAreMovesOverTheSlide) {
+    slide.SetShowDiapoTools(true);
+    slide.SetBtPlayVisible(true);
+    slide.SetBtCommentVisible(true);
+    slide.SetBtTextVisible(true);
+    slide.Refresh();
+    window.MouseTo(60, 130);
+    window.MouseTo(80, 131);
+    window.MouseTo(95, 132);
+    EXPECT_EQ(Slide(), "slide MouseMove 0 0 60,130\nslide MouseMove 0 0 80,131\nslide MouseMove 0 0 95,132\n");
+}
+
+// The button stands in the picture's corner.
+TEST_F(ForwardingTest, WithoutAToolsRowThePlayButtonIsPressedAndReleasedInItsPlace) {
+    slide.SetBtPlayVisible(true);
+    slide.Refresh();
+    ASSERT_EQ(Place(slide.BtPlay), "139,72.5 16x16");
+    window.Press(145, 80);
+    EXPECT_EQ(Place(slide.BtPlay), "140,73.5 16x16");
+    window.Release(145, 80);
+    EXPECT_EQ(Place(slide.BtPlay), "139,72.5 16x16");
+    EXPECT_EQ(Slide(), "slide MouseDown 1 0 145,80\nslide MouseUp 1 0 144,79\nslide Click 1\nslide ClickPlay false\n");
+}
+
 TEST_F(ForwardingTest, ALayoutWhileAButtonIsDownPutsItBackForGood) {
     slide.SetShowDiapoTools(true);
     slide.SetBtCommentVisible(true);
@@ -150,15 +174,20 @@ TEST_F(ForwardingTest, ADragOverAChildComesInTheSlidesPlaces) {
     slide.Events.OLEDragOver.connect(
         [&](DataObject&, int32_t& effect, int16_t button, int16_t shift, float x, float y, int16_t state) {
             effect = 2;
+            if (state == 1) return;
             desktop.trace.Add("slide OLEDragOver " + std::to_string(button) + " " + std::to_string(shift) + " " +
                               Short(x) + "," + Short(y) + " " + std::to_string(state));
         });
     slide.SetOLEDropMode(1);
-    DataObject data;
-    int32_t effect = 0;
-    window.Router().DragOver(data, effect, 1, 2, 50, 60);
-    EXPECT_EQ(Slide(), "slide OLEDragOver 1 2 50,60 0\nslide OLEDragOver 1 2 50,60 2\n");
-    EXPECT_EQ(effect, 2);
+    for (const Point place : {Point{50, 60}, Point{20, 105}, Point{20, 120}}) {
+        DataObject data;
+        int32_t effect = 0;
+        window.Router().DragOver(data, effect, 1, 2, static_cast<float>(place.X), static_cast<float>(place.Y));
+        const std::string over =
+            "slide OLEDragOver 1 2 " + std::to_string(place.X) + "," + std::to_string(place.Y) + " ";
+        EXPECT_EQ(Slide(), over + "0\n" + over + "2\n");
+        EXPECT_EQ(effect, 2);
+    }
 }
 
 TEST_F(ForwardingTest, ADropOnAChildComesInTheSlidesPlacesWithTheCallersData) {
@@ -171,8 +200,10 @@ TEST_F(ForwardingTest, ADropOnAChildComesInTheSlidesPlacesWithTheCallersData) {
     data.SetText("a.jpg");
     int32_t effect = 0;
     window.Router().DragDrop(data, effect, 1, 0, 20, 105);
+    window.Router().DragDrop(data, effect, 1, 0, 20, 120);
     window.Router().DragDrop(data, effect, 1, 0, 4, 139);
-    EXPECT_EQ(Slide(), "slide OLEDragDrop a.jpg 20,105\nslide OLEDragDrop a.jpg 4,139\n");
+    EXPECT_EQ(Slide(),
+              "slide OLEDragDrop a.jpg 20,105\nslide OLEDragDrop a.jpg 20,120\nslide OLEDragDrop a.jpg 4,139\n");
     EXPECT_EQ(effect, 1);
 }
 

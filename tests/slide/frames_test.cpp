@@ -8,13 +8,6 @@ namespace {
 
 class FramesTest : public LaidSlideTest {
 protected:
-    // What is drawn after a layout, one command a line, behind a line feed.
-    std::string Drawn() {
-        slide.Refresh();
-        const std::string dump = slide.Surface().dump();
-        return dump.substr(dump.find('\n'));
-    }
-
     void ShowPicture() {
         slide.SetPicture(Bitmap(300, 150));
         ASSERT_EQ(slide.Picture().Type(), 1);
@@ -265,22 +258,6 @@ Line 16,19.5 147,19.5 sys21
 Line 16,19.5 16,85.5 sys21
 Line 147,19.5 147,86.5 sys22
 Line 16,85.5 147,85.5 sys22
-)");
-}
-
-TEST_F(FramesTest, TheOuterFrameTakesEveryStyle) {
-    slide.SetBorderStyle(DiapoBorderStyle::BorderNone);
-    slide.SetBorderStyleExt(DiapoBorderStyle::BorderRaisedDouble);
-    slide.SetShowShadow(false);
-    EXPECT_EQ(Drawn(), R"(
-Line 0,0 160,0 sys20
-Line 0,0 0,140 sys20
-Line 159,0 159,140 sys16
-Line 0,139 159,139 sys16
-Line 1,1 158,1 sys22
-Line 1,1 1,138 sys22
-Line 158,1 158,139 sys21
-Line 1,138 158,138 sys21
 )");
 }
 

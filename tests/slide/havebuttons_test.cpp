@@ -77,6 +77,21 @@ TEST_F(HaveButtonsTest, CommentAndTextAskForTheirPictures) {
     EXPECT_TRUE(slide.BtTextVisible());
 }
 
+TEST_F(HaveButtonsTest, WhatIsTakenAwayTakesItsPictureAlong) {
+    OwnAnswers();
+    slide.SetHaveSoundMusic(true);
+    slide.SetHaveSoundComment(true);
+    slide.SetHaveTexte(true);
+    ASSERT_EQ(NameOf(slide.BtPlayPicture()) + NameOf(slide.BtCommentPicture()) + NameOf(slide.BtTextPicture()),
+              "owner5owner6owner7");
+    slide.SetHaveSoundMusic(false);
+    slide.SetHaveSoundComment(false);
+    slide.SetHaveTexte(false);
+    EXPECT_EQ(slide.BtPlayPicture().Type(), 0);
+    EXPECT_EQ(slide.BtCommentPicture().Type(), 0);
+    EXPECT_EQ(slide.BtTextPicture().Type(), 0);
+}
+
 TEST_F(HaveButtonsTest, UnderOnGetThumbSoundsAndTextOnlyStore) {
     slide.SetOnGetThumb(true);
     EXPECT_FALSE(LaysOut([&] {

@@ -235,6 +235,15 @@ TEST_F(LayoutTest, TheGaugeTellsThePercentageThatThePictureIsReduced) {
     EXPECT_EQ(slide.Slider.Value(), 90);
 }
 
+TEST_F(LayoutTest, WithoutAPictureTheGaugeStandsAtItsEndUnseen) {
+    slide.Slider.SetValue(7);
+    slide.Slider.SetVisible(true);
+    slide.Refresh();
+    EXPECT_EQ(slide.Slider.Value(), 100);
+    EXPECT_FALSE(slide.Slider.Visible());
+    EXPECT_EQ(Place(slide.Slider), "-1,0 9x98");
+}
+
 TEST_F(LayoutTest, WithoutShowJaugeTheGaugeIsHidden) {
     slide.SetPicture(Bitmap(300, 150));
     ASSERT_TRUE(slide.Slider.Visible());

@@ -70,6 +70,14 @@ TEST_F(PictureTest, AFileWithoutExtensionIsNamedWithATrailingPoint) {
     EXPECT_EQ(slide.ImageName(), "vacances.");
 }
 
+TEST_F(PictureTest, AFileIsKnownByItsPathWithAPointBehindABareName) {
+    EXPECT_EQ(eDiapoLight::KnownPath("/photos.d/vacances"), "/photos.d/vacances.");
+    EXPECT_EQ(eDiapoLight::KnownPath("/photos/.cachée"), "/photos/.cachée.");
+    for (const char* path : {"", "/photos/", "/photos/a.jpg", "/photos/vacances."}) {
+        EXPECT_EQ(eDiapoLight::KnownPath(path), path);
+    }
+}
+
 TEST_F(PictureTest, AFileWithoutExtensionIsShownWhateverPointsItsFolderHolds) {
     desktop.pictures.Add("/photos.d/vacances", 40, 30);
     slide.PictureByString("/photos.d/vacances");

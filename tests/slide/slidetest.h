@@ -114,6 +114,13 @@ protected:
         desktop.trace.Clear();
     }
 
+    // What is drawn after a layout, one command a line, behind a line feed.
+    std::string Drawn() {
+        slide.Refresh();
+        const std::string dump = slide.Surface().dump();
+        return dump.substr(dump.find('\n'));
+    }
+
     std::string LoadsAndEvents() { return desktop.trace.Take({"load", "resize", "slide"}); }
     std::string Shown() const { return NameOf(slide.Picture()); }
 };

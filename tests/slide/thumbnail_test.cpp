@@ -54,5 +54,11 @@ TEST_F(ThumbnailTest, ThumbOfNoSizeFailsAndIsReported) {
     EXPECT_EQ(LoadsAndEvents(), "resize bitmap 0x0\nslide Error 481 [Image incorrecte] Vorlane 0 [DpLight Thumb ]\n");
 }
 
+TEST_F(ThumbnailTest, ThumbOfANegativeSizeFailsAndIsReported) {
+    EXPECT_FALSE(slide.Thumb(Bitmap(300, 150), -5).has_value());
+    EXPECT_EQ(LoadsAndEvents(),
+              "resize bitmap -10x-5\nslide Error 481 [Image incorrecte] Vorlane 0 [DpLight Thumb ]\n");
+}
+
 }  // namespace
 }  // namespace vorlane::headless
