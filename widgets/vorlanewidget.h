@@ -246,6 +246,8 @@ public:
                    const QString& newPattern = {}, std::optional<int> stdSortArgs = {});
     int GetListIndexFromItemData(int key);
     int GetIndexFromKey(int key) const;
+    // On a criterion of the sort data, from 1; 0 stands for the last one.
+    void Sort(int argIndice = 0);
 
     // --- Display ---
     int StartLecture(const QString& startImageName = {}, int diapoKey = -1);
@@ -273,6 +275,7 @@ Q_SIGNALS:
     void OnInvalidPicture(int index, const QString& fileName);
     void OnScroll(int value, int* asValue);
     void OnTLClear();
+    void OnSorted();
     void OnTraitementFeedBack(int value, int max);
     void OnOLENewFileAdded(const QString& fileName, int* key, bool* cancel);
     void OnError(int number, const QString& description, const QString& source, int lastDllError,

@@ -184,6 +184,10 @@ int VorlaneWidget::GetIndexFromKey(int key) const {
     return Ask("GetIndexFromKey", -1, [&] { return sheet_.GetIndexFromKey(key); });
 }
 
+void VorlaneWidget::Sort(int argIndice) {
+    Do("Sort", [&] { sheet_.Sort(ToByte(argIndice)); });
+}
+
 // --- Display ---
 
 int VorlaneWidget::StartLecture(const QString& startImageName, int diapoKey) {

@@ -190,6 +190,23 @@ TEST_F(VorlaneWidgetTest, ItemsAreFoundByTheirKeys) {
     EXPECT_FALSE(right);
 }
 
+TEST_F(VorlaneWidgetTest, SortingReordersTheSlides) {
+    QSignalSpy sorted(&widget, &VorlaneWidget::OnSorted);
+    Show();
+    for (int i = 0; i < 3; ++i) {
+        const QString name = QString("%1.png").arg(2 - i);
+        widget.Add(Write(name, Plain(60, 40, ColorOf(2 - i))), QString::number(2 - i), 1000 + i);
+    }
+    widget.StartLecture();
+    EXPECT_EQ(Shown(0), ColorOf(2));
+    widget.SetSortedSens(ui::SortSens::ssAscending);
+    widget.Sort(1);
+    EXPECT_EQ(sorted.count(), 1);
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(Shown(i), ColorOf(i)) << i;
+    widget.Sort(256);
+    EXPECT_TRUE(errors.contains("VorlaneWidget Sort"));
+}
+
 TEST_F(VorlaneWidgetTest, SelectingASlideSelectsItsItem) {
     Show();
     AddPictures(3);
