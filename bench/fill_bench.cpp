@@ -1,5 +1,6 @@
 // Filling the 6 x 6 pool of a sheet from lists of any length: what it reads, binds, lays out and decodes, then what it
 // takes of time.
+#include "bench/countinglist.h"
 #include "platform/headless/window.h"
 #include "sheet/vorlane.h"
 
@@ -12,39 +13,6 @@
 namespace {
 
 using namespace vorlane;
-
-// The sheet's own kind of list as a host binds one, counting what is read from it.
-class CountingList final : public ListBox {
-public:
-    int32_t ListCount() const override { return items_.ListCount(); }
-    std::string List(int32_t index) const override {
-        ++reads;
-        return items_.List(index);
-    }
-    int32_t ListIndex() const override { return items_.ListIndex(); }
-    void SetListIndex(int32_t index) override { items_.SetListIndex(index); }
-    bool Selected(int32_t index) const override { return items_.Selected(index); }
-    void SetSelected(int32_t index, bool selected) override { items_.SetSelected(index, selected); }
-    int32_t SelCount() const override { return items_.SelCount(); }
-    bool SelItems(std::vector<int32_t>& indices) const override { return items_.SelItems(indices); }
-    int16_t MultiSelect() const override { return items_.MultiSelect(); }
-    vorlane::Hwnd Hwnd() const override { return items_.Hwnd(); }
-    void AddItem(std::string_view text) override { items_.AddItem(text); }
-    void AddItem(std::string_view text, int32_t index) override { items_.AddItem(text, index); }
-    void RemoveItem(int32_t index) override { items_.RemoveItem(index); }
-    void Clear() override { items_.Clear(); }
-    void SetList(int32_t index, std::string_view text) override { items_.SetList(index, text); }
-    int32_t ItemData(int32_t index) const override { return items_.ItemData(index); }
-    void SetItemData(int32_t index, int32_t data) override { items_.SetItemData(index, data); }
-    int32_t FindItemData(int32_t data) const override { return items_.FindItemData(data); }
-    int32_t NewIndex() const override { return items_.NewIndex(); }
-    bool Sorted() const override { return items_.Sorted(); }
-
-    mutable int64_t reads = 0;
-
-private:
-    MemoryListBox items_{12345};
-};
 
 constexpr int32_t kPictures = 97;  // names that the items take in turn; more than the pool has slides
 constexpr int32_t kWidth = 670;
@@ -74,7 +42,7 @@ struct Bench {
 
     headless::Desktop desktop;
     headless::Window window{desktop, {0, 0, kWidth, kHeight}};
-    CountingList list;
+    CountingList list{12345};
     Vorlane sheet{desktop.Roles(), window.Ambient()};
 };
 

@@ -91,6 +91,10 @@ public:
     // of the new item; 0 when nothing was added.
     int32_t Add(const std::string& imageName, const std::string& multipleDataSort, int32_t key = -1,
                 int32_t insertBefore = -1);
+    // Takes the item that slide index shows out of the list; the slides behind it close up. The last slide then takes
+    // the item behind the next one.
+    void Remove(int16_t index);
+    void RemoveAllSelected();
     // Unloads the slides and empties the sheet's own list; a list of the host's keeps its items.
     void Clear();
     // Clear and StartLecture: shows a host's list anew, and leaves an empty sheet otherwise.
@@ -287,6 +291,8 @@ public:
         Event<int16_t, const std::string&> InvalidPicture;           // Index, FileName
         Event<int32_t, int32_t&> Scroll;                             // Value, AsValue: the value last acted on
         Event<> TLClear;                                             // the sheet has been cleared
+        Event<int16_t, int32_t&> Removed;                            // Index or -1, Key: an item is about to go
+        Event<> TLRefresh;                                           // items have gone
         Event<> Sorted;                                              // Sort has come to its end
         Event<int32_t, int32_t> TraitementFeedBack;                  // Value, Max: how far a long operation is
         Event<const std::string&, int32_t&, bool&> OLENewFileAdded;  // FileName, Key, Cancel
@@ -367,6 +373,15 @@ private:
         int16_t Cursor;  // next slide
     };
     enum class Filled : uint8_t { Yes, Refused, Lost };  // Lost: a handler has taken the slide away
+
+    // What the slides showed when items began to go.
+    struct View {
+        int32_t Top;       // list index at slide 0
+        int16_t Slot;      // the first selected slide; 0 when there is none
+        int32_t SlotItem;  // its list index
+    };
+    // An item that is about to go.
+    struct Doomed;
 
     // A layout under way.
     struct Placement {
@@ -522,6 +537,18 @@ private:
     // sorting.cpp
     int16_t SortInt(uint8_t criterion, int32_t& anchor);
     int16_t AnchorSlot() const;
+
+    // removal.cpp
+    bool Stands(const ListBox& list, const Doomed& doomed) const;
+    bool TakeOut(ListBox& list, const Doomed& doomed, int16_t index);
+    void Renumber(int32_t removed);
+    bool CloseUp(int16_t index);
+    void RefillEnd(int32_t next);
+    void PullRow();
+    bool TakeOutAll(ListBox& list, const std::vector<int32_t>& items);
+    void AlignBar();
+    int16_t FirstSelected() const;
+    void ShowRest(const View& before, const std::vector<int32_t>& removed, bool undisturbed);
 
     // relayout.cpp
     void Resized() override { Resize(); }

@@ -106,6 +106,7 @@ protected:
     std::function<void(int32_t)> onFeedBack;
     std::function<void(int32_t&)> onScroll;
     std::function<void()> onSorted;
+    std::function<void(int32_t&)> onRemoved;
 
 private:
     static std::string NameOfFile(int32_t n) {
@@ -146,6 +147,11 @@ private:
             if (onScroll) onScroll(asValue);
         });
         events.TLClear.connect([this] { Say("TLClear"); });
+        events.Removed.connect([this](int16_t index, int32_t& key) {
+            Say("Removed " + std::to_string(index) + " key " + std::to_string(key));
+            if (onRemoved) onRemoved(key);
+        });
+        events.TLRefresh.connect([this] { Say("TLRefresh"); });
         events.Sorted.connect([this] {
             Say("Sorted");
             if (onSorted) onSorted();

@@ -33,6 +33,7 @@ public:
     }
     bool SelItems(std::vector<int32_t>& indices) const override {
         indices.clear();
+        if (mute) return false;
         for (int32_t i = 0; i < ListCount(); ++i) {
             if (At(i).selected) indices.push_back(i);
         }
@@ -70,6 +71,7 @@ public:
     mutable int32_t reads = 0;
     bool sorted = false;  // says that it keeps itself in order; it does not
     bool dead = false;    // can't tell whether it does
+    bool mute = false;    // can't tell which items are selected
 
 private:
     struct Item {
