@@ -142,7 +142,7 @@ bool Vorlane::FillSlots(Fill& fill) {
 }
 
 // A newer pass that ran meanwhile may have put another item on the slide, which is then that pass's own.
-Vorlane::Filled Vorlane::FillSlot(const Fill& fill, int32_t listIndex) {
+sheet::Filled Vorlane::FillSlot(const Fill& fill, int32_t listIndex) {
     const std::string name = ItemFullPath(listIndex);
     const int16_t cursor = fill.Cursor;
     const float token = pass_.LectToken;
@@ -238,7 +238,7 @@ bool Vorlane::Refused(std::string& imageName) {
 
 // The place behind the last slide. Without spreading, rows after the first start at the very left edge; the next
 // layout of all slides puts them right.
-Vorlane::NextCell Vorlane::FindNextCell(bool blank) {
+sheet::NextCell Vorlane::FindNextCell(bool blank) {
     const auto last = Last();
     const grid::Area& area = grid_.Area;
     const grid::Spread spread = SpreadCells(First().Width(), First().Height());

@@ -31,7 +31,7 @@ std::string Vorlane::ItemFullPath(int32_t index) const {
     return std::string(ItemFileName(list.List(index)));
 }
 
-std::optional<Vorlane::ListItem> Vorlane::NextItem(int32_t listIndex) const {
+std::optional<sheet::ListItem> Vorlane::NextItem(int32_t listIndex) const {
     if (listIndex >= ListCount() - 1) return std::nullopt;
     return ListItem{ItemFullPath(listIndex + 1), listIndex + 1};
 }

@@ -139,7 +139,7 @@ bool Vorlane::MayGoOn(const Placement& placement) const {
            placement.Token == pass_.LectToken && placement.Wanted == CountDiapo() && !pass_.StopLect;
 }
 
-Vorlane::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
+sheet::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
     std::string name;
     if (Diapo.Loaded(slot)) {
         name = Diapo.Item(slot)->ImageFullPath();
@@ -168,7 +168,7 @@ Vorlane::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
 }
 
 // Loads a slide for the item behind the last slide's, at run time; in a designer for nothing, if the host allows it.
-Vorlane::Placed Vorlane::MakeMissing(int16_t slot, std::string& name) {
+sheet::Placed Vorlane::MakeMissing(int16_t slot, std::string& name) {
     First().SetNoResize(true);
     const bool running = Ambient().UserMode;
     std::optional<ListItem> item;

@@ -24,10 +24,12 @@
 #include "platform/textbox.h"
 #include "platform/timer.h"
 #include "sheet/clsdiapo.h"
+#include "sheet/events.h"
 #include "sheet/grid.h"
 #include "sheet/itemtext.h"
 #include "sheet/log.h"
 #include "sheet/random.h"
+#include "sheet/state.h"
 #include "sheet/types.h"
 #include "slide/ediapolight.h"
 
@@ -277,133 +279,18 @@ public:
     const std::string& ToolTipBtText() const { return First().ToolTipBtText(); }
     void SetToolTipBtText(const std::string& text);
 
-    struct Events {
-        // A fill or a layout begins its work; it has ended, or was stopped. They need not pair up.
-        Event<> DisplayStart;
-        Event<> DisplayEnd;
-        // A slide is about to be made for a file: FileName, Extension, Cancel.
-        Event<std::string&, const std::string&, bool&> BeforeAdd;
-        // A slide has its file: Index, FileName.
-        Event<int16_t, const std::string&> Added;
-        // A slide is about to take a file; the host may hand over a thumbnail and the state of its sounds:
-        // Index, FileName, Picture, HaveSound, HaveComment, HaveTexte, InvalidMusic, InvalidCom.
-        Event<int16_t, const std::string&, vorlane::Picture&, bool&, bool&, bool&, bool&, bool&> BeforeSetPicture;
-        Event<int16_t, const std::string&> InvalidPicture;           // Index, FileName
-        Event<int32_t, int32_t&> Scroll;                             // Value, AsValue: the value last acted on
-        Event<> TLClear;                                             // the sheet has been cleared
-        Event<int16_t, int32_t&> Removed;                            // Index or -1, Key: an item is about to go
-        Event<> TLRefresh;                                           // items have gone
-        Event<> Sorted;                                              // Sort has come to its end
-        Event<int32_t, int32_t> TraitementFeedBack;                  // Value, Max: how far a long operation is
-        Event<const std::string&, int32_t&, bool&> OLENewFileAdded;  // FileName, Key, Cancel
-        // Number, Description, Source, LastDllError, Valeur: the log line
-        Event<int32_t, const std::string&, const std::string&, int32_t, const std::string&> Error;
-    } Events;
+    VorlaneEvents Events;
 
 private:
-    struct Grid {
-        int16_t CountDiapoX = 0;  // columns and rows of the pool
-        int16_t CountDiapoY = 0;
-        grid::Area Area;     // as last computed
-        int16_t MargeX = 0;  // present gaps between columns and rows
-        int16_t MargeY = 0;
-        int16_t Marges = 0;
-        int16_t MargeDiapoMin = 0;
-        bool MargeDiapoAutoAdjust = false;
-    };
-    struct Items {
-        ListControl* Liste = nullptr;  // the bound list; none once the sheet has ended
-        std::string Path;
-        std::string Pattern = "*.*";
-        bool ListAutoFill = false;
-        int32_t StdSortArgs = 30;   // what sort keys hold, a sum of SortArgsType
-        bool FromInit = false;      // Path and Pattern do not read the folder
-        bool InternalCopy = false;  // LstInterne is bound and wants filling from a folder
-        bool InInitListe = false;   // InitListe is running
-    };
-    struct Pass {
-        bool NoSlideYet = true;      // no slide was ever made: the first fill makes slide 0 too
-        int32_t FirstListIndex = 0;  // where the fill started last begins
-        float LectToken = 0;         // mark of the last started fill or layout
-        bool StopLect = false;       // a running fill or layout has to stop
-    };
-    struct Bar {
-        ScrollDirectionType ScrollDirection = ScrollDirectionType::sdVertical;
-        ScrollWindowPosType ScrollWindowPos = ScrollWindowPosType::swpOutside;
-        int16_t ScrollWindowWidth = 0;
-        OLE_COLOR ScrollWindowBackColor = 0;
-        int32_t ScrollValue = 0;     // bar value last acted on
-        bool InVScrollInit = false;  // the bar is being set up: its changes are no scrolls
-        bool JumpNext = false;       // the next change of the bar fills anew, however small it is
-        double WheelRest = 0;        // notches that do not make a whole one yet
-    };
-    struct Layout {
-        bool Ready = false;     // the properties are there; no resize counts before
-        bool NotShown = true;   // the control has not come to the screen yet
-        bool Resizing = false;  // a resize or a layout is under way
-    };
-    struct Selection {
-        int16_t CurrentSlot = -1;       // the current slide, -1 for none
-        int32_t CurrentListIndex = -1;  // its item
-        OLE_COLOR SelectedColor = 0;    // ground of selected slides, as it was when the sheet started
-        OLE_COLOR BackColorCurrent = 0;
-        bool SelectionMultiple = false;
-        bool BandActive = false;  // the rubber band is running
-    };
-    struct Gauge {
-        bool ShowJauge = false;
-        bool JaugeAnimation = false;
-    };
-    struct Sorting {
-        bool Sorted = false;
-        SortSensType SortedSens = SortSensType::ssNone;
-        uint8_t SortCurrent = 0;  // criterion last sorted on
-    };
-    struct Sound {
-        std::string AliasMusic;
-        std::string AliasComment;
-    };
-
-    // A fill under way.
-    struct Fill {
-        int32_t Start;   // first list index
-        int16_t Slot;    // first slide; -1 means 0
-        int16_t Count;   // slides to fill; -1 means as many as there are
-        int16_t Pool;    // pool size at its beginning
-        int16_t Cursor;  // next slide
-    };
-    enum class Filled : uint8_t { Yes, Refused, Lost };  // Lost: a handler has taken the slide away
-
-    // What the slides showed when items began to go.
-    struct View {
-        int32_t Top;       // list index at slide 0
-        int16_t Slot;      // the first selected slide; 0 when there is none
-        int32_t SlotItem;  // its list index
-    };
+    using Fill = sheet::Fill;
+    using Filled = sheet::Filled;
+    using View = sheet::View;
+    using Placement = sheet::Placement;
+    using Placed = sheet::Placed;
+    using NextCell = sheet::NextCell;
+    using ListItem = sheet::ListItem;
     // An item that is about to go.
     struct Doomed;
-
-    // A layout under way.
-    struct Placement {
-        int16_t Wanted;  // slides to lay out
-        float Token;     // LectToken at its beginning
-        double Width;    // slide size in force
-        double Height;
-        double X;  // next place
-        double Y;
-        double RowStart;
-        bool AtEnd;  // the list has no more items
-    };
-    enum class Placed : uint8_t { Yes, Skipped, AtEnd };
-
-    struct NextCell {
-        float X;
-        float Y;
-    };
-    struct ListItem {
-        std::string Name;
-        int32_t ListIndex;
-    };
 
     // lifecycle.cpp
     void Begin();
@@ -566,15 +453,15 @@ private:
     void UnloadExtraDiapos();
     void UnloadSurplus();
 
-    Grid grid_;
-    Items items_;
-    Pass pass_;
-    Bar bar_;
-    Layout layout_;
-    Selection selection_;
-    Gauge gauge_;
-    Sorting sort_;
-    Sound sound_;
+    sheet::Grid grid_;
+    sheet::Items items_;
+    sheet::Pass pass_;
+    sheet::Bar bar_;
+    sheet::Layout layout_;
+    sheet::Selection selection_;
+    sheet::Gauge gauge_;
+    sheet::Sorting sort_;
+    sheet::Sound sound_;
     std::string captionWait_;
     int16_t thumbnailSizeNormal_ = 0;
     int16_t oleDragMode_ = 0;

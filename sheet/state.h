@@ -1,0 +1,126 @@
+// What the contact sheet remembers, a struct a topic. A topic's room writes its own struct and only reads the others'.
+// Behind them stand the values of a fill, a layout and a removal under way.
+#pragma once
+
+#include "platform/color.h"
+#include "platform/listbox.h"
+#include "sheet/grid.h"
+#include "sheet/types.h"
+
+#include <cstdint>
+#include <string>
+
+namespace vorlane::sheet {
+
+struct Grid {
+    int16_t CountDiapoX = 0;  // columns and rows of the pool
+    int16_t CountDiapoY = 0;
+    grid::Area Area;     // as last computed
+    int16_t MargeX = 0;  // present gaps between columns and rows
+    int16_t MargeY = 0;
+    int16_t Marges = 0;
+    int16_t MargeDiapoMin = 0;
+    bool MargeDiapoAutoAdjust = false;
+};
+
+struct Items {
+    ListControl* Liste = nullptr;  // the bound list; none once the sheet has ended
+    std::string Path;
+    std::string Pattern = "*.*";
+    bool ListAutoFill = false;
+    int32_t StdSortArgs = 30;   // what sort keys hold, a sum of SortArgsType
+    bool FromInit = false;      // Path and Pattern do not read the folder
+    bool InternalCopy = false;  // LstInterne is bound and wants filling from a folder
+    bool InInitListe = false;   // InitListe is running
+};
+
+struct Pass {
+    bool NoSlideYet = true;      // no slide was ever made: the first fill makes slide 0 too
+    int32_t FirstListIndex = 0;  // where the fill started last begins
+    float LectToken = 0;         // mark of the last started fill or layout
+    bool StopLect = false;       // a running fill or layout has to stop
+};
+
+struct Bar {
+    ScrollDirectionType ScrollDirection = ScrollDirectionType::sdVertical;
+    ScrollWindowPosType ScrollWindowPos = ScrollWindowPosType::swpOutside;
+    int16_t ScrollWindowWidth = 0;
+    OLE_COLOR ScrollWindowBackColor = 0;
+    int32_t ScrollValue = 0;     // bar value last acted on
+    bool InVScrollInit = false;  // the bar is being set up: its changes are no scrolls
+    bool JumpNext = false;       // the next change of the bar fills anew, however small it is
+    double WheelRest = 0;        // notches that do not make a whole one yet
+};
+
+struct Layout {
+    bool Ready = false;     // the properties are there; no resize counts before
+    bool NotShown = true;   // the control has not come to the screen yet
+    bool Resizing = false;  // a resize or a layout is under way
+};
+
+struct Selection {
+    int16_t CurrentSlot = -1;       // the current slide, -1 for none
+    int32_t CurrentListIndex = -1;  // its item
+    OLE_COLOR SelectedColor = 0;    // ground of selected slides, as it was when the sheet started
+    OLE_COLOR BackColorCurrent = 0;
+    bool SelectionMultiple = false;
+    bool BandActive = false;  // the rubber band is running
+};
+
+struct Gauge {
+    bool ShowJauge = false;
+    bool JaugeAnimation = false;
+};
+
+struct Sorting {
+    bool Sorted = false;
+    SortSensType SortedSens = SortSensType::ssNone;
+    uint8_t SortCurrent = 0;  // criterion last sorted on
+};
+
+struct Sound {
+    std::string AliasMusic;
+    std::string AliasComment;
+};
+
+// A fill under way.
+struct Fill {
+    int32_t Start;   // first list index
+    int16_t Slot;    // first slide; -1 means 0
+    int16_t Count;   // slides to fill; -1 means as many as there are
+    int16_t Pool;    // pool size at its beginning
+    int16_t Cursor;  // next slide
+};
+enum class Filled : uint8_t { Yes, Refused, Lost };  // Lost: a handler has taken the slide away
+
+// What the slides showed when items began to go.
+struct View {
+    int32_t Top;       // list index at slide 0
+    int16_t Slot;      // the first selected slide; 0 when there is none
+    int32_t SlotItem;  // its list index
+};
+
+// A layout under way.
+struct Placement {
+    int16_t Wanted;  // slides to lay out
+    float Token;     // LectToken at its beginning
+    double Width;    // slide size in force
+    double Height;
+    double X;  // next place
+    double Y;
+    double RowStart;
+    bool AtEnd;  // the list has no more items
+};
+enum class Placed : uint8_t { Yes, Skipped, AtEnd };
+
+struct NextCell {
+    float X;
+    float Y;
+};
+
+struct ListItem {
+    std::string Name;
+    int32_t ListIndex;
+};
+
+}  // namespace vorlane::sheet
