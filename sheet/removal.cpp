@@ -132,10 +132,8 @@ void Vorlane::AlignBar() {
 // --- The selected items ---
 
 int16_t Vorlane::FirstSelected() const {
-    for (int16_t k = 0; k < Diapo.Count(); ++k) {
-        if (Diapo.Item(k)->Selected()) return k;
-    }
-    return 0;
+    const int16_t slot = FindSlide([](const eDiapoLight& slide) { return slide.Selected(); });
+    return slot < 0 ? int16_t{0} : slot;
 }
 
 void Vorlane::RemoveAllSelected() {
