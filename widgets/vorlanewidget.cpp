@@ -49,6 +49,8 @@ void VorlaneWidget::ConnectEvents() {
         [this](int16_t index, const std::string& fileName) { Q_EMIT OnAdded(index, FromText(fileName)); });
     events.Scroll.connect([this](int32_t value, int32_t& asValue) { Q_EMIT OnScroll(value, &asValue); });
     events.TLClear.connect([this] { Q_EMIT OnTLClear(); });
+    events.Removed.connect([this](int16_t index, int32_t& key) { Q_EMIT OnRemoved(index, &key); });
+    events.TLRefresh.connect([this] { Q_EMIT OnTLRefresh(); });
     events.Sorted.connect([this] { Q_EMIT OnSorted(); });
     events.TraitementFeedBack.connect([this](int32_t value, int32_t max) { Q_EMIT OnTraitementFeedBack(value, max); });
     events.OLENewFileAdded.connect([this](const std::string& fileName, int32_t& key, bool& cancel) {

@@ -9,6 +9,7 @@
 #include "platform/failure.h"
 #include "platform/qt/controlhost.h"
 #include "widgets/enums.h"
+#include "widgets/vorlanelist.h"
 
 #include <optional>
 
@@ -17,6 +18,7 @@
 #include <QImage>
 #include <QPixmap>
 #include <QPointF>
+#include <QRectF>
 #include <QString>
 
 namespace vorlane {
@@ -239,11 +241,19 @@ public:
     void SetCaptionBottom(int index, const QString& text);
     int Key(int listIndex) const;
     QString ImageFullPath(int listIndex) const;
+    // The list index that a slide shows, -1 for none; and where it lies, empty for a slide that isn't shown.
+    int Value(int index) const;
+    QRectF DiapoRect(int index) const;
 
     // --- Items ---
     int Add(const QString& imageName, const QString& multipleDataSort = {}, int key = -1, int insertBefore = -1);
     void InitListe(ui::ListeMode mode, ListControl* newList = nullptr, const QString& newPath = {},
                    const QString& newPattern = {}, std::optional<int> stdSortArgs = {});
+    // The bound list.
+    VorlaneList Liste() const;
+    // Takes the item of a slide, or all selected items, off the list; the slides close up.
+    void Remove(int index);
+    void RemoveAllSelected();
     int GetListIndexFromItemData(int key);
     int GetIndexFromKey(int key) const;
     // On a criterion of the sort data, from 1; 0 stands for the last one.
@@ -275,6 +285,8 @@ Q_SIGNALS:
     void OnInvalidPicture(int index, const QString& fileName);
     void OnScroll(int value, int* asValue);
     void OnTLClear();
+    void OnRemoved(int index, int* key);
+    void OnTLRefresh();
     void OnSorted();
     void OnTraitementFeedBack(int value, int max);
     void OnOLENewFileAdded(const QString& fileName, int* key, bool* cancel);

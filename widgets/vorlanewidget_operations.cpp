@@ -147,7 +147,30 @@ QString VorlaneWidget::ImageFullPath(int listIndex) const {
     return Ask("ImageFullPath", QString(), [&] { return FromText(sheet_.ImageFullPath(listIndex)); });
 }
 
+int VorlaneWidget::Value(int index) const {
+    return Ask("Value", -1, [&] { return sheet_.Diapo.Item(index)->Value(); });
+}
+
+QRectF VorlaneWidget::DiapoRect(int index) const {
+    return Ask("DiapoRect", QRectF(), [&] {
+        const auto slide = sheet_.Diapo.Item(index);
+        return slide->Visible() ? QRectF(slide->Left(), slide->Top(), slide->Width(), slide->Height()) : QRectF();
+    });
+}
+
 // --- Items ---
+
+VorlaneList VorlaneWidget::Liste() const {
+    return VorlaneList(sheet_.Liste());
+}
+
+void VorlaneWidget::Remove(int index) {
+    Do("Remove", [&] { sheet_.Remove(ToInt16(index)); });
+}
+
+void VorlaneWidget::RemoveAllSelected() {
+    Do("RemoveAllSelected", [&] { sheet_.RemoveAllSelected(); });
+}
 
 int VorlaneWidget::Add(const QString& imageName, const QString& multipleDataSort, int key, int insertBefore) {
     return Ask("Add", 0, [&] { return sheet_.Add(ToText(imageName), ToText(multipleDataSort), key, insertBefore); });
