@@ -54,6 +54,9 @@ Failure ControlAlreadyLoaded() {
 Failure InvalidProperty() {
     return {380, "Valeur de propriété incorrecte"};
 }
+Failure DuplicateKey() {
+    return {457, "Cette clé est déjà associée à un élément de la collection"};
+}
 Failure InvalidPicture() {
     return {481, "Image incorrecte"};
 }

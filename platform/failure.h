@@ -40,6 +40,7 @@ Failure ObjectNotSet();                         // 91
 Failure ControlNotLoaded();                     // 340
 Failure ControlAlreadyLoaded();                 // 360
 Failure InvalidProperty();                      // 380
+Failure DuplicateKey();                         // 457
 Failure InvalidPicture();                       // 481
 
 }  // namespace failures
