@@ -14,6 +14,9 @@ namespace vorlane {
 inline BagValue Boxed(bool value) {
     return value;
 }
+inline BagValue Boxed(float value) {
+    return static_cast<double>(value);
+}
 inline BagValue Boxed(const std::string& value) {
     return value;
 }
@@ -43,6 +46,9 @@ inline int32_t Unboxed(const PropertyBag& bag, std::string_view key, int32_t oth
 }
 inline OLE_COLOR Unboxed(const PropertyBag& bag, std::string_view key, OLE_COLOR otherwise) {
     return bag.ReadColor(key, otherwise);
+}
+inline float Unboxed(const PropertyBag& bag, std::string_view key, float otherwise) {
+    return bag.ReadSingle(key, otherwise);
 }
 inline std::string Unboxed(const PropertyBag& bag, std::string_view key, const std::string& otherwise) {
     return bag.ReadText(key, otherwise);

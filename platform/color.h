@@ -14,6 +14,7 @@ enum class SystemColor : uint8_t {
     Window = 5,
     WindowFrame = 6,
     WindowText = 8,
+    ActiveBorder = 10,
     Highlight = 13,
     HighlightText = 14,
     ButtonFace = 15,
@@ -25,6 +26,7 @@ enum class SystemColor : uint8_t {
     Light = 22,
     InfoText = 23,
     InfoBackground = 24,
+    GradientInactiveCaption = 28,
 };
 
 constexpr OLE_COLOR FromSystem(SystemColor color) {

@@ -17,6 +17,8 @@
 
 namespace vorlane {
 
+class Region;
+
 // Names a window of the desktop, 0 for none.
 using Hwnd = int32_t;
 
@@ -91,6 +93,8 @@ public:
     // Repaints part of the window, in its own pixels, before returning when flags say so (256: update now; 64: not
     // its children; 1: count it as changed).
     virtual void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) = 0;
+    // The part of the window that there is, in its pixels. It replaces the former one and stays through later moves.
+    virtual void SetWindowRgn(Hwnd window, const Region& region, bool redraw) = 0;
 };
 
 // Messages to the user.
@@ -151,6 +155,7 @@ public:
 
 class Films;          // picture files that may move, see film.h
 class Forms;          // small windows of the library's own, see forms.h
+class Menus;          // popup menus, see menus.h
 class SharedObjects;  // what the controls of a desktop share, see sharedobjects.h
 class Tooltips;       // tooltip windows, see tooltips.h
 
@@ -168,6 +173,7 @@ struct Desktop {
     Forms& forms;
     Films& films;
     Tooltips& tooltips;
+    Menus& menus;
     SharedObjects& shared;
 };
 

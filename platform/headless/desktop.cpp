@@ -29,6 +29,7 @@ std::string Desktop::Leaks() const {
     const int32_t others = windows.OpenWindows() - forms.OpenForms();
     if (others > 0) leaks += "open windows: " + std::to_string(others) + "\n";
     if (forms.ShownForms() > 0) leaks += "shown forms: " + std::to_string(forms.ShownForms()) + "\n";
+    if (menus.OpenMenus() > 0) leaks += "open menus: " + std::to_string(menus.OpenMenus()) + "\n";
     if (screen.Captured() != 0) leaks += "captured by window " + std::to_string(screen.Captured()) + "\n";
     return leaks;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/headless/fakeforms.h"
+#include "platform/headless/fakemenus.h"
 #include "platform/headless/faketooltips.h"
 #include "platform/headless/roles.h"
 #include "platform/sharedobjects.h"
@@ -22,7 +23,7 @@ public:
 
     vorlane::Desktop Roles() {
         return {clock,  screen, keyboard, metrics, windows,  dialogs, pictures,
-                sounds, texts,  forms,    films,   tooltips, shared};
+                sounds, texts,  forms,    films,   tooltips, menus,   shared};
     }
 
     // What is still running, one line each; empty when all is released.
@@ -41,6 +42,7 @@ public:
     FakeForms forms{trace, windows};
     FakeFilms films{trace};
     FakeTooltips tooltips{trace, windows};
+    FakeMenus menus{trace};
     SharedObjects shared;
 
     std::function<void(const std::string& leaks)> OnLeak;

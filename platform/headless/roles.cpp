@@ -2,6 +2,7 @@
 
 #include "platform/failure.h"
 #include "platform/numbers.h"
+#include "platform/region.h"
 
 #include <algorithm>
 #include <array>
@@ -87,6 +88,10 @@ OLE_COLOR FakeScreen::SysColor(int32_t number) const {
         case SystemColor::ScrollBar:
         case SystemColor::ButtonFace:
             return 0xF0F0F0;
+        case SystemColor::ActiveBorder:
+            return 0xB4B4B4;
+        case SystemColor::GradientInactiveCaption:
+            return 0xF0DCC8;
         case SystemColor::Light:
             return 0xE3E3E3;
         case SystemColor::ButtonShadow:
@@ -165,6 +170,10 @@ Point FakeWindows::ClientToScreen(Hwnd window, Point place) const {
 
 void FakeWindows::RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) {
     trace_.Add("redraw " + std::to_string(window) + " " + Spelled(part) + " " + std::to_string(flags));
+}
+
+void FakeWindows::SetWindowRgn(Hwnd window, const Region& region, bool redraw) {
+    trace_.Add("region " + std::to_string(window) + " " + region.dump() + (redraw ? " redraw" : ""));
 }
 
 void FakeDialogs::MsgBox(std::string_view text, int32_t style, std::string_view caption) {

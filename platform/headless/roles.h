@@ -103,6 +103,8 @@ public:
     WinRect GetClientRect(Hwnd window) const override;
     Point ClientToScreen(Hwnd window, Point place) const override;
     void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) override;
+    // "region <window> <shape>", with " redraw" behind.
+    void SetWindowRgn(Hwnd window, const Region& region, bool redraw) override;
 
 private:
     Trace& trace_;

@@ -2,6 +2,7 @@
 
 #include "platform/numbers.h"
 #include "platform/qt/colors.h"
+#include "platform/qt/regions.h"
 #include "platform/qt/widgetpainting.h"
 #include "platform/usercontrol.h"
 
@@ -20,18 +21,6 @@ namespace {
 
 constexpr int kMillisecondsAStep = 16;
 constexpr int kMostSteps = 10;
-
-QRegion ToQRegion(const Region& region) {
-    QRegion whole;
-    for (const auto& shape : region.Shapes()) {
-        QRegion part;
-        for (const WinRect& row : shape) {
-            part += QRect(QPoint(row.Left, row.Top), QPoint(row.Right - 1, row.Bottom - 1));
-        }
-        whole ^= part;
-    }
-    return whole;
-}
 
 }  // namespace
 

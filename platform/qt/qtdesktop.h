@@ -8,6 +8,7 @@
 #include "platform/qt/qtfilms.h"
 #include "platform/qt/qtforms.h"
 #include "platform/qt/qtkeyboard.h"
+#include "platform/qt/qtmenus.h"
 #include "platform/qt/qtpictures.h"
 #include "platform/qt/qtscreen.h"
 #include "platform/qt/qtsounds.h"
@@ -36,7 +37,7 @@ public:
 
     Desktop Roles() {
         return {clock,  screen, keyboard, metrics, windows,  dialogs, pictures,
-                sounds, texts,  forms,    films,   tooltips, shared};
+                sounds, texts,  forms,    films,   tooltips, menus,   shared};
     }
     PaintTools Tools() { return {screen, metrics, scaled}; }
 
@@ -53,6 +54,7 @@ public:
     QtForms forms{windows, Tools()};
     QtFilms films{pictures};
     QtTooltips tooltips{windows, screen};
+    QtMenus menus{windows};
     SharedObjects shared;
 };
 

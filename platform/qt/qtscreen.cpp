@@ -37,6 +37,9 @@ QColor ThemeColor(const QPalette& theme, SystemColor color) {
             return theme.color(QPalette::Light);
         case SystemColor::DarkShadow:
             return theme.color(QPalette::Shadow);
+        case SystemColor::ActiveBorder:
+            return theme.color(QPalette::Mid);
+        case SystemColor::GradientInactiveCaption:
         case SystemColor::Light:
             return theme.color(QPalette::Midlight);
         case SystemColor::InfoText:

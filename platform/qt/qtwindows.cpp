@@ -1,5 +1,7 @@
 #include "platform/qt/qtwindows.h"
 
+#include "platform/qt/regions.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 
@@ -57,6 +59,19 @@ void QtWindows::RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) {
     if (now) return QCoreApplication::sendPostedEvents(widget->window(), QEvent::UpdateRequest);
     if ((flags & kInvalidate) != 0)
         widget->update(QRect(part.Left, part.Top, part.Right - part.Left, part.Bottom - part.Top));
+}
+
+void QtWindows::SetWindowRgn(Hwnd window, const Region& region, bool redraw) {
+    QWidget* widget = WidgetOf(window);
+    if (widget == nullptr) return;
+    const QRegion shape = ToQRegion(region);
+    if (shape == QRegion(widget->rect())) {
+        if (!widget->mask().isEmpty()) widget->clearMask();
+    } else if (shape != widget->mask()) {
+        // An empty mask would mean the whole window.
+        widget->setMask(shape.isEmpty() ? QRegion(-1, -1, 1, 1) : shape);
+    }
+    if (redraw) widget->update();
 }
 
 void QtWindows::Forget() {

@@ -22,6 +22,7 @@ public:
     Point ClientToScreen(Hwnd window, Point place) const override;
     // At once: all that has changed in the widget's window, wherever it is.
     void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) override;
+    void SetWindowRgn(Hwnd window, const Region& region, bool redraw) override;
 
 private:
     void Forget();
