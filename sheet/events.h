@@ -28,6 +28,9 @@ struct VorlaneEvents {
     Event<> Sorted;                                              // Sort has come to its end
     Event<int32_t, int32_t> TraitementFeedBack;                  // Value, Max: how far a long operation is
     Event<const std::string&, int32_t&, bool&> OLENewFileAdded;  // FileName, Key, Cancel
+    Event<int16_t> AfterDropAdd;                                 // NumberOfFilesAdded, by a drop from outside
+    Event<int32_t&> OLECompleteDrag;                             // Effect: a drag that started here has ended
+    Event<int16_t&, int16_t> KeyDown;                            // KeyCode, Shift
     // Number, Description, Source, LastDllError, Valeur: the log line
     Event<int32_t, const std::string&, const std::string&, int32_t, const std::string&> Error;
 };
