@@ -181,13 +181,14 @@ void Vorlane::Rebind(int16_t cursor, const std::string& name, int32_t listIndex)
     if (SetDiapoPicture(cursor, name)) Events.Added(cursor, name);
 }
 
-// A slide that comes to show while the rubber band runs takes part in its selection.
-void Vorlane::SweepByBand(eDiapoLight& slide) const {
-    if (!selection_.BandActive) return;
-    if (!grid::BandTouches(SelRect.Bounds(), {slide.Col(), slide.Lig(), slide.Width(), slide.Height()})) return;
-    slide.SetBackColorSelected(selection_.SelectedColor);
-    slide.SetSelected(true);
-    slide.SetSelectedTmp(true);
+// A slide that takes an item while the rubber band runs is swept if the band touches it, and its item with it.
+void Vorlane::SweepByBand(eDiapoLight& slide) {
+    if (!band_.Active) return;
+    const bool swept = grid::BandTouches(SelRect.Bounds(), {slide.Col(), slide.Lig(), slide.Width(), slide.Height()});
+    slide.SetSelectedTmp(swept);
+    if (!swept) return;
+    Select(slide, GroundOf(slide.Value()), true);
+    SelectItem(slide.Value(), true);
 }
 
 // --- One slide ---

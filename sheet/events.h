@@ -30,7 +30,21 @@ struct VorlaneEvents {
     Event<const std::string&, int32_t&, bool&> OLENewFileAdded;  // FileName, Key, Cancel
     Event<int16_t> AfterDropAdd;                                 // NumberOfFilesAdded, by a drop from outside
     Event<int32_t&> OLECompleteDrag;                             // Effect: a drag that started here has ended
-    Event<int16_t&, int16_t> KeyDown;                            // KeyCode, Shift
+
+    // The user's mouse and keys. Positions are in the container's scale, measured from the sheet's corner.
+    Event<int16_t, int16_t, float, float> MouseDown;  // Button, Shift, x, Y
+    Event<int16_t, int16_t, float, float> MouseMove;
+    Event<int16_t, int16_t, float, float> MouseUp;
+    Event<int16_t> MouseEnter;  // Index of the slide that the mouse has come to, or leaves
+    Event<int16_t> MouseExit;
+    Event<int16_t, const Picture&, const std::string&, int16_t> Click;  // Index, Picture, FileName, Button
+    Event<int16_t, const Picture&, const std::string&, int16_t> DblClick;
+    Event<int16_t> BackgroundClick;  // Button
+    Event<int16_t> BackgroundDblClick;
+    Event<int16_t&, int16_t> KeyDown;  // KeyCode, Shift; once while a key is held
+    Event<int16_t&> KeyPress;          // KeyAscii
+    Event<int16_t&, int16_t> KeyUp;    // KeyCode, Shift
+
     // Number, Description, Source, LastDllError, Valeur: the log line
     Event<int32_t, const std::string&, const std::string&, int32_t, const std::string&> Error;
 };

@@ -15,23 +15,6 @@ int16_t Vorlane::CountAffiché() const {
     return ToInt16(Diapo.Count());
 }
 
-int32_t Vorlane::CountSelected() const {
-    return Bound().SelCount();
-}
-
-int16_t Vorlane::CurrentDiapo() const {
-    return FindSlide([this](const eDiapoLight& slide) { return slide.BackColor() == selection_.BackColorCurrent; });
-}
-
-void Vorlane::SetSelected(int16_t index, bool selected) {
-    const auto slide = Diapo.Item(index);
-    slide->SetBackColorSelected(selection_.BackColorCurrent);
-    slide->SetSelected(selected);
-    selection_.CurrentSlot = selected ? index : int16_t{-1};
-    selection_.CurrentListIndex = selected ? slide->Value() : -1;
-    Bound().SetSelected(slide->Value(), selected);
-}
-
 // --- Setters that do more than store ---
 
 void Vorlane::SetBackColor(OLE_COLOR color) {

@@ -1,30 +1,12 @@
 // The slides of the pool: making, blanking and copying them, and answering what they ask.
 #include "platform/numbers.h"
+#include "sheet/slidemember.h"
 #include "sheet/vorlane.h"
 
 namespace vorlane {
 
-namespace {
-
-// A slide as an element of the pool. Whoever works on a slide holds it, also when it has been unloaded and its index is
-// gone or another slide's.
-struct Member {
-    const ControlArray<eDiapoLight>& Pool;
-    const eDiapoLight& Slide;
-    int16_t Index;
-
-    bool Loaded() const { return Pool.Loaded(Index) && Pool.Item(Index).get() == &Slide; }
-};
-
-// Connects a handler that hears the slide for as long as it is in the pool.
-template <class... Args, class Handler>
-void Hear(Event<Args...>& event, const Member& member, Handler handler) {
-    event.connect([member, handler](Args... args) {
-        if (member.Loaded()) handler(args...);
-    });
-}
-
-}  // namespace
+using sheet::Hear;
+using sheet::SlideMember;
 
 // --- The pool ---
 
@@ -118,7 +100,7 @@ void Vorlane::RecolourCopy(eDiapoLight& slide, int16_t index) {
 // --- What a slide asks and tells ---
 
 void Vorlane::ConnectSlide(eDiapoLight& slide, int16_t index) {
-    const Member member{Diapo, slide, index};
+    const SlideMember member{Diapo, slide, index};
     Hear(slide.Events.GetKey, member, [this, &slide](int32_t& key) {
         key = -1;
         Attempt([&] { key = KeyOf(slide).value_or(-1); });
@@ -143,6 +125,7 @@ void Vorlane::ConnectSlide(eDiapoLight& slide, int16_t index) {
                        const std::string& valeur) {
              Events.Error(number, description, source, lastDllError, valeur + " - Index=" + std::to_string(index));
          });
+    ConnectSlideMouse(member);
 }
 
 std::optional<int32_t> Vorlane::KeyOf(const eDiapoLight& slide) const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/color.h"
+#include "platform/geometry.h"
 #include "platform/listbox.h"
 #include "sheet/grid.h"
 #include "sheet/types.h"
@@ -61,10 +62,31 @@ struct Layout {
 struct Selection {
     int16_t CurrentSlot = -1;       // the current slide, -1 for none
     int32_t CurrentListIndex = -1;  // its item
+    int32_t AnchorListIndex = 0;    // item toggled last without Shift: where a Shift range begins
     OLE_COLOR SelectedColor = 0;    // ground of selected slides, as it was when the sheet started
     OLE_COLOR BackColorCurrent = 0;
     bool SelectionMultiple = false;
-    bool BandActive = false;  // the rubber band is running
+};
+
+// The user's mouse and keys.
+struct Mouse {
+    int16_t HoverSlot = -1;      // the slide under the mouse, -1 for none
+    int16_t LastButton = 0;      // of the last press on the ground
+    bool InMouseDown = false;    // a press on a slide is being handled
+    bool KeptSelection = false;  // the last press on a slide left the selection as it was
+    bool DragArmed = false;      // a move may become a drag
+    int32_t DownX = 0;           // where it was armed, in twips of the slide
+    int32_t DownY = 0;
+    bool KeyHeld = false;  // a key is down and has been heard
+};
+
+// The rubber band.
+struct Band {
+    bool Active = false;
+    int32_t StartX = 0;  // its anchor, in pixels of the sheet; moves along while the sheet scrolls
+    int32_t StartY = 0;
+    Box Rect;                    // whole pixels
+    bool AutoScrolling = false;  // it is scrolling the sheet
 };
 
 struct Gauge {

@@ -44,6 +44,12 @@
 
 namespace vorlane {
 
+enum class BandSide : uint8_t;
+
+namespace sheet {
+struct SlideMember;
+}  // namespace sheet
+
 class Vorlane final : public UserControl {
 public:
     // One persisted property: how it is read and written.
@@ -130,16 +136,29 @@ public:
         return First().Thumb(picture, resolution);
     }
 
+    // --- Selection ---
+    // The list holds the selection of all items; the slides show it.
+    void SelectAll();
+    void SelectInvert();
+    // Leaves no item selected, but for that of the excepted slide (-1: none), and no slide current.
+    void SelectedClear(int16_t exceptedIndex = -1);
+    int32_t CountSelected() const;
+    // List indices of the selected items, ascending.
+    std::vector<int32_t> SelectedTableau() const;
+    // The first slide on the ground of BackColorCurrent, which is the mark of the current slide; -1 for none. Setting
+    // it leaves nothing selected and plays a click on the slide; an index without a slide does nothing at all.
+    int16_t CurrentDiapo() const;
+    void SetCurrentDiapo(int16_t index);
+    // Selects the slide and its item and makes it current, or leaves none current.
+    bool Selected(int16_t index) const { return Diapo.Item(index)->Selected(); }
+    void SetSelected(int16_t index, bool selected);
+
     // --- State ---
     int16_t Count() const;  // items; fails with Overflow() beyond 16 bits
     int16_t CountDiapo() const { return grid::PoolSize(grid_.CountDiapoX, grid_.CountDiapoY); }
     int16_t CountDiapoX() const { return grid_.CountDiapoX; }
     int16_t CountDiapoY() const { return grid_.CountDiapoY; }
-    int16_t CountAffiché() const;   // loaded slides
-    int32_t CountSelected() const;  // selected items
-    int16_t CurrentDiapo() const;   // first slide on the ground of BackColorCurrent, -1 for none
-    bool Selected(int16_t index) const { return Diapo.Item(index)->Selected(); }
-    void SetSelected(int16_t index, bool selected);
+    int16_t CountAffiché() const;  // loaded slides
     int32_t hDC() const { return Hwnd(); }
     ListControl* Liste() const { return items_.Liste; }  // nullptr once the sheet has ended
 
@@ -391,7 +410,7 @@ private:
     bool MayGoOn(const Fill& fill) const;
     Filled FillSlot(const Fill& fill, int32_t listIndex);
     void Rebind(int16_t cursor, const std::string& name, int32_t listIndex);
-    void SweepByBand(eDiapoLight& slide) const;
+    void SweepByBand(eDiapoLight& slide);
     bool Blank() const;
     int16_t AddInterne(const std::string& imageName, int32_t listIndex, bool silent);
     bool Refused(std::string& imageName);
@@ -437,6 +456,57 @@ private:
     int16_t FirstSelected() const;
     void ShowRest(const View& before, const std::vector<int32_t>& removed, bool undisturbed);
 
+    // interaction/selection.cpp
+    void Select(eDiapoLight& slide, OLE_COLOR ground, bool selected) const;
+    OLE_COLOR GroundOf(int32_t listIndex) const;
+    void SelectItem(int32_t listIndex, bool selected);
+    int32_t SelectedItems() const;
+    void SetCurrent(int16_t index);
+    void TakeMarkFromOthers(int16_t index);
+    template <class Wanted>
+    void SelectItems(Wanted&& wanted);
+    void ClearItems(int16_t exceptedIndex);
+    MemoryListBox* UnwatchedList() const;
+
+    // interaction/mouse.cpp
+    void ConnectSlideMouse(const sheet::SlideMember& member);
+    bool CtrlDown() const;
+    bool ShiftDown() const;
+    void SlideMouseDown(int16_t index, int16_t button, int16_t shift, float x, float y);
+    void SlideMouseMove(int16_t index, int16_t button, int16_t shift, float x, float y);
+    void SlideMouseUp(int16_t index, int16_t button, int16_t shift, float x, float y);
+    void PressOn(int16_t index, int16_t button, float x, float y);
+    void SelectRange(int16_t index);
+    void LeaveOthers(int16_t index);
+    void LeaveOnlySelected(int16_t index);
+    void Toggle(int16_t index);
+    void ReleaseOn(int16_t index);
+    void HoverOn(int16_t index);
+    void Arm(float x, float y);
+    bool StartsDrag(float x, float y) const;
+    void StartDrag(float x, float y);
+    using MouseEvent = Event<int16_t, int16_t, float, float>;
+    void RaiseFrom(const eDiapoLight& slide, const MouseEvent& event, int16_t button, int16_t shift, float x, float y);
+
+    // interaction/mouseground.cpp
+    void ConnectGround();
+    void GroundMouseDown(int16_t button, int16_t shift, float x, float y);
+    void GroundMouseMove(int16_t button, int16_t shift, float x, float y);
+    void GroundMouseUp(int16_t button, int16_t shift, float x, float y);
+    void KeyDown(int16_t& code, int16_t shift);
+    void KeyPress(int16_t& ascii);
+    void KeyUp(int16_t& code, int16_t shift);
+
+    // interaction/band.cpp
+    void StartBand(float x, float y);
+    void EndBand();
+    void UpdateBand(float x, float y, bool fromScroll);
+    void SweepSlide(eDiapoLight& slide);
+    bool ScrollByBand(float x, float y);
+    void MoveAnchor(BandSide side);
+    void SelectAtSide(BandSide side);
+    void SweepAtSide(int16_t index, bool swept);
+
     // relayout.cpp
     void Resized() override { Resize(); }
     void Resize();
@@ -459,6 +529,8 @@ private:
     sheet::Bar bar_;
     sheet::Layout layout_;
     sheet::Selection selection_;
+    sheet::Mouse mouse_;
+    sheet::Band band_;
     sheet::Gauge gauge_;
     sheet::Sorting sort_;
     sheet::Sound sound_;

@@ -6,6 +6,7 @@
 #include "platform/headless/window.h"
 #include "sheet/vorlane.h"
 
+#include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
@@ -107,6 +108,9 @@ protected:
     std::function<void(int32_t&)> onScroll;
     std::function<void()> onSorted;
     std::function<void(int32_t&)> onRemoved;
+    std::function<void()> onMouseDown;
+    std::function<void()> onMouseMove;
+    std::function<void()> onMouseUp;
 
 private:
     static std::string NameOfFile(int32_t n) {
@@ -164,7 +168,40 @@ private:
             [this](int32_t number, const std::string&, const std::string&, int32_t, const std::string& valeur) {
                 Say("Error " + std::to_string(number) + " " + valeur);
             });
+        ListenToTheHand();
         sheet->PropertyChanged.connect([this](std::string_view key) { Say("PropertyChanged " + std::string(key)); });
+    }
+
+    void ListenToTheHand() {
+        auto& events = sheet->Events;
+        const auto mouse = [this](auto& event, const std::string& name, auto& handler) {
+            event.connect([this, name, &handler](int16_t button, int16_t, float x, float y) {
+                const auto spelled = [](float length) { return std::to_string(std::lround(length)); };
+                Say(name + " " + std::to_string(button) + " at " + spelled(x) + "," + spelled(y));
+                if (handler) handler();
+            });
+        };
+        mouse(events.MouseDown, "MouseDown", onMouseDown);
+        mouse(events.MouseMove, "MouseMove", onMouseMove);
+        mouse(events.MouseUp, "MouseUp", onMouseUp);
+        const auto number = [this](auto& event, const std::string& name) {
+            event.connect([this, name](int16_t value) { Say(name + " " + std::to_string(value)); });
+        };
+        number(events.MouseEnter, "MouseEnter");
+        number(events.MouseExit, "MouseExit");
+        number(events.BackgroundClick, "BackgroundClick");
+        number(events.BackgroundDblClick, "BackgroundDblClick");
+        const auto click = [this](auto& event, const std::string& name) {
+            event.connect([this, name](int16_t index, const Picture& picture, const std::string& file, int16_t button) {
+                Say(name + " " + std::to_string(index) + " " + Short(headless::NameOf(picture)) + " " + Short(file) +
+                    " button " + std::to_string(button));
+            });
+        };
+        click(events.Click, "Click");
+        click(events.DblClick, "DblClick");
+        events.KeyDown.connect([this](int16_t& code, int16_t) { Say("KeyDown " + std::to_string(code)); });
+        events.KeyPress.connect([this](int16_t& ascii) { Say("KeyPress " + std::to_string(ascii)); });
+        events.KeyUp.connect([this](int16_t& code, int16_t) { Say("KeyUp " + std::to_string(code)); });
     }
 
     int32_t declared_ = 0;
