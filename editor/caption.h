@@ -7,8 +7,8 @@ class QLocale;
 
 namespace vorlane::editor {
 
-// The file's size and the day of its last change, as the locale writes them: "1,6 Mo · 14/03/2026". Empty when the
-// file is not there.
+// The file's size, bytes in the program's language, and the day of its last change, as the locale writes them: "1,6 Mo
+// · 14/03/2026". Empty when the file is not there.
 QString CaptionOf(const QString& path, const QLocale& locale);
 
 }  // namespace vorlane::editor

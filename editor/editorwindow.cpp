@@ -2,7 +2,10 @@
 
 #include "editor/caption.h"
 #include "editor/emptypage.h"
+#include "editor/focusring.h"
 #include "editor/look.h"
+#include "editor/navigator.h"
+#include "editor/show.h"
 #include "editor/slidesize.h"
 #include "editor/statuspanel.h"
 #include "widgets/vorlanewidget.h"
@@ -27,11 +30,13 @@ namespace {
 
 constexpr QSize kUsualSize(1080, 740);
 
-// The one local folder that is dragged; an empty text for anything else.
-QString FolderOf(const QMimeData& data) {
-    const QList<QUrl> urls = data.urls();
-    const QString path = urls.size() == 1 ? urls.first().toLocalFile() : QString();
-    return QFileInfo(path).isDir() ? path : QString();
+// The local files and folders that are dragged.
+QStringList PathsOf(const QMimeData& data) {
+    QStringList paths;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) paths.push_back(url.toLocalFile());
+    }
+    return paths;
 }
 
 }  // namespace
@@ -43,6 +48,8 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
       pages_(new QStackedWidget(this)),
       empty_(new EmptyPage(this)),
       sheet_(new VorlaneWidget(this)),
+      show_(new Show(*sheet_, this)),
+      navigator_(new Navigator(*sheet_, *show_, this)),
       provider_(new ThumbnailProvider(*sheet_, thumbnails_)),
       status_(new StatusPanel(this)) {
     setWindowIcon(QIcon(QStringLiteral(":/editor/icons/vorlane.svg")));
@@ -53,28 +60,35 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
     statusBar()->addWidget(status_, 1);
     statusBar()->setSizeGripEnabled(false);
     sheet_->installEventFilter(this);
+    new FocusRing(*sheet_, *navigator_);
 
     connect(sheet_, &VorlaneWidget::OnAdded, this,
             [this](int index, const QString& file) { sheet_->SetCaptionBottom(index, CaptionOf(file, locale())); });
     MakeMenus();
     ConnectReader();
+    ConnectShow();
     ApplyLook(*sheet_, palette());
-    Retranslate();
     RestoreState();
-    ShowPage(false);
+    Retranslate();
+    ShowPage();
 }
 
 EditorWindow::~EditorWindow() {
+    show_->undoStack().disconnect(this);
     delete provider_;  // before the service that it serves from
     delete std::exchange(sheet_, nullptr);
 }
 
 void EditorWindow::RestoreState() {
+    const Preferences preferences = Preferences::Load(settings_);
     resize(kUsualSize);
-    restoreGeometry(settings_.value(QStringLiteral("window/geometry")).toByteArray());
+    restoreGeometry(preferences.geometry);
     connect(status_, &StatusPanel::slideWidthChanged, this, &EditorWindow::SetSlideWidth);
-    status_->setSlideWidth(settings_.value(QStringLiteral("slideWidth"), slidesize::kUsual).toInt());
+    status_->setSlideWidth(preferences.slideWidth);
     SetSlideWidth(status_->slideWidth());
+    show_->setOrder(preferences.sort);
+    SetSideways(preferences.horizontal);
+    ShowArrangement();
 }
 
 void EditorWindow::SetSlideWidth(int width) {
@@ -99,13 +113,14 @@ void EditorWindow::changeEvent(QEvent* event) {
 }
 
 void EditorWindow::closeEvent(QCloseEvent* event) {
-    if (!isFullScreen()) settings_.setValue(QStringLiteral("window/geometry"), saveGeometry());
-    settings_.setValue(QStringLiteral("slideWidth"), status_->slideWidth());
+    const bool sideways = sheet_->ScrollDirection() == ui::ScrollDirection::sdHorizontal;
+    const QByteArray geometry = isFullScreen() ? QByteArray() : saveGeometry();
+    Preferences{geometry, status_->slideWidth(), show_->order(), sideways}.Save(settings_);
     QMainWindow::closeEvent(event);
 }
 
 void EditorWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (FolderOf(*event->mimeData()).isEmpty()) return;
+    if (PathsOf(*event->mimeData()).isEmpty()) return;
     event->acceptProposedAction();
     empty_->setDropping(true);
 }
@@ -114,18 +129,35 @@ void EditorWindow::dragLeaveEvent(QDragLeaveEvent*) {
     empty_->setDropping(false);
 }
 
+// Where there is nothing yet, a folder is opened; everything else is added.
 void EditorWindow::dropEvent(QDropEvent* event) {
     empty_->setDropping(false);
-    const QString folder = FolderOf(*event->mimeData());
-    if (folder.isEmpty()) return;
+    const QStringList paths = PathsOf(*event->mimeData());
+    if (paths.isEmpty()) return;
     event->acceptProposedAction();
-    openFolder(folder);
+    const bool opens = count() == 0 && paths.size() == 1 && QFileInfo(paths.first()).isDir();
+    if (opens) {
+        openFolder(paths.first());
+    } else {
+        addFiles(paths, PlaceUnder(event->position().toPoint()));
+    }
+}
+
+// The list index in front of which a drop there belongs, -1 for the end.
+int EditorWindow::PlaceUnder(const QPoint& place) const {
+    if (count() == 0) return -1;
+    QPointF onSheet = sheet_->mapFrom(this, place);
+    bool behind = false;
+    const int slide = sheet_->GetDiapoFromCol(&onSheet, &behind);
+    const int item = sheet_->Value(slide);
+    return item < 0 ? -1 : item + (behind ? 1 : 0);
 }
 
 // The wheel with Ctrl over the sheet changes the size of the slides; what the user does there may change the selection.
 bool EditorWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched != sheet_) return QMainWindow::eventFilter(watched, event);
     if (event->type() == QEvent::Wheel) return Zoom(static_cast<const QWheelEvent&>(*event));
+    if (event->type() == QEvent::ContextMenu) return ShowContextMenu(static_cast<const QContextMenuEvent&>(*event));
     if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease)
         QMetaObject::invokeMethod(
             this, [this] { ShowStatus(); }, Qt::QueuedConnection);
@@ -153,6 +185,10 @@ void EditorWindow::toggleFullScreen() {
 void EditorWindow::chooseFolder() {
     const QString chosen = QFileDialog::getExistingDirectory(this, tr("Ouvrir un dossier"), folder_);
     if (!chosen.isEmpty()) openFolder(chosen);
+}
+
+void EditorWindow::chooseFiles() {
+    addFiles(QFileDialog::getOpenFileNames(this, tr("Ajouter des images"), folder_));
 }
 
 }  // namespace vorlane::editor

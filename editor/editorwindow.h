@@ -1,10 +1,14 @@
-// EditorWindow: the editor's main window. It shows the pictures of a folder on a sheet.
+// EditorWindow: the editor's main window. It shows the pictures of a folder on a sheet, and lets the user order them,
+// add some and take some off. The files themselves stay as they are.
 //
 // Nothing of it blocks: a folder is read on a thread and comes onto the sheet in slices, pictures are decoded by the
 // thumbnail service.
 #pragma once
 
+#include "editor/additions.h"
 #include "editor/folderreader.h"
+#include "editor/menus.h"
+#include "editor/preferences.h"
 #include "editor/recentfolders.h"
 #include "widgets/thumbnailprovider.h"
 #include "widgets/thumbnailservice.h"
@@ -13,7 +17,6 @@
 #include <QMainWindow>
 #include <QTimer>
 
-class QMenu;
 class QSettings;
 class QStackedWidget;
 
@@ -24,6 +27,8 @@ class VorlaneWidget;
 namespace vorlane::editor {
 
 class EmptyPage;
+class Navigator;
+class Show;
 class StatusPanel;
 
 class EditorWindow : public QMainWindow {
@@ -37,17 +42,24 @@ public:
     // Reads the folder and shows it. What is shown stays until the folder is open, and for good when it can't be read.
     void openFolder(const QString& folder);
     QString folder() const { return folder_; }
+    // Reads files and folders and adds their pictures in front of a list index, or at the end for -1.
+    void addFiles(const QStringList& paths, int before = -1);
     // How many pictures are on the sheet's list.
-    int count() const { return count_; }
+    int count() const;
     // Whether all that was asked for is read and all slides show what they should.
     bool isSettled() const;
 
     VorlaneWidget& sheet() const { return *sheet_; }
+    Show& slides() const { return *show_; }
+    Navigator& navigator() const { return *navigator_; }
     ThumbnailService& thumbnails() { return thumbnails_; }
     StatusPanel& status() const { return *status_; }
 
 public Q_SLOTS:
     void chooseFolder();
+    void chooseFiles();
+    void removeSelected();
+    void selectAll();
     void toggleFullScreen();
 
 Q_SIGNALS:
@@ -69,17 +81,41 @@ private:
     void RestoreState();
     void SetSlideWidth(int width);
     bool Zoom(const QWheelEvent& wheel);
+    int PlaceUnder(const QPoint& place) const;
 
     // editorwindow_menus.cpp
+    QAction* AddAction(QMenu* menu, const QKeySequence& keys);
     void MakeMenus();
+    void MakeFileMenu();
+    void MakeEditMenu();
+    void MakeViewMenu();
+    void MakeSortMenu();
     void NameMenus();
+    void NameViewMenu();
+    void NameUndo();
     void FillRecentMenu();
+
+    // editorwindow_edit.cpp
+    void ConnectShow();
+    void ItemsChanged();
+    void Added(const std::vector<FolderItem>& items, int beforeKey);
+    void MoveSelected(int lines);
+    void Say(const QString& notice);
+    void OpenItem(int listIndex);
+    bool ShowContextMenu(const QContextMenuEvent& event);
+
+    // editorwindow_arrange.cpp
+    void Sort(SortBy by);
+    void SetDescending(bool descending);
+    void SetSideways(bool sideways);
+    void ShowArrangement();
+    QString SortName() const;
 
     // editorwindow_folder.cpp
     void ConnectReader();
     void Opened(const QString& folder, int total);
     void Failed(const QString& folder);
-    void ShowPage(bool slides);
+    void ShowPage();
     void TakeSlice();
     void ShowSheet();
     void ShowStatus();
@@ -90,34 +126,26 @@ private:
     RecentFolders recent_{settings_};
     ThumbnailService thumbnails_;
     FolderReader reader_;
+    Additions additions_;
 
     QStackedWidget* pages_;
     EmptyPage* empty_;
     VorlaneWidget* sheet_;
+    Show* show_;
+    Navigator* navigator_;
     ThumbnailProvider* provider_;
     StatusPanel* status_;
+    Menus menus_{};
 
-    struct Menus {
-        QMenu* file;
-        QMenu* recent;
-        QMenu* view;
-        QAction* open;
-        QAction* forget;
-        QAction* quit;
-        QAction* larger;
-        QAction* smaller;
-        QAction* usual;
-        QAction* fullScreen;
-    } menus_{};
-
-    QString folder_;    // the one that is open
-    QString failed_;    // the last one asked for, if it could not be read
-    int total_ = 0;     // pictures in the folder
-    int count_ = 0;     // those of them that are on the list
-    int position_ = 0;  // the bar's value
-    int waiting_ = 0;   // the most slides that waited for their thumbnail since all had it
+    QString folder_;   // the one that is open
+    QString failed_;   // the last one asked for, if it could not be read
+    QString notice_;   // what was done last, for a moment
+    int total_ = 0;    // pictures in the folder
+    int read_ = 0;     // those of them that have come onto the list
+    int waiting_ = 0;  // the most slides that waited for their thumbnail since all had it
     bool opening_ = false;
     QTimer slices_;
+    QTimer noticeEnd_;
     QElapsedTimer sinceShown_;
 };
 

@@ -1,6 +1,8 @@
 // How a folder comes onto the sheet.
 #include "editor/editorwindow.h"
 #include "editor/emptypage.h"
+#include "editor/navigator.h"
+#include "editor/show.h"
 #include "editor/statuspanel.h"
 #include "widgets/vorlanewidget.h"
 
@@ -27,7 +29,6 @@ void EditorWindow::ConnectReader() {
     connect(&reader_, &FolderReader::finished, this, [this] { slices_.start(); });
     connect(&slices_, &QTimer::timeout, this, &EditorWindow::TakeSlice);
     connect(empty_, &EmptyPage::openRequested, this, &EditorWindow::chooseFolder);
-    connect(sheet_, &VorlaneWidget::OnScroll, this, [this](int value) { position_ = value; });
     connect(provider_, &ThumbnailProvider::missingChanged, this, [this] {
         ShowStatus();
         CheckSettled();
@@ -44,22 +45,25 @@ void EditorWindow::Opened(const QString& folder, int total) {
     opening_ = false;
     folder_ = QDir::cleanPath(folder);
     total_ = total;
-    count_ = 0;
-    position_ = 0;
+    read_ = 0;
     recent_.add(folder_);
-    sheet_->Clear();
+    additions_.clear();
+    show_->clear();
+    navigator_->mark(-1);
     sinceShown_.invalidate();
     setWindowFilePath(folder_);
     const QString name = QFileInfo(folder_).fileName();
     setWindowTitle(tr("%1 — Vorlane").arg(name.isEmpty() ? QDir::toNativeSeparators(folder_) : name));
     ShowEmptyTexts();
-    ShowPage(total > 0);
+    ShowPage();
     ShowStatus();
 }
 
-void EditorWindow::ShowPage(bool slides) {
-    pages_->setCurrentWidget(slides ? static_cast<QWidget*>(sheet_) : empty_);
-    status_->setZoomShown(slides);
+void EditorWindow::ShowPage() {
+    const bool slides = count() > 0 || read_ < total_;
+    QWidget* page = slides ? static_cast<QWidget*>(sheet_) : empty_;
+    if (pages_->currentWidget() == page) return;
+    pages_->setCurrentWidget(page);
     if (slides) sheet_->setFocus();
 }
 
@@ -80,40 +84,41 @@ void EditorWindow::TakeSlice() {
     std::vector<FolderItem> items;
     do {
         items = reader_.take(kHandful);
-        for (const FolderItem& item : items) sheet_->Add(item.path, item.sortData, count_++);
+        for (const FolderItem& item : items) show_->append(item);
+        read_ += static_cast<int>(items.size());
     } while (!items.empty() && slice.elapsed() < kSlice);
     const bool all = !reader_.isRunning();
     if (items.empty()) slices_.stop();
     if (all || !sinceShown_.isValid() || sinceShown_.elapsed() >= kShowAgain) ShowSheet();
+    if (all) show_->orderAppended();
     ShowStatus();
     if (all) CheckSettled();
 }
 
-// The first time from the top, then from where the user has scrolled to.
 void EditorWindow::ShowSheet() {
-    if (count_ == 0) return;
-    if (sinceShown_.isValid()) {
-        sheet_->StartLecture({}, std::clamp(position_, 0, count_ - 1));
-    } else {
-        sheet_->StartLecture();
-    }
+    if (count() == 0) return;
+    show_->showAgain();
     sinceShown_.start();
 }
 
 void EditorWindow::ShowStatus() {
     const int missing = provider_->missing();
     waiting_ = missing == 0 ? 0 : std::max(waiting_, missing);
+    const bool reading = read_ < total_;
     if (!failed_.isEmpty()) {
-        status_->setMessage(tr("Impossible de lire le dossier « %1 »").arg(QDir::toNativeSeparators(failed_)));
-    } else if (folder_.isEmpty()) {
+        status_->setMessage(tr("Impossible de lire le dossier « %1 »").arg(QDir::toNativeSeparators(failed_)));
+    } else if (!notice_.isEmpty()) {
+        status_->setMessage(notice_);
+    } else if (folder_.isEmpty() && count() == 0) {
         status_->clear();
-    } else if (count_ < total_) {
-        status_->setMessage(tr("Lecture du dossier : %L1 sur %L2").arg(count_).arg(total_));
+    } else if (reading) {
+        status_->setMessage(tr("Lecture du dossier : %L1 sur %L2").arg(read_).arg(total_));
     } else {
-        status_->setCounts(total_, sheet_->CountSelected());
+        status_->setCounts(count(), sheet_->CountSelected());
     }
-    if (count_ < total_) {
-        status_->setProgress(count_, total_);
+    status_->setZoomShown(count() > 0 || reading);
+    if (reading) {
+        status_->setProgress(read_, total_);
     } else {
         status_->setProgress(waiting_ - missing, waiting_);
     }
@@ -124,6 +129,9 @@ void EditorWindow::ShowEmptyTexts() {
         setWindowTitle(QStringLiteral("Vorlane"));
         empty_->setTexts(tr("Ouvrez un dossier d'images"), tr("ou déposez-le dans cette fenêtre"),
                          tr("Ouvrir un dossier…"));
+    } else if (total_ > 0) {
+        empty_->setTexts(tr("La planche est vide"), tr("Les fichiers retirés restent dans leur dossier."),
+                         tr("Ouvrir un autre dossier…"));
     } else {
         empty_->setTexts(tr("Ce dossier ne contient aucune image"), QDir::toNativeSeparators(folder_),
                          tr("Ouvrir un autre dossier…"));
@@ -131,7 +139,8 @@ void EditorWindow::ShowEmptyTexts() {
 }
 
 bool EditorWindow::isSettled() const {
-    return !opening_ && !reader_.isRunning() && count_ == total_ && provider_->missing() == 0;
+    const bool read = !opening_ && !reader_.isRunning() && read_ == total_ && !additions_.isRunning();
+    return read && provider_->missing() == 0;
 }
 
 // Behind what the sheet and the provider still have to do.

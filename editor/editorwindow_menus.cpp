@@ -1,9 +1,12 @@
 // The window's menus.
 #include "editor/editorwindow.h"
+#include "editor/navigator.h"
+#include "editor/show.h"
 #include "editor/slidesize.h"
 #include "editor/statuspanel.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QDir>
 #include <QKeySequence>
 #include <QMenu>
@@ -11,47 +14,143 @@
 
 namespace vorlane::editor {
 
+QAction* EditorWindow::AddAction(QMenu* menu, const QKeySequence& keys) {
+    QAction* action = menu->addAction(QString());
+    action->setShortcut(keys);
+    return action;
+}
+
 void EditorWindow::MakeMenus() {
-    const auto add = [this](QMenu* menu, QKeySequence keys, auto act) {
-        QAction* action = menu->addAction(QString());
-        action->setShortcut(keys);
+    MakeFileMenu();
+    MakeEditMenu();
+    MakeViewMenu();
+}
+
+void EditorWindow::MakeFileMenu() {
+    menus_.file = menuBar()->addMenu(QString());
+    menus_.open = AddAction(menus_.file, QKeySequence::Open);
+    menus_.add = AddAction(menus_.file, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
+    menus_.recent = menus_.file->addMenu(QString());
+    menus_.file->addSeparator();
+    menus_.quit = AddAction(menus_.file, QKeySequence(Qt::CTRL | Qt::Key_Q));
+    menus_.quit->setMenuRole(QAction::QuitRole);
+    menus_.forget = new QAction(this);
+    connect(menus_.open, &QAction::triggered, this, &EditorWindow::chooseFolder);
+    connect(menus_.add, &QAction::triggered, this, &EditorWindow::chooseFiles);
+    connect(menus_.quit, &QAction::triggered, this, &EditorWindow::close);
+    connect(menus_.forget, &QAction::triggered, this, [this] { recent_.clear(); });
+    connect(menus_.recent, &QMenu::aboutToShow, this, &EditorWindow::FillRecentMenu);
+}
+
+void EditorWindow::MakeEditMenu() {
+    menus_.edit = menuBar()->addMenu(QString());
+    menus_.undo = AddAction(menus_.edit, QKeySequence::Undo);
+    menus_.redo = AddAction(menus_.edit, QKeySequence::Redo);
+    menus_.edit->addSeparator();
+    menus_.selectAll = AddAction(menus_.edit, QKeySequence::SelectAll);
+    menus_.edit->addSeparator();
+    menus_.show = AddAction(menus_.edit, {});
+    menus_.remove = AddAction(menus_.edit, QKeySequence::Delete);
+    menus_.edit->addSeparator();
+    menus_.moveBack = AddAction(menus_.edit, QKeySequence(Qt::ALT | Qt::Key_Left));
+    menus_.moveOn = AddAction(menus_.edit, QKeySequence(Qt::ALT | Qt::Key_Right));
+    connect(menus_.undo, &QAction::triggered, &show_->undoStack(), &QUndoStack::undo);
+    connect(menus_.redo, &QAction::triggered, &show_->undoStack(), &QUndoStack::redo);
+    connect(menus_.selectAll, &QAction::triggered, this, &EditorWindow::selectAll);
+    connect(menus_.show, &QAction::triggered, this, [this] { OpenItem(navigator_->current()); });
+    connect(menus_.remove, &QAction::triggered, this, &EditorWindow::removeSelected);
+    connect(menus_.moveBack, &QAction::triggered, this, [this] { MoveSelected(-1); });
+    connect(menus_.moveOn, &QAction::triggered, this, [this] { MoveSelected(1); });
+}
+
+void EditorWindow::MakeViewMenu() {
+    const auto resizes = [this](QAction* action, int (*next)(int)) {
+        connect(action, &QAction::triggered, this,
+                [this, next] { status_->setSlideWidth(next(status_->slideWidth())); });
+    };
+    menus_.view = menuBar()->addMenu(QString());
+    MakeSortMenu();
+    menus_.view->addSeparator();
+    menus_.larger = AddAction(menus_.view, QKeySequence::ZoomIn);
+    menus_.larger->setShortcuts({QKeySequence(QKeySequence::ZoomIn), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+    menus_.smaller = AddAction(menus_.view, QKeySequence::ZoomOut);
+    menus_.usual = AddAction(menus_.view, QKeySequence(Qt::CTRL | Qt::Key_0));
+    menus_.view->addSeparator();
+    menus_.fullScreen = AddAction(menus_.view, QKeySequence(Qt::Key_F11));
+    menus_.fullScreen->setCheckable(true);
+    resizes(menus_.larger, slidesize::Larger);
+    resizes(menus_.smaller, slidesize::Smaller);
+    resizes(menus_.usual, [](int) { return slidesize::kUsual; });
+    connect(menus_.fullScreen, &QAction::triggered, this, &EditorWindow::toggleFullScreen);
+}
+
+void EditorWindow::MakeSortMenu() {
+    const auto choice = [this](QMenu* menu, QActionGroup* group, auto act) {
+        QAction* action = AddAction(menu, {});
+        action->setCheckable(true);
+        group->addAction(action);
         connect(action, &QAction::triggered, this, act);
         return action;
     };
-    menus_.file = menuBar()->addMenu(QString());
-    menus_.open = add(menus_.file, QKeySequence::Open, &EditorWindow::chooseFolder);
-    menus_.recent = menus_.file->addMenu(QString());
-    menus_.file->addSeparator();
-    menus_.quit = add(menus_.file, QKeySequence(Qt::CTRL | Qt::Key_Q), &EditorWindow::close);
-    menus_.forget = new QAction(this);
-    connect(menus_.forget, &QAction::triggered, this, [this] { recent_.clear(); });
-    connect(menus_.recent, &QMenu::aboutToShow, this, &EditorWindow::FillRecentMenu);
-
-    menus_.view = menuBar()->addMenu(QString());
-    menus_.larger = add(menus_.view, QKeySequence::ZoomIn,
-                        [this] { status_->setSlideWidth(slidesize::Larger(status_->slideWidth())); });
-    menus_.larger->setShortcuts({QKeySequence(QKeySequence::ZoomIn), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
-    menus_.smaller = add(menus_.view, QKeySequence::ZoomOut,
-                         [this] { status_->setSlideWidth(slidesize::Smaller(status_->slideWidth())); });
-    menus_.usual =
-        add(menus_.view, QKeySequence(Qt::CTRL | Qt::Key_0), [this] { status_->setSlideWidth(slidesize::kUsual); });
-    menus_.view->addSeparator();
-    menus_.fullScreen = add(menus_.view, QKeySequence(Qt::Key_F11), &EditorWindow::toggleFullScreen);
-    menus_.fullScreen->setCheckable(true);
-    menus_.quit->setMenuRole(QAction::QuitRole);
+    menus_.sort = menus_.view->addMenu(QString());
+    auto* criteria = new QActionGroup(this);
+    for (const SortBy by :
+         {SortBy::Name, SortBy::Modified, SortBy::Created, SortBy::Length, SortBy::Extension, SortBy::Hand}) {
+        menus_.sortBy.at(static_cast<size_t>(by)) = choice(menus_.sort, criteria, [this, by] { Sort(by); });
+    }
+    menus_.sort->addSeparator();
+    auto* directions = new QActionGroup(this);
+    menus_.ascending = choice(menus_.sort, directions, [this] { SetDescending(false); });
+    menus_.descending = choice(menus_.sort, directions, [this] { SetDescending(true); });
+    menus_.scroll = menus_.view->addMenu(QString());
+    auto* ways = new QActionGroup(this);
+    menus_.down = choice(menus_.scroll, ways, [this] { SetSideways(false); });
+    menus_.sideways = choice(menus_.scroll, ways, [this] { SetSideways(true); });
 }
 
 void EditorWindow::NameMenus() {
     menus_.file->setTitle(tr("&Fichier"));
     menus_.open->setText(tr("&Ouvrir un dossier…"));
+    menus_.add->setText(tr("&Ajouter des images…"));
     menus_.recent->setTitle(tr("&Dossiers récents"));
     menus_.forget->setText(tr("&Effacer la liste"));
     menus_.quit->setText(tr("&Quitter"));
+    menus_.edit->setTitle(tr("É&dition"));
+    NameUndo();
+    menus_.selectAll->setText(tr("&Tout sélectionner"));
+    menus_.show->setText(tr("&Ouvrir l'image"));
+    menus_.remove->setText(tr("Re&tirer de la planche"));
+    menus_.moveBack->setText(tr("Déplacer vers le &début"));
+    menus_.moveOn->setText(tr("Déplacer vers la &fin"));
+    NameViewMenu();
+}
+
+void EditorWindow::NameViewMenu() {
     menus_.view->setTitle(tr("&Affichage"));
+    menus_.sort->setTitle(tr("&Trier par"));
+    menus_.sortBy[static_cast<size_t>(SortBy::Name)]->setText(tr("&Nom"));
+    menus_.sortBy[static_cast<size_t>(SortBy::Modified)]->setText(tr("Date de &modification"));
+    menus_.sortBy[static_cast<size_t>(SortBy::Created)]->setText(tr("Date de &création"));
+    menus_.sortBy[static_cast<size_t>(SortBy::Length)]->setText(tr("&Taille"));
+    menus_.sortBy[static_cast<size_t>(SortBy::Extension)]->setText(tr("&Extension"));
+    menus_.sortBy[static_cast<size_t>(SortBy::Hand)]->setText(tr("Ordre man&uel"));
+    menus_.ascending->setText(tr("Ordre c&roissant"));
+    menus_.descending->setText(tr("Ordre &décroissant"));
+    menus_.scroll->setTitle(tr("&Défilement"));
+    menus_.down->setText(tr("&Vertical"));
+    menus_.sideways->setText(tr("&Horizontal"));
     menus_.larger->setText(tr("&Agrandir les diapositives"));
     menus_.smaller->setText(tr("&Réduire les diapositives"));
-    menus_.usual->setText(tr("Taille &normale (100 %)"));
+    menus_.usual->setText(tr("Taille &normale (100 %)"));
     menus_.fullScreen->setText(tr("&Plein écran"));
+}
+
+void EditorWindow::NameUndo() {
+    const QUndoStack& stack = show_->undoStack();
+    menus_.undo->setEnabled(stack.canUndo());
+    menus_.redo->setEnabled(stack.canRedo());
+    menus_.undo->setText(stack.canUndo() ? tr("&Annuler %1").arg(stack.undoText()) : tr("&Annuler"));
+    menus_.redo->setText(stack.canRedo() ? tr("&Rétablir %1").arg(stack.redoText()) : tr("&Rétablir"));
 }
 
 void EditorWindow::FillRecentMenu() {

@@ -1,5 +1,7 @@
 #include "editor/emptypage.h"
 
+#include "editor/colors.h"
+
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
@@ -12,12 +14,6 @@ namespace {
 
 constexpr int kMargin = 24;
 constexpr QSize kDrawing(132, 92);
-
-// Part of one colour in another, in percent.
-QColor Mixed(const QColor& color, const QColor& into, int percent) {
-    const auto mix = [percent](int a, int b) { return (a * percent + b * (100 - percent)) / 100; };
-    return {mix(color.red(), into.red()), mix(color.green(), into.green()), mix(color.blue(), into.blue())};
-}
 
 // Three slides that lie on each other, in shades of the palette.
 class Drawing : public QWidget {

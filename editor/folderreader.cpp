@@ -19,7 +19,8 @@ namespace vorlane::editor {
 // What the thread and the owner share.
 struct FolderReader::Reading {
     FolderReader* owner;  // of the user's thread alone
-    QString folder;
+    QString folder;       // empty: paths are wanted
+    QStringList paths;
     std::atomic<bool> stopped = false;
     std::atomic<bool> read = false;   // to the end
     std::atomic<bool> ended = false;  // the thread has nothing more to do
@@ -33,6 +34,7 @@ constexpr size_t kFirstPiece = 64;  // enough for a first look
 constexpr size_t kPiece = 512;
 
 struct Name {
+    QString folder;  // with the separator behind it
     QString text;
     QString sortName;
 };
@@ -40,6 +42,16 @@ struct Name {
 bool IsPicture(const QString& folder, const QString& name) {
     if (name.startsWith(QLatin1Char('.')) || FileKindOf(name) != FileKind::Picture) return false;
     return HasExtension(name) || HoldsPicture(folder + name);
+}
+
+void Sort(std::vector<Name>& names) {
+    std::sort(names.begin(), names.end(), [](const Name& a, const Name& b) {
+        return a.sortName != b.sortName ? a.sortName < b.sortName : a.text < b.text;
+    });
+}
+
+QString WithSeparator(const QString& folder) {
+    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
 }
 
 // Nothing for a folder that can't be read. One that breaks off gives what there was.
@@ -52,20 +64,30 @@ std::optional<std::vector<Name>> ReadNames(const QString& folder, const std::ato
         std::error_code unknown;
         if (!entry->is_regular_file(unknown)) continue;
         const QString name = QFile::decodeName(entry->path().filename().c_str());
-        if (IsPicture(folder, name)) names.push_back({name, SortName(name)});
+        if (IsPicture(folder, name)) names.push_back({folder, name, SortName(name)});
     }
     if (error && names.empty()) return std::nullopt;
+    Sort(names);
     return names;
 }
 
-void Sort(std::vector<Name>& names) {
-    std::sort(names.begin(), names.end(), [](const Name& a, const Name& b) {
-        return a.sortName != b.sortName ? a.sortName < b.sortName : a.text < b.text;
-    });
+std::vector<Name> GatherNames(const QStringList& paths, const std::atomic<bool>& stopped) {
+    std::vector<Name> names;
+    for (const QString& path : paths) {
+        const QFileInfo file(path);
+        const QString folder = WithSeparator(file.path());
+        if (file.isDir()) {
+            const auto within = ReadNames(WithSeparator(path), stopped);
+            if (within) names.insert(names.end(), within->begin(), within->end());
+        } else if (file.isFile() && IsPicture(folder, file.fileName())) {
+            names.push_back({folder, file.fileName(), SortName(file.fileName())});
+        }
+    }
+    return names;
 }
 
-FolderItem Item(const QString& folder, const Name& name) {
-    const QString path = folder + name.text;
+FolderItem Item(const Name& name) {
+    const QString path = name.folder + name.text;
     const QFileInfo file(path);
     const FileFacts facts{name.text, file.lastModified(), file.birthTime(), file.size()};
     return {path, SortData(facts, name.sortName)};
@@ -81,11 +103,20 @@ FolderReader::~FolderReader() {
 }
 
 void FolderReader::start(const QString& folder) {
+    Begin(WithSeparator(folder), {});
+}
+
+void FolderReader::gather(const QStringList& paths) {
+    Begin({}, paths);
+}
+
+void FolderReader::Begin(const QString& folder, const QStringList& paths) {
     stop();
     JoinEnded();
     reading_ = std::make_shared<Reading>();
     reading_->owner = this;
-    reading_->folder = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+    reading_->folder = folder;
+    reading_->paths = paths;
     const auto run = [reading = reading_] {
         Run(reading);
         reading->ended = true;
@@ -133,20 +164,20 @@ void FolderReader::Tell(const std::shared_ptr<Reading>& reading, Signal signal) 
 }
 
 void FolderReader::Run(const std::shared_ptr<Reading>& reading) {
-    auto names = ReadNames(reading->folder, reading->stopped);
+    const auto names = reading->folder.isEmpty() ? GatherNames(reading->paths, reading->stopped)
+                                                 : ReadNames(reading->folder, reading->stopped);
     if (!names) {
         reading->read = true;
         Tell(reading, [](FolderReader& owner) { Q_EMIT owner.failed(owner.reading_->folder); });
         return;
     }
-    Sort(*names);
     const int total = static_cast<int>(names->size());
     Tell(reading, [total](FolderReader& owner) { Q_EMIT owner.opened(owner.reading_->folder, total); });
     size_t piece = kFirstPiece;
     for (size_t i = 0; i < names->size() && !reading->stopped; i += piece, piece = kPiece) {
         std::deque<FolderItem> items;
         const size_t end = std::min(i + piece, names->size());
-        for (size_t k = i; k < end; ++k) items.push_back(Item(reading->folder, (*names)[k]));
+        for (size_t k = i; k < end; ++k) items.push_back(Item((*names)[k]));
         {
             const std::lock_guard lock(reading->mutex);
             std::move(items.begin(), items.end(), std::back_inserter(reading->items));

@@ -1,5 +1,6 @@
 // FolderReader: reads the pictures of a folder on a thread of its own and hands them over in the pieces that its owner
-// asks for, ordered by name. The user's thread never waits for the disk; folders of 100,000 files are usual to it.
+// asks for, ordered by name. It also gathers files and folders of any place, in their order. The user's thread never
+// waits for the disk; folders of 100,000 files are usual to it.
 //
 // A picture is a file with the extension of one, or a file without extension that holds one. Hidden files and folders
 // within the folder are passed over.
@@ -11,6 +12,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 namespace vorlane::editor {
 
@@ -28,6 +30,8 @@ public:
 
     // Ends a reading that is under way, of which nothing is heard any more, and begins this one.
     void start(const QString& folder);
+    // The same for files and folders; what isn't there or is no picture is passed over, so this doesn't fail.
+    void gather(const QStringList& paths);
     void stop();
     // Whether there is something to read or to take yet.
     bool isRunning() const;
@@ -36,7 +40,7 @@ public:
     std::vector<FolderItem> take(size_t most);
 
 Q_SIGNALS:
-    // One of these two follows start(). total: how many pictures there are.
+    // One of these two follows start(). folder: empty after gather(). total: how many pictures there are.
     void opened(const QString& folder, int total);
     void failed(const QString& folder);
     // There is more to take.
@@ -54,6 +58,7 @@ private:
     // Calls signal on the user's thread, as long as the reading isn't stopped.
     template <class Signal>
     static void Tell(const std::shared_ptr<Reading>& reading, Signal signal);
+    void Begin(const QString& folder, const QStringList& paths);
     static void Run(const std::shared_ptr<Reading>& reading);
     void JoinEnded();
 

@@ -1,16 +1,11 @@
 #include "editor/look.h"
 
+#include "editor/colors.h"
 #include "widgets/vorlanewidget.h"
 
 namespace vorlane::editor {
 
 namespace {
-
-// So many percent of one colour in another.
-QColor Mixed(const QColor& color, const QColor& into, int percent) {
-    const auto mix = [percent](int a, int b) { return (a * percent + b * (100 - percent)) / 100; };
-    return {mix(color.red(), into.red()), mix(color.green(), into.green()), mix(color.blue(), into.blue())};
-}
 
 QFont CaptionFont() {
     QFont font;

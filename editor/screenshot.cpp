@@ -50,12 +50,12 @@ int TakeScreenshot(const CommandLine& commands) {
     window.show();
     if (!commands.folder.isEmpty() && !Settle(window, commands.folder)) {
         const QString name = QDir::toNativeSeparators(commands.folder);
-        return Refuse(Tr(QT_TRANSLATE_NOOP("Screenshot", "Impossible de présenter le dossier « %1 »")).arg(name));
+        return Refuse(Tr(QT_TRANSLATE_NOOP("Screenshot", "Impossible de présenter le dossier « %1 »")).arg(name));
     }
     QCoreApplication::processEvents();
     if (!window.grab().save(commands.screenshot, "PNG")) {
         const QString name = QDir::toNativeSeparators(commands.screenshot);
-        return Refuse(Tr(QT_TRANSLATE_NOOP("Screenshot", "Impossible d'écrire le fichier « %1 »")).arg(name));
+        return Refuse(Tr(QT_TRANSLATE_NOOP("Screenshot", "Impossible d'écrire le fichier « %1 »")).arg(name));
     }
     return 0;
 }

@@ -23,6 +23,15 @@ QString Extension(const QString& name) {
 
 }  // namespace
 
+QString Folded(const QString& text) {
+    QString folded;
+    for (const QChar unit : text.normalized(QString::NormalizationForm_KD).toLower()) {
+        const bool accent = unit > QChar(127) && unit.category() == QChar::Mark_NonSpacing;
+        if (!accent) folded += unit;
+    }
+    return folded;
+}
+
 QString SortName(const QString& fileName) {
     QString sorted;
     QString digits;
@@ -30,8 +39,7 @@ QString SortName(const QString& fileName) {
         if (!digits.isEmpty()) sorted += digits.rightJustified(kDigits, QLatin1Char('0'));
         digits.clear();
     };
-    for (const QChar unit : fileName.normalized(QString::NormalizationForm_KD).toLower()) {
-        if (unit > QChar(127) && unit.category() == QChar::Mark_NonSpacing) continue;
+    for (const QChar unit : Folded(fileName)) {
         const bool digit = unit >= QLatin1Char('0') && unit <= QLatin1Char('9');
         if (!digit) flush();
         (digit ? digits : sorted) += unit;

@@ -11,6 +11,9 @@ namespace vorlane::editor {
 // The character that joins criteria.
 constexpr QChar kSepSortArg{11};
 
+// Without a difference between cases or accents.
+QString Folded(const QString& text);
+
 // A text that orders as people do: without a difference between cases or accents, and "image 9" before "image 10".
 QString SortName(const QString& fileName);
 

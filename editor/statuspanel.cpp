@@ -41,7 +41,7 @@ StatusPanel::StatusPanel(QWidget* parent)
     slider_->setPageStep(2 * slidesize::kStep);
     slider_->setFocusPolicy(Qt::TabFocus);
     percent_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    percent_->setFixedWidth(percent_->fontMetrics().horizontalAdvance(QStringLiteral("9999 %")));
+    percent_->setFixedWidth(percent_->fontMetrics().horizontalAdvance(QStringLiteral("9999 %")));
 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(kMargin, 2, kMargin, 2);
@@ -126,7 +126,7 @@ void StatusPanel::setSlideWidth(int width) {
 }
 
 void StatusPanel::ShowPercent(int width) {
-    percent_->setText(tr("%L1 %").arg(slidesize::Percent(width)));
+    percent_->setText(tr("%L1 %").arg(slidesize::Percent(width)));
 }
 
 }  // namespace vorlane::editor

@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="fr">
 <context>
+    <name>Caption</name>
+    <message numerus="yes">
+        <source>%Ln octet(s)</source>
+        <translation>
+            <numerusform>%Ln byte</numerusform>
+            <numerusform>%Ln bytes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Enregistre la fenêtre dans une image PNG, puis quitte.</source>
@@ -59,12 +69,12 @@
 <context>
     <name>Screenshot</name>
     <message>
-        <source>Impossible de présenter le dossier « %1 »</source>
-        <translation>Can't show the folder “%1”</translation>
+        <source>Impossible de présenter le dossier «&#xa0;%1&#xa0;»</source>
+        <translation>Can&apos;t show the folder “%1”</translation>
     </message>
     <message>
-        <source>Impossible d&apos;écrire le fichier « %1 »</source>
-        <translation>Can't write the file “%1”</translation>
+        <source>Impossible d&apos;écrire le fichier «&#xa0;%1&#xa0;»</source>
+        <translation>Can&apos;t write the file “%1”</translation>
     </message>
 </context>
 <context>
@@ -76,14 +86,6 @@
     <message>
         <source>%1 — Vorlane</source>
         <translation>%1 — Vorlane</translation>
-    </message>
-    <message>
-        <source>Impossible de lire le dossier « %1 »</source>
-        <translation>Can't read the folder “%1”</translation>
-    </message>
-    <message>
-        <source>Lecture du dossier : %L1 sur %L2</source>
-        <translation>Reading the folder: %L1 of %L2</translation>
     </message>
     <message>
         <source>Ouvrez un dossier d&apos;images</source>
@@ -138,16 +140,197 @@
         <translation>&amp;Smaller Slides</translation>
     </message>
     <message>
-        <source>Taille &amp;normale (100 %)</source>
-        <translation>&amp;Normal Size (100%)</translation>
-    </message>
-    <message>
         <source>&amp;Plein écran</source>
         <translation>&amp;Full Screen</translation>
     </message>
     <message>
         <source>Aucun dossier</source>
         <translation>No folders</translation>
+    </message>
+    <message>
+        <source>Ajouter des images</source>
+        <translation>Add Pictures</translation>
+    </message>
+    <message>
+        <source>nom</source>
+        <translation>name</translation>
+    </message>
+    <message>
+        <source>date de modification</source>
+        <translation>modification date</translation>
+    </message>
+    <message>
+        <source>date de création</source>
+        <translation>creation date</translation>
+    </message>
+    <message>
+        <source>taille</source>
+        <translation>size</translation>
+    </message>
+    <message>
+        <source>extension</source>
+        <translation>extension</translation>
+    </message>
+    <message>
+        <source>Aucune diapositive n&apos;est sélectionnée</source>
+        <translation>No slide is selected</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln diapositive(s) retirée(s) de la planche&#xa0;; les fichiers restent sur le disque</source>
+        <translation>
+            <numerusform>%Ln slide taken off the sheet; the file stays on the disk</numerusform>
+            <numerusform>%Ln slides taken off the sheet; the files stay on the disk</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Aucune image à ajouter</source>
+        <translation>No picture to add</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln image(s) ajoutée(s)</source>
+        <translation>
+            <numerusform>%Ln picture added</numerusform>
+            <numerusform>%Ln pictures added</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Les diapositives sont triées par %1&#xa0;: choisissez «&#xa0;Ordre manuel&#xa0;» pour les déplacer</source>
+        <translation>The slides are sorted by %1: choose “Manual Order” to move them</translation>
+    </message>
+    <message>
+        <source>Aucun programme n&apos;ouvre cette image</source>
+        <translation>No program opens this picture</translation>
+    </message>
+    <message>
+        <source>Impossible de lire le dossier «&#xa0;%1&#xa0;»</source>
+        <translation>Can&apos;t read the folder “%1”</translation>
+    </message>
+    <message>
+        <source>Lecture du dossier&#xa0;: %L1 sur %L2</source>
+        <translation>Reading the folder: %L1 of %L2</translation>
+    </message>
+    <message>
+        <source>La planche est vide</source>
+        <translation>The sheet is empty</translation>
+    </message>
+    <message>
+        <source>Les fichiers retirés restent dans leur dossier.</source>
+        <translation>The files that were taken off are still in their folder.</translation>
+    </message>
+    <message>
+        <source>&amp;Ajouter des images…</source>
+        <translation>&amp;Add Pictures…</translation>
+    </message>
+    <message>
+        <source>É&amp;dition</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;Tout sélectionner</source>
+        <translation>Select &amp;All</translation>
+    </message>
+    <message>
+        <source>&amp;Ouvrir l&apos;image</source>
+        <translation>&amp;Open Picture</translation>
+    </message>
+    <message>
+        <source>Re&amp;tirer de la planche</source>
+        <translation>&amp;Remove from Sheet</translation>
+    </message>
+    <message>
+        <source>Déplacer vers le &amp;début</source>
+        <translation>Move to the &amp;Front</translation>
+    </message>
+    <message>
+        <source>Déplacer vers la &amp;fin</source>
+        <translation>Move to the &amp;Back</translation>
+    </message>
+    <message>
+        <source>&amp;Trier par</source>
+        <translation>&amp;Sort by</translation>
+    </message>
+    <message>
+        <source>&amp;Nom</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>Date de &amp;modification</source>
+        <translation>&amp;Modification Date</translation>
+    </message>
+    <message>
+        <source>Date de &amp;création</source>
+        <translation>&amp;Creation Date</translation>
+    </message>
+    <message>
+        <source>&amp;Taille</source>
+        <translation>&amp;Size</translation>
+    </message>
+    <message>
+        <source>&amp;Extension</source>
+        <translation>&amp;Extension</translation>
+    </message>
+    <message>
+        <source>Ordre man&amp;uel</source>
+        <translation>Man&amp;ual Order</translation>
+    </message>
+    <message>
+        <source>Ordre c&amp;roissant</source>
+        <translation>&amp;Ascending</translation>
+    </message>
+    <message>
+        <source>Ordre &amp;décroissant</source>
+        <translation>&amp;Descending</translation>
+    </message>
+    <message>
+        <source>&amp;Défilement</source>
+        <translation>S&amp;croll</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical</source>
+        <translation>&amp;Vertical</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontal</source>
+        <translation>&amp;Horizontal</translation>
+    </message>
+    <message>
+        <source>Taille &amp;normale (100&#xa0;%)</source>
+        <translation>&amp;Normal Size (100%)</translation>
+    </message>
+    <message>
+        <source>&amp;Annuler %1</source>
+        <translation>&amp;Undo %1</translation>
+    </message>
+    <message>
+        <source>&amp;Annuler</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Rétablir %1</source>
+        <translation>&amp;Redo %1</translation>
+    </message>
+    <message>
+        <source>&amp;Rétablir</source>
+        <translation>&amp;Redo</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::Show</name>
+    <message>
+        <source>le retrait</source>
+        <translation>Removal</translation>
+    </message>
+    <message>
+        <source>l&apos;ajout</source>
+        <translation>Addition</translation>
+    </message>
+    <message>
+        <source>le déplacement</source>
+        <translation>Move</translation>
+    </message>
+    <message>
+        <source>le tri</source>
+        <translation>Sort</translation>
     </message>
 </context>
 <context>
@@ -188,7 +371,7 @@
         <translation>%1 — %2</translation>
     </message>
     <message>
-        <source>%L1 %</source>
+        <source>%L1&#xa0;%</source>
         <translation>%L1%</translation>
     </message>
 </context>

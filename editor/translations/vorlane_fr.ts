@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="fr">
 <context>
+    <name>Caption</name>
+    <message numerus="yes">
+        <source>%Ln octet(s)</source>
+        <translation>
+            <numerusform>%Ln octet</numerusform>
+            <numerusform>%Ln octets</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::EditorWindow</name>
+    <message numerus="yes">
+        <source>%Ln diapositive(s) retirée(s) de la planche&#xa0;; les fichiers restent sur le disque</source>
+        <translation>
+            <numerusform>%Ln diapositive retirée de la planche&#xa0;; le fichier reste sur le disque</numerusform>
+            <numerusform>%Ln diapositives retirées de la planche&#xa0;; les fichiers restent sur le disque</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln image(s) ajoutée(s)</source>
+        <translation>
+            <numerusform>%Ln image ajoutée</numerusform>
+            <numerusform>%Ln images ajoutées</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>vorlane::editor::StatusPanel</name>
     <message numerus="yes">
         <source>%Ln image(s)</source>

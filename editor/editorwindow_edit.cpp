@@ -1,0 +1,128 @@
+// What the user does to the slides.
+#include "editor/editorwindow.h"
+#include "editor/navigator.h"
+#include "editor/show.h"
+#include "editor/statuspanel.h"
+#include "widgets/vorlanewidget.h"
+
+#include <algorithm>
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QDesktopServices>
+#include <QMenu>
+#include <QUrl>
+
+namespace vorlane::editor {
+
+namespace {
+
+constexpr int kNoticeTime = 8000;  // milliseconds
+
+}  // namespace
+
+void EditorWindow::ConnectShow() {
+    connect(show_, &Show::changed, this, &EditorWindow::ItemsChanged);
+    connect(show_, &Show::orderChanged, this, &EditorWindow::ShowArrangement);
+    connect(&show_->undoStack(), &QUndoStack::indexChanged, this, &EditorWindow::NameUndo);
+    connect(&additions_, &Additions::read, this, &EditorWindow::Added);
+    connect(navigator_, &Navigator::moved, this, &EditorWindow::ShowStatus);
+    connect(navigator_, &Navigator::activated, this, &EditorWindow::OpenItem);
+    noticeEnd_.setSingleShot(true);
+    connect(&noticeEnd_, &QTimer::timeout, this, [this] { Say({}); });
+}
+
+int EditorWindow::count() const {
+    return show_->count();
+}
+
+void EditorWindow::ItemsChanged() {
+    const std::vector<int> selected = sheet_->Liste().SelItems();
+    if (!selected.empty()) {
+        navigator_->mark(selected.front());
+    } else if (navigator_->current() < 0) {
+        navigator_->mark(-1);
+    }
+    ShowEmptyTexts();
+    ShowPage();
+    ShowStatus();
+}
+
+// Tells what was done, until something else is worth telling.
+void EditorWindow::Say(const QString& notice) {
+    notice_ = notice;
+    noticeEnd_.start(kNoticeTime);
+    ShowStatus();
+}
+
+// The item behind the last removed one becomes the current one, without being selected.
+void EditorWindow::removeSelected() {
+    const std::vector<int> selected = sheet_->Liste().SelItems();
+    const int removed = show_->removeSelected();
+    if (removed == 0) return Say(tr("Aucune diapositive n'est sélectionnée"));
+    const int behind = selected.back() + 1 - removed;
+    navigator_->mark(std::min(behind, count() - 1));
+    Say(tr("%Ln diapositive(s) retirée(s) de la planche ; les fichiers restent sur le disque", nullptr, removed));
+}
+
+void EditorWindow::selectAll() {
+    VorlaneList list = sheet_->Liste();
+    for (int i = 0; i < list.ListCount(); ++i) list.SetSelected(i, true);
+    show_->showAgain();
+    ShowStatus();
+}
+
+void EditorWindow::addFiles(const QStringList& paths, int before) {
+    if (paths.isEmpty()) return;
+    const bool inFront = before >= 0 && before < count();
+    additions_.add(paths, inFront ? sheet_->Key(before) : -1);
+}
+
+void EditorWindow::Added(const std::vector<FolderItem>& items, int beforeKey) {
+    const auto added = static_cast<int>(items.size());
+    show_->insert(items, beforeKey < 0 ? -1 : sheet_->GetListIndexFromItemData(beforeKey));
+    Say(added == 0 ? tr("Aucune image à ajouter") : tr("%Ln image(s) ajoutée(s)", nullptr, added));
+    CheckSettled();
+}
+
+// By so many places, as a block.
+void EditorWindow::MoveSelected(int places) {
+    const std::vector<int> selected = sheet_->Liste().SelItems();
+    if (selected.empty()) return Say(tr("Aucune diapositive n'est sélectionnée"));
+    if (show_->order().Sorts())
+        return Say(
+            tr("Les diapositives sont triées par %1 : choisissez « Ordre manuel » pour les déplacer").arg(SortName()));
+    show_->moveSelected(places < 0 ? selected.front() + places : selected.back() + 1 + places);
+}
+
+void EditorWindow::OpenItem(int listIndex) {
+    const QString path = sheet_->ImageFullPath(listIndex);
+    if (!path.isEmpty() && !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        Say(tr("Aucun programme n'ouvre cette image"));
+}
+
+bool EditorWindow::ShowContextMenu(const QContextMenuEvent& event) {
+    const bool byKey = event.reason() == QContextMenuEvent::Keyboard;
+    const int item = byKey ? navigator_->current() : navigator_->itemAt(event.pos());
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (item >= 0) {
+        if (!sheet_->Liste().Selected(item)) navigator_->setCurrent(item);
+        navigator_->mark(item);
+        menu->addActions({menus_.show, menus_.remove});
+        menu->addSeparator();
+        menu->addActions({menus_.moveBack, menus_.moveOn});
+        menu->addSeparator();
+        menu->addAction(menus_.selectAll);
+    } else {
+        menu->addActions({menus_.add, menus_.selectAll});
+        menu->addSeparator();
+        menu->addMenu(menus_.sort);
+        menu->addMenu(menus_.scroll);
+    }
+    const QRectF slide = sheet_->DiapoRect(std::max(navigator_->slideOf(item), 0));
+    menu->popup(byKey ? sheet_->mapToGlobal(slide.center().toPoint()) : event.globalPos());
+    return true;
+}
+
+}  // namespace vorlane::editor

@@ -1,0 +1,42 @@
+// The actions of the window's menus, by name.
+#pragma once
+
+#include <array>
+
+class QAction;
+class QMenu;
+
+namespace vorlane::editor {
+
+struct Menus {
+    QMenu* file;
+    QMenu* recent;
+    QAction* open;
+    QAction* add;
+    QAction* forget;
+    QAction* quit;
+
+    QMenu* edit;
+    QAction* undo;
+    QAction* redo;
+    QAction* selectAll;
+    QAction* show;
+    QAction* remove;
+    QAction* moveBack;
+    QAction* moveOn;
+
+    QMenu* view;
+    QMenu* sort;
+    std::array<QAction*, 6> sortBy;  // at the number of the criterion
+    QAction* ascending;
+    QAction* descending;
+    QMenu* scroll;
+    QAction* down;
+    QAction* sideways;
+    QAction* larger;
+    QAction* smaller;
+    QAction* usual;
+    QAction* fullScreen;
+};
+
+}  // namespace vorlane::editor

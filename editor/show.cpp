@@ -1,0 +1,147 @@
+#include "editor/show.h"
+
+#include "widgets/vorlanewidget.h"
+
+#include <algorithm>
+
+namespace vorlane::editor {
+
+namespace {
+
+QString ItemText(const FolderItem& item) {
+    return item.sortData + VorlaneWidget::SepSortWithData() + item.path;
+}
+
+}  // namespace
+
+GridView ViewOf(const VorlaneWidget& sheet) {
+    const bool sideways = sheet.ScrollDirection() == ui::ScrollDirection::sdHorizontal;
+    const int across = sideways ? sheet.CountDiapoY() : sheet.CountDiapoX();
+    const int along = sideways ? sheet.CountDiapoX() : sheet.CountDiapoY();
+    // The pool has a line more than is in sight.
+    return {sheet.Liste().ListCount(), std::max(sheet.Value(0), 0), std::max(across, 1), std::max(along - 1, 1)};
+}
+
+Show::Show(VorlaneWidget& sheet, QObject* parent) : QObject(parent), sheet_(sheet) {
+    undo_.setUndoLimit(200);
+    SetOrderState(order_);
+}
+
+int Show::count() const {
+    return sheet_.Liste().ListCount();
+}
+
+bool Show::reveal(int listIndex) {
+    if (listIndex < 0 || listIndex >= count()) return false;
+    const GridView view = ViewOf(sheet_);
+    const int top = TopShowing(listIndex, view);
+    if (top == view.top) return false;
+    sheet_.StartLecture({}, sheet_.Key(std::min(top, count() - 1)));
+    return true;
+}
+
+void Show::showAgain() {
+    const int top = std::min(sheet_.Value(0), count() - 1);
+    if (top > 0) {
+        sheet_.StartLecture({}, sheet_.Key(top));
+    } else {
+        sheet_.StartLecture();
+    }
+}
+
+void Show::unselectAll() {
+    UnselectItems();
+    showAgain();
+}
+
+// --- Without a way back ---
+
+void Show::clear() {
+    sheet_.Clear();
+    undo_.clear();
+    nextKey_ = 0;
+}
+
+void Show::append(const FolderItem& item) {
+    sheet_.Add(item.path, item.sortData, nextKey_++);
+}
+
+void Show::orderAppended() {
+    if (order_ == SortOrder{} || !order_.Sorts()) return;
+    undo_.clear();  // its indices would no longer be true
+    Order(order_);
+}
+
+void Show::setOrder(SortOrder order) {
+    SetOrderState(order);
+}
+
+// --- With a way back ---
+
+int Show::removeSelected() {
+    Change change{Selected(), {}};
+    const auto removed = static_cast<int>(change.out.size());
+    if (removed == 0) return 0;
+    sheet_.RemoveAllSelected();
+    Push(std::move(change), tr("le retrait"));
+    return removed;
+}
+
+void Show::insert(const std::vector<FolderItem>& items, int before) {
+    if (items.empty()) return;
+    const int end = count();
+    int place = order_.Sorts() || before < 0 ? end : std::min(before, end);
+    Change change;
+    for (const FolderItem& item : items) change.in.push_back({place++, nextKey_++, ItemText(item)});
+    Apply(change);
+    if (order_.Sorts()) {
+        Order(order_);
+        for (Placed& placed : change.in) placed.index = sheet_.GetListIndexFromItemData(placed.key);
+        std::sort(change.in.begin(), change.in.end(),
+                  [](const Placed& a, const Placed& b) { return a.index < b.index; });
+    }
+    Push(std::move(change), tr("l'ajout"));
+}
+
+bool Show::moveSelected(int before) {
+    if (order_.Sorts() || before < 0 || before > count()) return false;
+    Change change{Selected(), {}};
+    const auto staysBehind = [before](const Placed& placed) { return placed.index >= before; };
+    const auto above = std::find_if(change.out.begin(), change.out.end(), staysBehind) - change.out.begin();
+    int place = before - static_cast<int>(above);
+    for (const Placed& placed : change.out) change.in.push_back({place++, placed.key, placed.text});
+    const auto sameIndex = [](const Placed& a, const Placed& b) { return a.index == b.index; };
+    if (std::equal(change.out.begin(), change.out.end(), change.in.begin(), sameIndex)) return false;
+    Apply(change);
+    Push(std::move(change), tr("le déplacement"));
+    return true;
+}
+
+// --- Changes ---
+
+std::vector<Show::Placed> Show::Selected() const {
+    const VorlaneList list = sheet_.Liste();
+    std::vector<Placed> selected;
+    for (const int index : list.SelItems()) selected.push_back({index, list.ItemData(index), list.List(index)});
+    return selected;
+}
+
+void Show::UnselectItems() {
+    VorlaneList list = sheet_.Liste();
+    for (const int index : list.SelItems()) list.SetSelected(index, false);
+}
+
+// What comes is selected and in sight then.
+void Show::Apply(const Change& change) {
+    VorlaneList list = sheet_.Liste();
+    UnselectItems();
+    for (auto placed = change.out.rbegin(); placed != change.out.rend(); ++placed) list.RemoveItem(placed->index);
+    for (const Placed& placed : change.in) {
+        list.AddItem(placed.text, placed.key, placed.index);
+        list.SetSelected(placed.index, true);
+    }
+    showAgain();
+    reveal(change.in.empty() ? std::min(change.out.front().index, count() - 1) : change.in.front().index);
+}
+
+}  // namespace vorlane::editor

@@ -1,0 +1,93 @@
+// Show: the items on a sheet's list and their order, with a way back for all that the user does to them. The list is
+// the sheet's; this knows how it came about.
+//
+// An item's key is its own for as long as the show lasts, also while it is off the list.
+#pragma once
+
+#include "editor/folderreader.h"
+#include "editor/gridsteps.h"
+#include "editor/preferences.h"
+
+#include <vector>
+
+#include <QObject>
+#include <QUndoStack>
+
+namespace vorlane {
+class VorlaneWidget;
+}
+
+namespace vorlane::editor {
+
+// What is in sight on the sheet.
+GridView ViewOf(const VorlaneWidget& sheet);
+
+class Show : public QObject {
+    Q_OBJECT
+
+public:
+    // sheet outlives the show.
+    explicit Show(VorlaneWidget& sheet, QObject* parent = nullptr);
+
+    int count() const;
+    SortOrder order() const { return order_; }
+    QUndoStack& undoStack() { return undo_; }
+    // Scrolls as little as it takes to have the item in sight. Gives whether it scrolled.
+    bool reveal(int listIndex);
+    // Fills the slides anew from where the sheet stands.
+    void showAgain();
+    void unselectAll();
+
+    // --- Without a way back: what was done before is for good ---
+    void clear();
+    // At the end; comes to the slides with the next showAgain().
+    void append(const FolderItem& item);
+    // Orders what append brought, in the order of the names, as the order in force wants it.
+    void orderAppended();
+    // For what is to come; what is there stays.
+    void setOrder(SortOrder order);
+
+    // --- With a way back ---
+    // How many have gone.
+    int removeSelected();
+    // In front of a list index, or at the end for -1; where a sort is in force, in its order. They are selected then.
+    void insert(const std::vector<FolderItem>& items, int before);
+    // To in front of a list index. False when that changes nothing, or a sort forbids it.
+    bool moveSelected(int before);
+    void sort(SortOrder order);
+
+Q_SIGNALS:
+    // Items came, went or moved.
+    void changed();
+    void orderChanged();
+
+private:
+    struct Placed {
+        int index;
+        int key;
+        QString text;
+    };
+    // Items that leave the list, by their indices before, and items that come, by those after. A move is both.
+    struct Change {
+        std::vector<Placed> out;
+        std::vector<Placed> in;
+    };
+    class ChangeCommand;
+    class SortCommand;
+
+    std::vector<Placed> Selected() const;
+    void UnselectItems();
+    void Apply(const Change& change);
+    void Push(Change change, const QString& name);
+    void Order(SortOrder order);
+    void Restore(const std::vector<int>& keys, SortOrder order);
+    std::vector<int> Keys() const;
+    void SetOrderState(SortOrder order);
+
+    VorlaneWidget& sheet_;
+    QUndoStack undo_;
+    SortOrder order_;
+    int nextKey_ = 0;
+};
+
+}  // namespace vorlane::editor

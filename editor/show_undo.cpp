@@ -1,0 +1,107 @@
+// What the user does to a show, and the way back.
+#include "editor/show.h"
+#include "widgets/vorlanewidget.h"
+
+#include <unordered_map>
+#include <utility>
+
+#include <QUndoCommand>
+
+namespace vorlane::editor {
+
+// A change that is done already when it is pushed.
+class Show::ChangeCommand : public QUndoCommand {
+public:
+    ChangeCommand(Show& show, Change change, const QString& name)
+        : QUndoCommand(name), show_(show), change_(std::move(change)) {}
+
+    void redo() override {
+        if (std::exchange(done_, true)) Apply(change_);
+    }
+    void undo() override { Apply({change_.in, change_.out}); }
+
+private:
+    void Apply(const Change& change) {
+        show_.Apply(change);
+        Q_EMIT show_.changed();
+    }
+
+    Show& show_;
+    Change change_;
+    bool done_ = false;
+};
+
+// The order that was there before is kept key by key: a sort has no other way back.
+class Show::SortCommand : public QUndoCommand {
+public:
+    SortCommand(Show& show, SortOrder order, const QString& name)
+        : QUndoCommand(name), show_(show), order_(order), before_(show.order_), keys_(show.Keys()) {}
+
+    void redo() override { show_.Order(order_); }
+    void undo() override { show_.Restore(keys_, before_); }
+
+private:
+    Show& show_;
+    SortOrder order_;
+    SortOrder before_;
+    std::vector<int> keys_;
+};
+
+void Show::Push(Change change, const QString& name) {
+    undo_.push(new ChangeCommand(*this, std::move(change), name));
+    Q_EMIT changed();
+}
+
+void Show::sort(SortOrder order) {
+    if (order != order_) undo_.push(new SortCommand(*this, order, tr("le tri")));
+}
+
+void Show::SetOrderState(SortOrder order) {
+    const auto direction = order.descending ? ui::SortSens::ssDescending : ui::SortSens::ssAscending;
+    sheet_.SetSortedSens(order.Sorts() ? direction : ui::SortSens::ssNone);
+    if (std::exchange(order_, order) != order) Q_EMIT orderChanged();
+}
+
+void Show::Order(SortOrder order) {
+    SetOrderState(order);
+    if (!order.Sorts()) return;
+    sheet_.Sort(static_cast<int>(order.by));
+    Q_EMIT changed();
+}
+
+std::vector<int> Show::Keys() const {
+    const VorlaneList list = sheet_.Liste();
+    std::vector<int> keys(static_cast<size_t>(list.ListCount()));
+    for (size_t i = 0; i < keys.size(); ++i) keys[i] = list.ItemData(static_cast<int>(i));
+    return keys;
+}
+
+// The items that keys doesn't name, if any, follow those that it does.
+void Show::Restore(const std::vector<int>& keys, SortOrder order) {
+    struct Item {
+        QString text;
+        bool selected;
+    };
+    SetOrderState(order);
+    VorlaneList list = sheet_.Liste();
+    std::vector<int> present = Keys();
+    std::unordered_map<int, Item> items;
+    for (int i = 0; i < list.ListCount(); ++i) items[list.ItemData(i)] = {list.List(i), list.Selected(i)};
+    const int top = sheet_.Value(0);
+    list.Clear();
+    const auto put = [&](int key) {
+        const auto item = items.find(key);
+        if (item == items.end()) return;
+        list.AddItem(item->second.text, key);
+        if (item->second.selected) list.SetSelected(list.ListCount() - 1, true);
+        items.erase(item);
+    };
+    for (const int key : keys) put(key);
+    for (const int key : present) put(key);
+    if (top >= 0) showAgain();
+    const std::vector<int> selected = list.SelItems();
+    if (!selected.empty()) reveal(selected.front());
+    Q_EMIT changed();
+}
+
+}  // namespace vorlane::editor

@@ -1,0 +1,194 @@
+// The keyboard on the sheet, and the menu on its slides.
+#include "editor/navigator.h"
+#include "editor/show.h"
+#include "tests/editor/windowfixture.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QSignalSpy>
+
+namespace vorlane::editor {
+namespace {
+
+class NavigationTest : public WindowFixture {
+protected:
+    bool OpenMany() {
+        pictures_.WritePictures(100);
+        const bool opened = Open(Folder());
+        window_->activateWindow();
+        window_->sheet().setFocus();
+        return opened;
+    }
+    int Current() { return window_->navigator().current(); }
+    bool IsInSight() { return window_->navigator().slideOf(Current()) >= 0; }
+    std::vector<int> Selection() { return window_->sheet().Liste().SelItems(); }
+    int Line() { return window_->sheet().CountDiapoX(); }
+    int Lines() { return window_->sheet().CountDiapoY() - 1; }
+    QMenu* ContextMenu(const QPoint& place, QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse) {
+        QContextMenuEvent event(reason, place, window_->sheet().mapToGlobal(place));
+        QCoreApplication::sendEvent(&window_->sheet(), &event);
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    }
+    static QStringList Texts(const QMenu& menu) {
+        QStringList texts;
+        for (const QAction* action : menu.actions()) {
+            if (!action->isSeparator()) texts.push_back(QString(action->text()).remove('&'));
+        }
+        return texts;
+    }
+};
+
+TEST_F(NavigationTest, TheArrowsLeadTheCurrentSlide) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_Right);
+    EXPECT_EQ(Current(), 0);
+    Press(Qt::Key_Right);
+    EXPECT_EQ(Current(), 1);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Current(), 1 + Line());
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Up);
+    EXPECT_EQ(Current(), 0);
+    EXPECT_EQ(Selection(), std::vector{0});
+    EXPECT_EQ(window_->sheet().CurrentDiapo(), 0);
+}
+
+TEST_F(NavigationTest, TheSheetScrollsByWholeRowsToTheCurrentSlide) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_Right);
+    for (int i = 0; i < Lines() + 2; ++i) Press(Qt::Key_Down);
+    EXPECT_EQ(Current(), (Lines() + 2) * Line());
+    EXPECT_EQ(window_->sheet().Value(0), 3 * Line());
+    EXPECT_TRUE(IsInSight());
+    for (int i = 0; i < Lines() + 2; ++i) Press(Qt::Key_Up);
+    EXPECT_EQ(window_->sheet().Value(0), 0);
+}
+
+TEST_F(NavigationTest, HomeEndAndThePageKeysLeadFar) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_End);
+    EXPECT_EQ(Current(), 99);
+    EXPECT_TRUE(IsInSight());
+    EXPECT_EQ(Selection(), std::vector{99});
+    Press(Qt::Key_Home);
+    EXPECT_EQ(Current(), 0);
+    EXPECT_EQ(window_->sheet().Value(0), 0);
+    Press(Qt::Key_PageDown);
+    EXPECT_EQ(Current(), Line() * Lines());
+    EXPECT_TRUE(IsInSight());
+    Press(Qt::Key_PageUp);
+    EXPECT_EQ(Current(), 0);
+}
+
+TEST_F(NavigationTest, AHeldKeyRepeats) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_Home);
+    for (int i = 0; i < 5; ++i) {
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Right, {}, {}, true);
+        QCoreApplication::sendEvent(&window_->sheet(), &repeated);
+    }
+    EXPECT_EQ(Current(), 5);
+}
+
+TEST_F(NavigationTest, SidewaysTheArrowsAllLeadAlongTheRow) {
+    ASSERT_TRUE(OpenMany());
+    Action("Horizontal").trigger();
+    Press(Qt::Key_Home);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Right);
+    EXPECT_EQ(Current(), 2);
+    for (int i = 0; i < 20; ++i) Press(Qt::Key_Right);
+    EXPECT_TRUE(IsInSight());
+    EXPECT_EQ(Slide(0).Top(), Slide(1).Top());
+}
+
+TEST_F(NavigationTest, TypingANameComesToIt) {
+    for (const char* name : {"aube.jpg", "brume.jpg", "bruyere.jpg", "mer 2.jpg"}) pictures_.WritePicture(name);
+    ASSERT_TRUE(Open(Folder()));
+    QTest::keyClicks(&window_->sheet(), "bruy");
+    EXPECT_EQ(Current(), 2);
+    QTest::qWait(QApplication::keyboardInputInterval() * 2 + 50);
+    QTest::keyClicks(&window_->sheet(), "mer 2");  // the space is part of it
+    EXPECT_EQ(Current(), 3);
+    EXPECT_EQ(Selection(), std::vector{3});
+}
+
+TEST_F(NavigationTest, SpaceTakesTheCurrentSlideIntoTheSelectionAndOut) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_Home);
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(Selection().empty());
+    EXPECT_EQ(Current(), 0);
+    Press(Qt::Key_Space);
+    EXPECT_EQ(Selection(), std::vector{0});
+    EXPECT_TRUE(window_->sheet().Selected(0));
+}
+
+TEST_F(NavigationTest, EnterOpensThePicture) {
+    ASSERT_TRUE(OpenMany());
+    QSignalSpy activated(&window_->navigator(), &Navigator::activated);
+    Press(Qt::Key_Return);  // there is no current one yet
+    EXPECT_EQ(activated.count(), 0);
+    Press(Qt::Key_Home);
+    window_->navigator().disconnect(window_.get());  // starts no program here
+    Press(Qt::Key_Return);
+    ASSERT_EQ(activated.count(), 1);
+    EXPECT_EQ(activated.first().first().toInt(), 0);
+}
+
+TEST_F(NavigationTest, AFocusedSheetShowsItsCurrentSlide) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_Home);
+    Press(Qt::Key_Space);  // not selected, so that its ground says nothing
+    ASSERT_TRUE(test::WaitFor([this] { return window_->sheet().hasFocus(); }));
+    const auto ring = [this] {
+        const QRectF slide = window_->sheet().DiapoRect(0);
+        return window_->sheet().grab().toImage().pixelColor(QPointF(slide.center().x(), slide.top() - 2).toPoint());
+    };
+    EXPECT_EQ(ring(), window_->palette().color(QPalette::Highlight));
+    window_->sheet().clearFocus();
+    EXPECT_EQ(ring(), window_->palette().color(QPalette::Window));
+}
+
+TEST_F(NavigationTest, ASlideHasAMenu) {
+    ASSERT_TRUE(OpenMany());
+    QMenu* menu = ContextMenu(window_->sheet().DiapoRect(2).center().toPoint());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(Texts(*menu).first(), "Ouvrir l'image");
+    EXPECT_TRUE(Texts(*menu).contains("Retirer de la planche"));
+    EXPECT_EQ(Current(), 2);
+    EXPECT_EQ(Selection(), std::vector{2});
+    menu->close();
+}
+
+TEST_F(NavigationTest, TheMenuOfASelectedSlideLeavesTheSelection) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_A, Qt::ControlModifier);
+    QMenu* menu = ContextMenu(window_->sheet().DiapoRect(2).center().toPoint());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(Selection().size(), 100U);
+    menu->close();
+}
+
+TEST_F(NavigationTest, TheBackgroundHasAMenuOfItsOwn) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    QMenu* menu = ContextMenu(window_->sheet().rect().bottomRight() - QPoint(3, 3));
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(Texts(*menu).contains("Trier par"));
+    EXPECT_FALSE(Texts(*menu).contains("Retirer de la planche"));
+    menu->close();
+}
+
+TEST_F(NavigationTest, TheMenuKeyOpensTheMenuOfTheCurrentSlide) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_Right);
+    Press(Qt::Key_Right);
+    QMenu* menu = ContextMenu({}, QContextMenuEvent::Keyboard);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(Texts(*menu).contains("Retirer de la planche"));
+    EXPECT_EQ(Current(), 1);
+    menu->close();
+}
+
+}  // namespace
+}  // namespace vorlane::editor
