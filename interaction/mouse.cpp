@@ -146,7 +146,7 @@ void Vorlane::SlideMouseMove(int16_t index, int16_t button, int16_t shift, float
     const auto slide = Diapo.Item(index);
     Attempt([&] { HoverOn(index); });
     UpdateBand(slide->Left() + x, slide->Top() + y, false);  // the slide's twips, taken for pixels as they are
-    if (StartsDrag(x, y)) Attempt([&] { StartDrag(x, y); });
+    if (StartsDrag(x, y)) Attempt([&] { StartDrag(*slide, x, y); });
     Attempt([&] { RaiseFrom(*slide, Events.MouseMove, button, shift, x, y); });
 }
 
@@ -172,12 +172,13 @@ bool Vorlane::StartsDrag(float x, float y) const {
 }
 
 // The ghost wants to know where in the slide the pointer is, and on which side the insertion mark starts.
-void Vorlane::StartDrag(float x, float y) {
+void Vorlane::StartDrag(eDiapoLight& slide, float x, float y) {
     FrmDrag& ghost = SharedFrmDrag(Desktop());
     ghost.StartRightPart = x <= static_cast<float>(mouse_.DownX);
     ghost.HotX = ToInt32(Rescale(x, ScaleMode::Twips, ScaleMode::Pixels));
     ghost.HotY = ToInt32(Rescale(y, ScaleMode::Twips, ScaleMode::Pixels));
     if (oleDropMode_ == kAutomaticDrop) internalDrag_ = true;
+    slide.OLEDrag();
 }
 
 // --- Release ---

@@ -1,6 +1,7 @@
 // The contact sheet's events. What a handler may answer is a reference.
 #pragma once
 
+#include "platform/dataobject.h"
 #include "platform/event.h"
 #include "platform/picture.h"
 
@@ -20,17 +21,13 @@ struct VorlaneEvents {
     // A slide is about to take a file; the host may hand over a thumbnail and the state of its sounds:
     // Index, FileName, Picture, HaveSound, HaveComment, HaveTexte, InvalidMusic, InvalidCom.
     Event<int16_t, const std::string&, Picture&, bool&, bool&, bool&, bool&, bool&> BeforeSetPicture;
-    Event<int16_t, const std::string&> InvalidPicture;           // Index, FileName
-    Event<int32_t, int32_t&> Scroll;                             // Value, AsValue: the value last acted on
-    Event<> TLClear;                                             // the sheet has been cleared
-    Event<int16_t, int32_t&> Removed;                            // Index or -1, Key: an item is about to go
-    Event<> TLRefresh;                                           // items have gone
-    Event<> Sorted;                                              // Sort has come to its end
-    Event<int32_t, int32_t> TraitementFeedBack;                  // Value, Max: how far a long operation is
-    Event<const std::string&, int32_t&, bool&> OLENewFileAdded;  // FileName, Key, Cancel
-    Event<int16_t> AfterDropAdd;                                 // NumberOfFilesAdded, by a drop from outside
-    Event<int32_t&> OLECompleteDrag;                             // Effect: a drag that started here has ended
-
+    Event<int16_t, const std::string&> InvalidPicture;  // Index, FileName
+    Event<int32_t, int32_t&> Scroll;                    // Value, AsValue: the value last acted on
+    Event<> TLClear;                                    // the sheet has been cleared
+    Event<int16_t, int32_t&> Removed;                   // Index or -1, Key: an item is about to go
+    Event<> TLRefresh;                                  // items have gone
+    Event<> Sorted;                                     // Sort has come to its end
+    Event<int32_t, int32_t> TraitementFeedBack;         // Value, Max: how far a long operation is
     // The user's mouse and keys. Positions are in the container's scale, measured from the sheet's corner.
     Event<int16_t, int16_t, float, float> MouseDown;  // Button, Shift, x, Y
     Event<int16_t, int16_t, float, float> MouseMove;
@@ -44,6 +41,23 @@ struct VorlaneEvents {
     Event<int16_t&, int16_t> KeyDown;  // KeyCode, Shift; once while a key is held
     Event<int16_t&> KeyPress;          // KeyAscii
     Event<int16_t&, int16_t> KeyUp;    // KeyCode, Shift
+
+    // Drags. A drag from a slide is about to start, or one from outside comes in: NbObject, DisplayText (what the
+    // insertion mark says), Cancel (keeps it off the sheet).
+    Event<int32_t, std::string&, bool&> OLEBeforeStartDrag;
+    Event<DataObject&, int32_t&> OLEStartDrag;  // Data, AllowedEffects: a sum of 1 copy, 2 move
+    // A drag from outside is over a slide: Data, Effect, Button, Shift, x, Y, State (0 enter, 1 leave, 2 over).
+    Event<DataObject&, int32_t&, int16_t, int16_t, float, float, int16_t> OLEDragOver;
+    // A drop has been taken, or is none of the sheet's business: Data, Effect, Button, Shift, x, Y.
+    Event<DataObject&, int32_t&, int16_t, int16_t, float, float> OLEDragDrop;
+    Event<int32_t&, bool&> OLEGiveFeedback;                      // Effect, DefaultCursors
+    Event<DataObject&, int16_t&> OLESetData;                     // Data, DataFormat
+    Event<int32_t&> OLECompleteDrag;                             // Effect: a drag that started here has ended
+    Event<int32_t, bool&> OLEBeforeDropStart;                    // NumberOfFilesRep, Cancel
+    Event<const std::string&, int32_t&, bool&> OLENewFileAdded;  // FileName, Key, Cancel: a file comes in
+    Event<> OLESortChanged;                                      // a file takes its place, no sort being in force
+    Event<> OLEDragError;                                        // a drop on a list that takes none
+    Event<int32_t> AfterDropAdd;                                 // NumberOfFilesAdded, by a drop from outside
 
     // Number, Description, Source, LastDllError, Valeur: the log line
     Event<int32_t, const std::string&, const std::string&, int32_t, const std::string&> Error;

@@ -53,6 +53,7 @@ Vorlane::Vorlane(const vorlane::Desktop& desktop, const vorlane::Ambient& ambien
 
     Diapos.iItem.connect([this](int16_t index, std::shared_ptr<eDiapoLight>& slide) { slide = Diapo.Item(index); });
     ConnectGround();
+    ConnectGroundDrags();
     VScroll.Change.connect([this](int32_t value) { BarChanged(value); });
     TimerResize.Tick.connect([this] { Attempt([this] { ResizeTick(); }); });
     TimerUnload.Tick.connect([this] { Attempt([this] { UnloadTick(); }); });

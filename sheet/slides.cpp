@@ -126,6 +126,7 @@ void Vorlane::ConnectSlide(eDiapoLight& slide, int16_t index) {
              Events.Error(number, description, source, lastDllError, valeur + " - Index=" + std::to_string(index));
          });
     ConnectSlideMouse(member);
+    ConnectSlideDrags(member);
 }
 
 std::optional<int32_t> Vorlane::KeyOf(const eDiapoLight& slide) const {

@@ -11,6 +11,10 @@
 #include <cstdint>
 #include <string>
 
+namespace vorlane {
+class DataObject;
+}  // namespace vorlane
+
 namespace vorlane::sheet {
 
 struct Grid {
@@ -89,6 +93,19 @@ struct Band {
     bool AutoScrolling = false;  // it is scrolling the sheet
 };
 
+// A drag over the sheet, or from it.
+struct Drag {
+    Point Origin;                // where the pointer was last, on the screen
+    int16_t OpenRow = 0;         // the row that is open, from 1; 0 for none
+    int16_t DropSlot = 0;        // the slide in front of which items go
+    bool DropRightPart = false;  // they go behind it instead
+    std::string DisplayText;     // what the mark says, as the host wants it
+    bool Cancel = false;         // the host keeps the drag off the sheet
+    bool BusyShifting = false;   // a row is opening
+    bool Moved = false;          // the drag from here has moved its items
+    uint32_t Ends = 0;           // how many drags have ended: tells whoever let the message loop run
+};
+
 struct Gauge {
     bool ShowJauge = false;
     bool JaugeAnimation = false;
@@ -104,6 +121,20 @@ struct Sound {
     std::string AliasMusic;
     std::string AliasComment;
 };
+
+// A drag over the sheet or a drop on it, as it is heard.
+struct DragEvent {
+    DataObject& Data;
+    int32_t& Effect;  // the answer: a sum of 1 copy, 2 move
+    int16_t Button;
+    int16_t Shift;
+    float X;  // pixels of the sheet
+    float Y;
+    int16_t State;  // of those below; a drop has none
+};
+inline constexpr int16_t kDragEnter = 0;
+inline constexpr int16_t kDragLeave = 1;
+inline constexpr int16_t kDragOver = 2;
 
 // A fill under way.
 struct Fill {

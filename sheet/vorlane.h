@@ -11,7 +11,9 @@
 // Clear fail to their caller.
 #pragma once
 
+#include "interaction/droprow.h"
 #include "platform/controlarray.h"
+#include "platform/draggedfile.h"
 #include "platform/failure.h"
 #include "platform/filelistbox.h"
 #include "platform/imagelist.h"
@@ -152,6 +154,12 @@ public:
     // Selects the slide and its item and makes it current, or leaves none current.
     bool Selected(int16_t index) const { return Diapo.Item(index)->Selected(); }
     void SetSelected(int16_t index, bool selected);
+
+    // --- Drags ---
+    // Ends what a drag shows on the sheet, and leaves nothing selected.
+    void OleResetDrag();
+    // How many files data brings: those that are there, and those of the folders. nullptr brings none.
+    int32_t CountObject(const DataObject* data);
 
     // --- State ---
     int16_t Count() const;  // items; fails with Overflow() beyond 16 bits
@@ -484,7 +492,7 @@ private:
     void HoverOn(int16_t index);
     void Arm(float x, float y);
     bool StartsDrag(float x, float y) const;
-    void StartDrag(float x, float y);
+    void StartDrag(eDiapoLight& slide, float x, float y);
     using MouseEvent = Event<int16_t, int16_t, float, float>;
     void RaiseFrom(const eDiapoLight& slide, const MouseEvent& event, int16_t button, int16_t shift, float x, float y);
 
@@ -506,6 +514,60 @@ private:
     void MoveAnchor(BandSide side);
     void SelectAtSide(BandSide side);
     void SweepAtSide(int16_t index, bool swept);
+
+    // interaction/dragdrop.cpp
+    void ConnectSlideDrags(const sheet::SlideMember& member);
+    void ConnectGroundDrags();
+    void ConnectDropsOn(Control& ground);
+    void SlideStartDrag(int16_t index, DataObject& data, int32_t& effects);
+    void PutSelectionInto(DataObject& data) const;
+    void ShowGhost(int16_t index);
+    void DragTick();
+    void HideDrag();
+    void EndDrag();
+    void SlideCompleteDrag(int32_t& effect);
+
+    // interaction/dragover.cpp
+    bool EscapesDrag();
+    bool HasPlaceFor(const sheet::DragEvent& drag);
+    bool StepForeignDrag();
+    void DragOverSlide(int16_t index, const sheet::DragEvent& drag);
+    void AnswerOverSlide(int16_t index, const sheet::DragEvent& drag);
+    void DragOverGround(const sheet::DragEvent& drag);
+    void AskForForeignDrag(const sheet::DragEvent& drag);
+    void OpenUnder(const sheet::DragEvent& drag);
+    void LeaveGround();
+    int32_t CountFilesIn(const std::string& path);
+
+    // interaction/openrow.cpp
+    int16_t RowOf(int32_t slide) const;
+    droprow::Range SlidesOfRow(int16_t row) const;
+    int16_t RowGap() const;
+    droprow::Standing StandingOf(int32_t slide) const;
+    std::vector<droprow::Standing> StandingsOf(const droprow::Range& range) const;
+    void PlaceRow(const droprow::Range& range, const std::vector<droprow::Standing>& row);
+    bool IsOpenElsewhere(int16_t index) const;
+    void OpenRowAt(int16_t index, bool rightPart, bool force);
+    bool Shift(const droprow::Range& range, size_t count);
+    void DragRestoreLig(int16_t row);
+    void GiveWay(int16_t index, bool rightPart);
+    std::optional<droprow::Standing> Neighbour(int16_t index, int32_t neighbour) const;
+    float MarkHeight() const;
+    void PlaceMark(int16_t index, bool rightPart);
+
+    // interaction/drop.cpp
+    void DropOnGround(const sheet::DragEvent& drop);
+    void DropOnSlide(const sheet::DragEvent& drop);
+    void RaiseDrop(const sheet::DragEvent& drop);
+    void TakeDrop(const sheet::DragEvent& drop);
+    int32_t DropPlace() const;
+    int32_t MoveFiles(ListBox& list, std::vector<DraggedFile> files);
+    void PutItem(ListBox& list, const DraggedFile& file, int32_t index);
+    void ShowMoved(int32_t movedAbove);
+    int32_t AddFiles(ListBox& list, const std::vector<DraggedFile>& files);
+    int32_t AddFile(ListBox& list, DraggedFile file, int32_t place);
+    void ShowDropped();
+    void ShowSorted();
 
     // relayout.cpp
     void Resized() override { Resize(); }
@@ -531,6 +593,7 @@ private:
     sheet::Selection selection_;
     sheet::Mouse mouse_;
     sheet::Band band_;
+    sheet::Drag drag_;
     sheet::Gauge gauge_;
     sheet::Sorting sort_;
     sheet::Sound sound_;

@@ -1,0 +1,201 @@
+// Drops: where the items go, moves, files and folders from outside, and showing the list anew.
+#include "interaction/droprow.h"
+#include "interaction/droptext.h"
+#include "platform/dataobject.h"
+#include "platform/draggedfile.h"
+#include "platform/numbers.h"
+#include "platform/trelmic6.h"
+#include "sheet/itemtext.h"
+#include "sheet/vorlane.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace vorlane {
+
+namespace {
+
+constexpr int16_t kManualDrop = 1;  // of OLEDropMode
+constexpr int16_t kAutomaticDrop = 2;
+
+std::vector<DraggedFile> FilesOf(const DataObject& data) {
+    std::vector<DraggedFile> files;
+    if (data.GetFormat(kFormatFiles)) {
+        for (const std::string& entry : data.Files()) files.push_back(ReadDraggedFile(entry));
+    } else {
+        for (std::string& path : DroppedPaths(data.Text())) files.push_back({std::move(path), -1});
+    }
+    return files;
+}
+
+}  // namespace
+
+using sheet::DragEvent;
+
+// --- Where ---
+
+void Vorlane::DropOnGround(const DragEvent& drop) {
+    if (oleDropMode_ != kAutomaticDrop) {
+        ImgDrag.SetVisible(false);
+        DragRestoreLig(drag_.OpenRow);
+        if (!internalDrag_) RaiseDrop(drop);
+        return;
+    }
+    float x = drop.X;
+    float y = drop.Y;
+    drag_.DropRightPart = false;
+    drag_.DropSlot = GetDiapoFromCol(x, y, drag_.DropRightPart);
+    DropOnSlide(drop);
+}
+
+void Vorlane::RaiseDrop(const DragEvent& drop) {
+    Events.OLEDragDrop(drop.Data, drop.Effect, drop.Button, drop.Shift, ToContainer(drop.X), ToContainer(drop.Y));
+}
+
+// The list index in front of which items go, by the slide at the mark.
+int32_t Vorlane::DropPlace() const {
+    const bool blank = Diapo.Count() == 1 && !First().Visible();
+    const int32_t slot = blank ? 0 : drag_.DropSlot + (drag_.DropRightPart ? 1 : 0);
+    if (slot < 0) return 0;
+    const int32_t place = slot < Diapo.Count() ? Diapo.Item(slot)->Value() : Last()->Value() + 1;
+    return ToInt32(Max(place, 0));
+}
+
+// --- The drop ---
+
+void Vorlane::DropOnSlide(const DragEvent& drop) {
+    GuardVoid([&] { TakeDrop(drop); }, "Diapo_OLEDragDrop", drop.Effect, drop.Button, drop.Shift, drop.X, drop.Y);
+}
+
+void Vorlane::TakeDrop(const DragEvent& drop) {
+    HideDrag();
+    const bool own = internalDrag_;
+    if (oleDropMode_ != kAutomaticDrop && !(oleDropMode_ == kManualDrop && own)) {
+        if (!own) RaiseDrop(drop);
+        return;
+    }
+    ListBox* list = Bound().AsListBox();
+    if (list == nullptr) return Events.OLEDragError();
+    const bool offersFiles = drop.Data.GetFormat(kFormatFiles);
+    if (offersFiles || drop.Data.GetFormat(kFormatText)) {
+        bool cancel = false;
+        const int32_t offered = offersFiles ? ToInt32(drop.Data.Files().size()) : DroppedLines(drop.Data.Text());
+        Events.OLEBeforeDropStart(offered, cancel);
+        if (cancel) return;
+        const bool moves = own && offersFiles && sort_.SortedSens == SortSensType::ssNone;
+        const int32_t added = moves ? MoveFiles(*list, FilesOf(drop.Data)) : AddFiles(*list, FilesOf(drop.Data));
+        if (!own) Events.AfterDropAdd(added);
+    } else if (!own) {
+        Events.AfterDropAdd(0);
+    }
+    drag_.OpenRow = droprow::kNoRow;
+    drag_.DropSlot = 0;
+    drag_.DropRightPart = false;
+    RaiseDrop(drop);
+    internalDrag_ = false;
+}
+
+// --- Moves ---
+
+// The selected items go to the mark, with their keys, and stay selected. All of them come back, whatever has become of
+// their files, and also where a handler fails meanwhile; that failure is the drop's in the end.
+int32_t Vorlane::MoveFiles(ListBox& list, std::vector<DraggedFile> files) {
+    const std::vector<int32_t> items = SelectedTableau();
+    const int32_t place = DropPlace();
+    const int32_t top = First().Value();
+    const auto before = [&](int32_t index) {
+        return static_cast<int32_t>(std::lower_bound(items.begin(), items.end(), index) - items.begin());
+    };
+    const int32_t count = list.ListCount();
+    selection_.CurrentSlot = -1;
+    RemoveAllSelected();
+    const auto gone = static_cast<size_t>(count - list.ListCount());
+    if (files.size() == items.size()) files.erase(files.begin(), files.end() - static_cast<std::ptrdiff_t>(gone));
+    drag_.Moved = true;
+    std::exception_ptr failed;
+    int32_t next = ToInt32(Max(0, place - before(place)));
+    for (const DraggedFile& file : files) {
+        try {
+            Events.OLESortChanged();
+        } catch (...) {
+            if (!failed) failed = std::current_exception();
+        }
+        PutItem(list, file, next);
+        list.SetSelected(next, true);
+        ++next;
+    }
+    ShowMoved(before(top));
+    if (failed) std::rethrow_exception(failed);
+    return static_cast<int32_t>(files.size());
+}
+
+// Puts a file into the list, in front of index or, with -1, where the list takes it; a key of -1 becomes its index.
+void Vorlane::PutItem(ListBox& list, const DraggedFile& file, int32_t index) {
+    const std::string text = ItemText(SortKey(file.Path, items_.StdSortArgs), file.Path);
+    index >= 0 ? list.AddItem(text, index) : list.AddItem(text);
+    const int32_t at = list.NewIndex();
+    list.SetItemData(at, file.Key == -1 ? at : file.Key);
+}
+
+// Slide 0 shows the same item as before, unless it has moved itself.
+void Vorlane::ShowMoved(int32_t movedAbove) {
+    bar_.InVScrollInit = true;
+    VScroll.SetValue(VScroll.Value() - movedAbove);
+    bar_.InVScrollInit = false;
+    ShowDropped();
+}
+
+// --- Files from outside ---
+
+int32_t Vorlane::AddFiles(ListBox& list, const std::vector<DraggedFile>& files) {
+    const bool sorts = sort_.SortedSens != SortSensType::ssNone;
+    int32_t place = sorts ? -1 : DropPlace();
+    int32_t added = 0;
+    for (const DraggedFile& file : files) {
+        const int32_t more =
+            Trelmic6::PathExists(file.Path, PathKind::File) ? AddFile(list, file, place) : AddFolder(file.Path, place);
+        if (place >= 0) place += more;
+        added += more;
+    }
+    if (added == 0) return 0;
+    sorts ? ShowSorted() : ShowDropped();
+    return added;
+}
+
+// How many items it has become: one, or none where it fits no pattern or the host refuses it.
+int32_t Vorlane::AddFile(ListBox& list, DraggedFile file, int32_t place) {
+    if (!MatchesPattern(file.Path, items_.Pattern)) return 0;
+    bool cancel = false;
+    if (!internalDrag_) Events.OLENewFileAdded(file.Path, file.Key, cancel);
+    if (cancel) return 0;
+    if (place >= 0) Events.OLESortChanged();
+    PutItem(list, file, place);
+    return 1;
+}
+
+// --- Showing the list ---
+
+void Vorlane::ShowDropped() {
+    selection_.CurrentSlot = -1;
+    selection_.CurrentListIndex = -1;
+    InitVScroll(false);
+    bar_.ScrollValue = VScroll.Value();
+    StartLect(VScroll.Value(), -1, -1);
+    ForEachSlide([this](eDiapoLight& slide) {
+        if (slide.Selected()) Select(slide, selection_.SelectedColor, true);
+    });
+}
+
+void Vorlane::ShowSorted() {
+    InitVScroll(false);
+    int32_t anchor = -1;
+    SortInt(static_cast<uint8_t>(Max(sort_.SortCurrent, 1)), anchor);
+    if (First().Value() >= 0) {
+        StartLect(First().Value(), -1, -1);
+    } else {
+        StartLecture();
+    }
+    Events.Sorted();
+}
+
+}  // namespace vorlane
