@@ -1,6 +1,7 @@
 // Filling the 6 x 6 pool of a sheet from lists of any length: what it reads, binds, lays out and decodes, then what it
 // takes of time.
 #include "bench/countinglist.h"
+#include "bench/running.h"
 #include "platform/headless/window.h"
 #include "sheet/vorlane.h"
 
@@ -161,8 +162,5 @@ BENCHMARK(NewPool)->Arg(1'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kM
 }  // namespace
 
 int main(int argc, char** argv) {
-    PrintCounts();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return vorlane::RunBenchmarks(argc, argv, PrintCounts);
 }

@@ -1,10 +1,10 @@
 // The list at 1,000,000 items: what it takes of memory, then what its operations take of time.
+#include "bench/running.h"
 #include "platform/memorylistbox.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstdio>
-#include <ctime>
 #include <malloc.h>
 #include <numeric>
 #include <random>
@@ -14,6 +14,7 @@
 namespace {
 
 using vorlane::MemoryListBox;
+using vorlane::Seconds;
 
 constexpr int32_t kItems = 1'000'000;
 
@@ -51,14 +52,6 @@ std::vector<int32_t> Scattered(size_t count, int32_t below, uint32_t seed = 1) {
     std::shuffle(all.begin(), all.end(), random);
     all.resize(count);
     return all;
-}
-
-// Of processor time, which the neighbours on a shared machine don't change much.
-template <class Operation>
-double Seconds(Operation&& operation) {
-    const std::clock_t start = std::clock();
-    operation();
-    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 // --- Counts ---
@@ -400,10 +393,5 @@ BENCHMARK(ReorderAll)->Name("Reorder 1,000,000 at random")->Unit(benchmark::kMil
 }  // namespace
 
 int main(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    PrintCounts();
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return vorlane::RunBenchmarks(argc, argv, PrintCounts);
 }

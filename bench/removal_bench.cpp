@@ -1,12 +1,12 @@
 // Removing scattered selected items of 1,000,000: what it reads, announces and binds, then what it takes of time.
 #include "bench/countinglist.h"
+#include "bench/running.h"
 #include "platform/headless/window.h"
 #include "sheet/vorlane.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstdio>
-#include <ctime>
 #include <numeric>
 #include <random>
 #include <string>
@@ -109,13 +109,6 @@ void PrintCounts() {
 
 // --- Times, of the processor alone ---
 
-template <class Operation>
-double Seconds(Operation&& operation) {
-    const std::clock_t start = std::clock();
-    operation();
-    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
-
 void RemoveSelected(benchmark::State& state) {
     Bench<MemoryListBox>& bench = Shared();
     const auto items = Scattered(static_cast<size_t>(state.range(0)));
@@ -147,8 +140,5 @@ BENCHMARK(RemoveOne)->Name("Remove")->UseManualTime()->Unit(benchmark::kMillisec
 }  // namespace
 
 int main(int argc, char** argv) {
-    PrintCounts();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return vorlane::RunBenchmarks(argc, argv, PrintCounts);
 }

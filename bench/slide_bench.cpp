@@ -1,4 +1,5 @@
 // One slide: what its layout and its assignment do, counted, then what they take of time.
+#include "bench/running.h"
 #include "platform/headless/desktop.h"
 #include "slide/ediapolight.h"
 
@@ -112,8 +113,5 @@ BENCHMARK(NewSlide);
 }  // namespace
 
 int main(int argc, char** argv) {
-    PrintCounts();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return vorlane::RunBenchmarks(argc, argv, PrintCounts);
 }
