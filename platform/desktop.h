@@ -31,7 +31,8 @@ public:
 
     // Milliseconds since some fixed moment; never goes back.
     virtual int64_t Now() const = 0;
-    // Calls tick every interval milliseconds (1 or more) from the message loop until stopped. Never returns 0.
+    // Calls tick every interval milliseconds (1 or more) from the message loop until stopped; what it throws is
+    // ignored. Never returns 0.
     virtual TimerId StartTimer(int32_t interval, std::function<void()> tick) = 0;
     // Harmless on a timer that is stopped already; the timer may stop itself from its tick.
     virtual void StopTimer(TimerId timer) = 0;

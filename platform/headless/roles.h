@@ -23,6 +23,8 @@ public:
     // Runs action inside the n-th coming DoEvents, counted from 1. Several actions of one yield run in order.
     void AtYield(int32_t n, std::function<void()> action);
     int32_t Yields() const { return yields_; }
+    // Actions whose yield has not come.
+    int32_t PendingActions() const { return static_cast<int32_t>(atYield_.size()); }
     int32_t RunningTimers() const { return static_cast<int32_t>(timers_.size()); }
 
     int64_t Now() const override { return now_; }
