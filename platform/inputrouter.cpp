@@ -12,6 +12,14 @@ constexpr int16_t kEnter = 0;
 constexpr int16_t kLeave = 1;
 constexpr int16_t kOver = 2;
 
+int16_t With(int16_t buttons, int16_t button) {
+    return static_cast<int16_t>(buttons | button);
+}
+
+int16_t Without(int16_t buttons, int16_t button) {
+    return static_cast<int16_t>(buttons & ~button);
+}
+
 struct Place {
     float x;
     float y;
@@ -61,6 +69,21 @@ InputRouter::Target InputRouter::MouseTarget(float x, float y) const {
     return pressed_ ? pressed_ : Answering(x, y);
 }
 
+bool InputRouter::Reachable(const Control& control) const {
+    for (const Control* outer = &control; outer != nullptr; outer = outer->Container()) {
+        if (!outer->Enabled()) return false;
+        if (outer == &root_) return true;
+        if (!outer->Visible()) return false;
+    }
+    return false;
+}
+
+InputRouter::Target InputRouter::KeyTarget() {
+    if (focus_ && !Reachable(*focus_.control)) focus_ = {};
+    if (focus_) return focus_;
+    return root_.Enabled() ? Target{&root_} : Target{};
+}
+
 void InputRouter::Raise(const Target& target, MouseEvent InputEvents::*event, int16_t button, int16_t shift, float x,
                         float y) {
     const Place place = InUnitsOf(*target.control, x, y);
@@ -75,12 +98,13 @@ bool InputRouter::IsDoubleClick(const Target& target, int16_t button, float x, f
 
 void InputRouter::MouseDown(int16_t button, int16_t shift, float x, float y) {
     const Target target = MouseTarget(x, y);
-    held_ = static_cast<int16_t>(held_ | button);
+    held_ = With(held_, button);
     if (!target) return;
     if (!pressed_) pressed_ = target;
-    doubled_ = IsDoubleClick(target, button, x, y);
-    last_ = doubled_ ? LastPress{} : LastPress{target.control, button, root_.Desktop().clock.Now(), x, y};
-    if (doubled_) {
+    const bool doubled = IsDoubleClick(target, button, x, y);
+    doubled_ = doubled ? With(doubled_, button) : Without(doubled_, button);
+    last_ = doubled ? LastPress{} : LastPress{target.control, button, root_.Desktop().clock.Now(), x, y};
+    if (doubled) {
         Attempt([&] { target.control->Input.DblClick(); });
     } else {
         Raise(target, &InputEvents::MouseDown, button, shift, x, y);
@@ -89,11 +113,12 @@ void InputRouter::MouseDown(int16_t button, int16_t shift, float x, float y) {
 
 void InputRouter::MouseUp(int16_t button, int16_t shift, float x, float y) {
     const Target target = MouseTarget(x, y);
-    held_ = static_cast<int16_t>(held_ & ~button);
+    held_ = Without(held_, button);
     const Target pressed = pressed_;
     if (held_ == 0) pressed_ = {};
     if (!target) return;
-    const bool clicked = !doubled_ && pressed.control == target.control && Answering(x, y).control == target.control;
+    const bool clicked =
+        (doubled_ & button) == 0 && pressed.control == target.control && Answering(x, y).control == target.control;
     Raise(target, &InputEvents::MouseUp, button, shift, x, y);
     if (clicked) Attempt([&] { target.control->Input.Click(); });
 }
@@ -115,18 +140,15 @@ void InputRouter::SetFocus(Control* control) {
 }
 
 void InputRouter::KeyDown(int16_t& keyCode, int16_t shift) {
-    const Target target = focus_ ? focus_ : Target{&root_};
-    if (target.control->Enabled()) Attempt([&] { target.control->Input.KeyDown(keyCode, shift); });
+    if (const Target target = KeyTarget()) Attempt([&] { target.control->Input.KeyDown(keyCode, shift); });
 }
 
 void InputRouter::KeyPress(int16_t& keyAscii) {
-    const Target target = focus_ ? focus_ : Target{&root_};
-    if (target.control->Enabled()) Attempt([&] { target.control->Input.KeyPress(keyAscii); });
+    if (const Target target = KeyTarget()) Attempt([&] { target.control->Input.KeyPress(keyAscii); });
 }
 
 void InputRouter::KeyUp(int16_t& keyCode, int16_t shift) {
-    const Target target = focus_ ? focus_ : Target{&root_};
-    if (target.control->Enabled()) Attempt([&] { target.control->Input.KeyUp(keyCode, shift); });
+    if (const Target target = KeyTarget()) Attempt([&] { target.control->Input.KeyUp(keyCode, shift); });
 }
 
 void InputRouter::DragTo(const Target& target, DataObject& data, int32_t& effect, int16_t button, int16_t shift,

@@ -17,7 +17,7 @@ namespace vorlane {
 
 class InputRouter {
 public:
-    // root outlives the router.
+    // No input may come once root is gone.
     explicit InputRouter(UserControl& root) : root_(root) {}
 
     // Button: the one that went down or up. Shift: see InputEvents. x, y: pixels of the root, also outside it.
@@ -30,7 +30,8 @@ public:
     // Notches, positive away from the user.
     void Wheel(double notches, float x, float y);
 
-    // Keys go to the focused control, or to the root. The code comes back 0 when a handler swallowed it.
+    // Keys go to the focused control; once it is hidden, disabled or unloaded, to the root. The code comes back 0 when
+    // a handler swallowed it.
     void KeyDown(int16_t& keyCode, int16_t shift);
     void KeyPress(int16_t& keyAscii);
     void KeyUp(int16_t& keyCode, int16_t shift);
@@ -72,6 +73,9 @@ private:
     };
 
     Target Pin(Control* control) const;
+    // Whether the user can work on a control: all from it up to the root is enabled, and seen.
+    bool Reachable(const Control& control) const;
+    Target KeyTarget();
     // The control that answers at a point: the innermost enabled one.
     Target Answering(float x, float y) const;
     Target MouseTarget(float x, float y) const;
@@ -88,7 +92,7 @@ private:
     Target focus_;
     Target dragged_;  // the last one that a drag was over
     LastPress last_;
-    bool doubled_ = false;  // the press under way made a double click
+    int16_t doubled_ = 0;  // buttons whose last press made a double click
 };
 
 }  // namespace vorlane

@@ -110,6 +110,25 @@ TEST_F(InputRouterTest, AThirdPressBeginsAnew) {
     EXPECT_EQ(Inputs(), "input image MouseDown 1 0 30,75\n");
 }
 
+TEST_F(InputRouterTest, ADoubleClickOfOneButtonTakesNoClickFromAnother) {
+    window.Click(12, 25, kRightButton);
+    window.Press(12, 25);
+    desktop.trace.Clear();
+    window.Router().MouseDown(kRightButton, 0, 12, 25);
+    window.Router().MouseUp(kRightButton, 0, 12, 25);
+    window.Router().MouseDown(kRightButton, 0, 12, 25);
+    window.Release(12, 25);
+    window.Release(12, 25, kRightButton);
+    EXPECT_EQ(Inputs(),
+              "input image MouseDown 2 0 30,75\n"
+              "input image MouseUp 2 0 30,75\n"
+              "input image Click\n"
+              "input image DblClick\n"
+              "input image MouseUp 1 0 30,75\n"
+              "input image Click\n"
+              "input image MouseUp 2 0 30,75\n");
+}
+
 TEST_F(InputRouterTest, TwoPressesAreNoDoubleClickWhenTooLateTooFarOrWithAnotherButton) {
     const auto second = [&](int64_t wait, float x, int16_t button) {
         window.Click(15, 25);
@@ -169,6 +188,37 @@ TEST_F(InputRouterTest, KeysGoToTheRootAndToTheFocusedControl) {
     window.Key(66, 98, kShift);
     EXPECT_EQ(Inputs(),
               "input root KeyDown 65 0\ninput root KeyPress 97\ninput image KeyDown 66 1\ninput image KeyPress 98\n");
+}
+
+TEST_F(InputRouterTest, AFocusedControlThatIsHiddenOrDisabledLosesTheKeysToTheRoot) {
+    const auto answers = [&](auto&& change) {
+        window.Router().SetFocus(&nested);
+        change();
+        window.Key(65);
+        return Inputs();
+    };
+    const char* const atTheRoot = "input root KeyDown 65 0\n";
+    EXPECT_EQ(answers([] {}), "input nested KeyDown 65 0\n");
+    EXPECT_EQ(answers([&] { nested.SetVisible(false); }), atTheRoot);
+    EXPECT_EQ(window.Router().Focus(), nullptr);
+    nested.SetVisible(true);
+    window.Key(65);
+    EXPECT_EQ(Inputs(), atTheRoot);
+    EXPECT_EQ(answers([&] { inner.SetEnabled(false); }), atTheRoot);
+    inner.SetEnabled(true);
+    EXPECT_EQ(answers([&] { inner.SetVisible(false); }), atTheRoot);
+    EXPECT_EQ(answers([&] { root.SetEnabled(false); }), "");
+}
+
+TEST_F(InputRouterTest, AFocusedElementThatIsUnloadedLosesTheKeysToTheRoot) {
+    ControlArray<Image> images([&](int32_t) { return std::make_shared<Image>(&root); });
+    images.Load(1);
+    window.Router().SetFocus(images.Item(1).get());
+    const std::weak_ptr<Image> watched = images.Item(1);
+    images.Unload(1);
+    window.Key(65);
+    EXPECT_EQ(Inputs(), "input root KeyDown 65 0\n");
+    EXPECT_TRUE(watched.expired());
 }
 
 TEST_F(InputRouterTest, AHandlerSwallowsACharacterByWritingZero) {
@@ -339,6 +389,18 @@ TEST(FakeClock, ATimerIsNotCalledAgainInsideItsOwnTick) {
     EXPECT_EQ(ticks, 1);
 }
 
+TEST(FakeClock, ATickThatThrowsIsIgnoredAndTheTimerGoesOn) {
+    Trace trace;
+    FakeClock clock(trace);
+    int ticks = 0;
+    clock.StartTimer(10, [&] {
+        ++ticks;
+        throw std::runtime_error("host");
+    });
+    EXPECT_NO_THROW(clock.Advance(25));
+    EXPECT_EQ(ticks, 2);
+}
+
 TEST(FakeClock, RunsAnActionAtTheYieldItWasSetFor) {
     Trace trace;
     FakeClock clock(trace);
@@ -356,8 +418,10 @@ TEST(HeadlessDesktop, NamesWhatLeaks) {
         desktop.clock.StartTimer(10, [] {});
         desktop.windows.Open({0, 0, 10, 10});
         desktop.screen.SetCapture(7);
+        desktop.clock.AtYield(2, [] {});
+        desktop.clock.DoEvents();
     }
-    EXPECT_EQ(leaks, "running timers: 1\nopen windows: 1\ncaptured by window 7\n");
+    EXPECT_EQ(leaks, "running timers: 1\nactions without a yield: 1\nopen windows: 1\ncaptured by window 7\n");
 }
 
 TEST(HeadlessDesktop, EndsQuietlyWhenAllIsReleased) {
