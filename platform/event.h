@@ -8,6 +8,7 @@
 // One thread. An event without a handler costs one pointer test.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -140,14 +141,17 @@ private:
             }
         }
 
-        // Forgets disconnected handlers once no raise walks over them. They are destroyed behind the loop, since
-        // what a handler holds may come back here as it goes.
+        // Forgets disconnected handlers once no raise walks over them, without a need for memory. Each goes when the
+        // list no longer holds it, since what a handler holds may come back here as it goes.
         void Sweep() {
-            if (raising > 0 || static_cast<size_t>(live) == entries.size()) return;
-            std::vector<std::shared_ptr<Slot>> gone;
-            std::vector<std::shared_ptr<Slot>> kept;
-            for (auto& slot : entries) (slot->connected ? kept : gone).push_back(std::move(slot));
-            entries = std::move(kept);
+            if (raising > 0) return;
+            while (static_cast<size_t>(live) != entries.size()) {
+                std::stable_partition(entries.begin(), entries.end(), [](const auto& slot) { return slot->connected; });
+                while (!entries.empty() && !entries.back()->connected) {
+                    const std::shared_ptr<Slot> gone = std::move(entries.back());
+                    entries.pop_back();
+                }
+            }
         }
 
         std::vector<std::shared_ptr<Slot>> entries;

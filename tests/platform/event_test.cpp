@@ -258,6 +258,28 @@ TEST_F(EventTest, AHandlersEndMayComeBackToTheEvent) {
     EXPECT_EQ(log, "b");
 }
 
+TEST_F(EventTest, AHandlersEndMayConnectAnother) {
+    struct Heir {
+        explicit Heir(std::function<void()> with) : begin(std::move(with)) {}
+        ~Heir() { begin(); }
+        std::function<void()> begin;
+    };
+    const auto heir = [&](char letter) {
+        return std::make_shared<Heir>([this, letter] { event.connect(Note(letter)); });
+    };
+    Connection first;
+    Connection second;
+    event.connect([&] {
+        first.disconnect();
+        second.disconnect();
+    });
+    first = event.connect([held = heir('c')] {});
+    second = event.connect([held = heir('d')] {});
+    event.connect(Note('b'));
+    EXPECT_EQ(Raised(), "b");
+    EXPECT_EQ(Raised(), "bdc");
+}
+
 TEST(EventArguments, ReferencesCarryTheAnswerFromHandlerToHandlerToTheRaiser) {
     Event<int&, const std::string&> event;
     event.connect([](int& answer, const std::string& text) { answer += static_cast<int>(text.size()); });
