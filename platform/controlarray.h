@@ -33,11 +33,13 @@ public:
         return elements_[At(index)];
     }
 
-    // Fails with ControlAlreadyLoaded(), or with SubscriptOutOfRange() for a negative index.
+    // Fails with ControlAlreadyLoaded(), also when the making of the element has loaded another one there, or with
+    // SubscriptOutOfRange() for a negative index.
     void Load(int32_t index) {
         if (index < 0) throw failures::SubscriptOutOfRange();
         if (Loaded(index)) throw failures::ControlAlreadyLoaded();
         std::shared_ptr<T> element = maker_(index);
+        if (Loaded(index)) throw failures::ControlAlreadyLoaded();
         static_cast<Control&>(*element).element_ = element;
         if (index > UpperBound()) elements_.resize(At(index) + 1);
         elements_[At(index)] = std::move(element);

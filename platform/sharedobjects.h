@@ -28,8 +28,12 @@ public:
         return *made;
     }
 
+    // What an object asks for as it ends is made, and ends too.
     void Clear() {
-        while (!objects_.empty()) objects_.pop_back();
+        while (!objects_.empty()) {
+            const std::shared_ptr<void> last = std::move(objects_.back().second);
+            objects_.pop_back();
+        }
     }
 
 private:

@@ -51,7 +51,10 @@ void UserControl::SetBorderStyle(int32_t style) {
 }
 
 void UserControl::OnResize() {
-    for (Control* child : std::vector<Control*>(children_)) child->Move(child->Left(), child->Top());
+    for (size_t i = 0; i < children_.size(); ++i) {  // what a child tells of its move may end others
+        Control& child = *children_[i];
+        if (child.Align() != Align::None) child.Move(child.Left(), child.Top());
+    }
     Resized();
 }
 

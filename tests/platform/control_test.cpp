@@ -157,6 +157,17 @@ TEST_F(ControlTest, AnAlignedControlFollowsItsContainersInside) {
     EXPECT_EQ(bar.Bounds(), (Box{82, 0, 16, 48}));
 }
 
+TEST_F(ControlTest, AnAlignedControlThatMovesMayEndAnother) {
+    ScrollbarPlus first(&root);
+    auto second = std::make_unique<ScrollbarPlus>(&root);
+    ScrollbarPlus third(&root);
+    for (ScrollbarPlus* bar : {&first, second.get(), &third}) bar->SetAlign(Align::Right);
+    first.Changed.connect([&] { second.reset(); });
+    root.Move(0, 0, 300, 50);
+    EXPECT_EQ(root.Children(), (Controls{&first, &third}));
+    EXPECT_EQ(third.Bounds(), (Box{284, 0, 16, 50}));
+}
+
 TEST_F(ControlTest, OnlyTheThicknessOfAnAlignedControlCanBeSet) {
     ScrollbarPlus bar(&root);
     bar.SetAlign(Align::Right);

@@ -86,6 +86,21 @@ TEST_F(ControlArrayTest, AMakerThatFailsLeavesTheArrayAsItWas) {
     EXPECT_EQ(labels.UpperBound(), 0);
 }
 
+TEST_F(ControlArrayTest, AnElementThatIsLoadedWhileItIsMadeStays) {
+    ControlArray<Label>* array = nullptr;
+    bool again = false;
+    ControlArray<Label> labels([&](int32_t index) {
+        if (std::exchange(again, false)) array->Load(index);
+        return std::make_shared<Label>(&root);
+    });
+    array = &labels;
+    again = true;
+    EXPECT_FAILURE(labels.Load(1), ControlAlreadyLoaded());
+    EXPECT_EQ(labels.Count(), 2);
+    EXPECT_EQ(root.Children().size(), 2U);
+    EXPECT_EQ(root.Children()[1], labels.Item(1).get());
+}
+
 TEST_F(ControlArrayTest, AnUnloadedElementLeavesTheScreenAtOnceAndLivesWhileItIsHeld) {
     auto labels = Labels();
     labels.Load(1);

@@ -39,6 +39,25 @@ TEST(SharedObjects, EndWithTheirOwnerTheYoungestFirst) {
     EXPECT_EQ(log, "second first ");
 }
 
+struct Asking {
+    Asking(SharedObjects& of, std::string& written) : shared(of), log(written) {}
+    ~Asking() {
+        log += "asking ";
+        shared.Get<First>(log, 1);
+    }
+    SharedObjects& shared;
+    std::string& log;
+};
+
+TEST(SharedObjects, MayAskForOthersAsTheyEnd) {
+    std::string log;
+    SharedObjects shared;
+    shared.Get<Second>(log);
+    shared.Get<Asking>(shared, log);
+    shared.Clear();
+    EXPECT_EQ(log, "asking first second ");
+}
+
 TEST(SharedObjects, AreMadeAnewBehindClear) {
     std::string log;
     SharedObjects shared;
