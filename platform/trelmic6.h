@@ -97,8 +97,8 @@ public:
     double SoundSeconds(const std::string& path) const { return desktop_.sounds.SoundSeconds(path); }
 
     // --- The system ---
-    // The kind of operating system on the library's own scale: 8 or more has layered windows, 11 or more paints
-    // gradients itself. Every desktop of today counts as 12.
+    // The kind of operating system on the library's own scale: 1, 2, 3 and 7 can't paint gradients, 8 or more has
+    // layered windows, 11 or more wants the lines of a tooltip evened. Every desktop of today counts as 12.
     static int32_t SystemFamily() { return 12; }
 
 private:
