@@ -2,6 +2,8 @@
 #include "slidetest.h"
 
 #include <algorithm>
+#include <map>
+#include <string>
 
 namespace vorlane::headless {
 namespace {
@@ -14,133 +16,82 @@ protected:
     }
 };
 
+// --- The pieces of the drawings around the area, as far as several of them share one ---
+
+const std::string kOuterFrame = R"(
+Box 0,0 159,139 #C0C0C0
+)";
+
+const std::string kAreaShadow = R"(Box 149,10 149,97 #B4B4B4
+Box 2,97 149,97 #B4B4B4
+Box 150,11 150,98 #DADADA
+Box 3,98 150,98 #DADADA
+)";
+
+// Sunken lines, with room for a shadow and without.
+const std::string kLines = R"(Line 1,9 149,9 sys16
+Line 1,9 1,97 sys16
+Line 148,9 148,97 sys20
+Line 1,96 148,96 sys20
+)";
+const std::string kInnerLines = R"(Line 2,10 147,10 sys21
+Line 2,10 2,95 sys21
+Line 147,10 147,96 sys22
+Line 2,95 147,95 sys22
+)";
+const std::string kWideLines = R"(Line 1,9 148,9 sys16
+Line 1,9 1,99 sys16
+Line 147,9 147,99 sys20
+Line 1,98 147,98 sys20
+)";
+const std::string kWideInnerLines = R"(Line 2,10 146,10 sys21
+Line 2,10 2,97 sys21
+Line 146,10 146,98 sys22
+Line 2,97 146,97 sys22
+)";
+
+// Sunken lines as raised ones: light and dark change places.
+std::string Raised(std::string lines) {
+    const std::map<std::string, std::string> others{{"16", "20"}, {"20", "16"}, {"21", "22"}, {"22", "21"}};
+    for (size_t at = lines.find("sys"); at != std::string::npos; at = lines.find("sys", at + 1)) {
+        lines.replace(at + 3, 2, others.at(lines.substr(at + 3, 2)));
+    }
+    return lines;
+}
+
 struct Golden {
     const char* name;
     DiapoBorderStyle style;
-    bool shadow;
-    const char* drawn;
+    std::string withShadow;  // behind the outer frame
+    std::string without;
 };
 
 class AreaFramesTest : public FramesTest, public testing::WithParamInterface<Golden> {};
 
 TEST_P(AreaFramesTest, AFrameWithoutAPictureFollowsTheArea) {
     slide.SetBorderStyle(GetParam().style);
-    slide.SetShowShadow(GetParam().shadow);
-    EXPECT_EQ(Drawn(), GetParam().drawn);
+    EXPECT_EQ(Drawn(), kOuterFrame + GetParam().withShadow);
+    slide.SetShowShadow(false);
+    EXPECT_EQ(Drawn(), kOuterFrame + GetParam().without);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Styles, AreaFramesTest,
-    testing::Values(Golden{"BorderNoneWithShadow", DiapoBorderStyle::BorderNone, true, R"(
-Box 0,0 159,139 #C0C0C0
-Box 149,9 149,97 #B4B4B4
+    testing::Values(Golden{"BorderNone", DiapoBorderStyle::BorderNone, R"(Box 149,9 149,97 #B4B4B4
 Box 1,97 149,97 #B4B4B4
 Box 150,10 150,98 #DADADA
 Box 2,98 150,98 #DADADA
-)"},
-                    Golden{"BorderNoneWithoutShadow", DiapoBorderStyle::BorderNone, false, R"(
-Box 0,0 159,139 #C0C0C0
-)"},
-                    Golden{"BorderSunkenWithShadow", DiapoBorderStyle::BorderSunken, true, R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 149,9 sys16
-Line 1,9 1,97 sys16
-Line 148,9 148,97 sys20
-Line 1,96 148,96 sys20
-Box 149,10 149,97 #B4B4B4
-Box 2,97 149,97 #B4B4B4
-Box 150,11 150,98 #DADADA
-Box 3,98 150,98 #DADADA
-)"},
-                    Golden{"BorderSunkenWithoutShadow", DiapoBorderStyle::BorderSunken, false, R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 148,9 sys16
-Line 1,9 1,99 sys16
-Line 147,9 147,99 sys20
-Line 1,98 147,98 sys20
-)"},
-                    Golden{"BorderRaisedWithShadow", DiapoBorderStyle::BorderRaised, true, R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 149,9 sys20
-Line 1,9 1,97 sys20
-Line 148,9 148,97 sys16
-Line 1,96 148,96 sys16
-Box 149,10 149,97 #B4B4B4
-Box 2,97 149,97 #B4B4B4
-Box 150,11 150,98 #DADADA
-Box 3,98 150,98 #DADADA
-)"},
-                    Golden{"BorderRaisedWithoutShadow", DiapoBorderStyle::BorderRaised, false, R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 148,9 sys20
-Line 1,9 1,99 sys20
-Line 147,9 147,99 sys16
-Line 1,98 147,98 sys16
-)"},
-                    Golden{"BorderSunkenDoubleWithShadow", DiapoBorderStyle::BorderSunkenDouble, true, R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 149,9 sys16
-Line 1,9 1,97 sys16
-Line 148,9 148,97 sys20
-Line 1,96 148,96 sys20
-Line 2,10 147,10 sys21
-Line 2,10 2,95 sys21
-Line 147,10 147,96 sys22
-Line 2,95 147,95 sys22
-Box 149,10 149,97 #B4B4B4
-Box 2,97 149,97 #B4B4B4
-Box 150,11 150,98 #DADADA
-Box 3,98 150,98 #DADADA
-)"},
-                    Golden{"BorderSunkenDoubleWithoutShadow", DiapoBorderStyle::BorderSunkenDouble, false, R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 148,9 sys16
-Line 1,9 1,99 sys16
-Line 147,9 147,99 sys20
-Line 1,98 147,98 sys20
-Line 2,10 146,10 sys21
-Line 2,10 2,97 sys21
-Line 146,10 146,98 sys22
-Line 2,97 146,97 sys22
-)"},
-                    Golden{"BorderRaisedDoubleWithShadow", DiapoBorderStyle::BorderRaisedDouble, true, R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 149,9 sys20
-Line 1,9 1,97 sys20
-Line 148,9 148,97 sys16
-Line 1,96 148,96 sys16
-Line 2,10 147,10 sys22
-Line 2,10 2,95 sys22
-Line 147,10 147,96 sys21
-Line 2,95 147,95 sys21
-Box 149,10 149,97 #B4B4B4
-Box 2,97 149,97 #B4B4B4
-Box 150,11 150,98 #DADADA
-Box 3,98 150,98 #DADADA
-)"},
-                    Golden{"BorderRaisedDoubleWithoutShadow", DiapoBorderStyle::BorderRaisedDouble, false, R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 148,9 sys20
-Line 1,9 1,99 sys20
-Line 147,9 147,99 sys16
-Line 1,98 147,98 sys16
-Line 2,10 146,10 sys22
-Line 2,10 2,97 sys22
-Line 146,10 146,98 sys21
-Line 2,97 146,97 sys21
-)"},
-                    Golden{"FlatBackColorWithShadow", DiapoBorderStyle::FlatBackColor, true, R"(
-Box 0,0 159,139 #C0C0C0
-Box 1,9 148,96 #C0C0C0
-Box 149,10 149,97 #B4B4B4
-Box 2,97 149,97 #B4B4B4
-Box 150,11 150,98 #DADADA
-Box 3,98 150,98 #DADADA
-)"},
-                    Golden{"FlatBackColorWithoutShadow", DiapoBorderStyle::FlatBackColor, false, R"(
-Box 0,0 159,139 #C0C0C0
-Box 1,9 147,98 #C0C0C0
-)"}),
+)",
+                           ""},
+                    Golden{"BorderSunken", DiapoBorderStyle::BorderSunken, kLines + kAreaShadow, kWideLines},
+                    Golden{"BorderRaised", DiapoBorderStyle::BorderRaised, Raised(kLines) + kAreaShadow,
+                           Raised(kWideLines)},
+                    Golden{"BorderSunkenDouble", DiapoBorderStyle::BorderSunkenDouble,
+                           kLines + kInnerLines + kAreaShadow, kWideLines + kWideInnerLines},
+                    Golden{"BorderRaisedDouble", DiapoBorderStyle::BorderRaisedDouble,
+                           Raised(kLines + kInnerLines) + kAreaShadow, Raised(kWideLines + kWideInnerLines)},
+                    Golden{"FlatBackColor", DiapoBorderStyle::FlatBackColor, "Box 1,9 148,96 #C0C0C0\n" + kAreaShadow,
+                           "Box 1,9 147,98 #C0C0C0\n"}),
     [](const auto& golden) { return golden.param.name; });
 
 TEST_F(FramesTest, FramesFollowThePictureWithAutoAdjust) {
@@ -176,30 +127,13 @@ Line 7,89 151,89 sys21
 TEST_F(FramesTest, FramesFollowTheAreaWithoutAutoAdjust) {
     slide.SetAutoAdjust(false);
     ShowPicture();
-    EXPECT_EQ(Drawn(), R"(
-Box 0,0 159,139 #C0C0C0
-Box 1,9 148,96 #C0C0C0
-Box 149,10 149,97 #B4B4B4
-Box 2,97 149,97 #B4B4B4
-Box 150,11 150,98 #DADADA
-Box 3,98 150,98 #DADADA
-)");
+    EXPECT_EQ(Drawn(), kOuterFrame + "Box 1,9 148,96 #C0C0C0\n" + kAreaShadow);
 }
 
 TEST_F(FramesTest, TheInnerFrameOfAnAreaIsInverted) {
     slide.SetBorderDouble(true);
     slide.SetBorderStyle(DiapoBorderStyle::BorderSunken);
-    EXPECT_EQ(Drawn(), R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 149,9 sys16
-Line 1,9 1,97 sys16
-Line 148,9 148,97 sys20
-Line 1,96 148,96 sys20
-Box 149,10 149,97 #B4B4B4
-Box 2,97 149,97 #B4B4B4
-Box 150,11 150,98 #DADADA
-Box 3,98 150,98 #DADADA
-Line 7,15 143,15 sys20
+    EXPECT_EQ(Drawn(), kOuterFrame + kLines + kAreaShadow + R"(Line 7,15 143,15 sys20
 Line 7,15 7,91 sys20
 Line 142,15 142,91 sys16
 Line 7,90 142,90 sys16
@@ -210,17 +144,7 @@ TEST_F(FramesTest, TheInnerFrameOfAnAreaIsInvertedInDoubleLines) {
     slide.SetBorderDouble(true);
     slide.SetShowShadow(false);
     slide.SetBorderStyle(DiapoBorderStyle::BorderRaisedDouble);
-    EXPECT_EQ(Drawn(), R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 148,9 sys20
-Line 1,9 1,99 sys20
-Line 147,9 147,99 sys16
-Line 1,98 147,98 sys16
-Line 2,10 146,10 sys22
-Line 2,10 2,97 sys22
-Line 146,10 146,98 sys21
-Line 2,97 146,97 sys21
-Line 8,16 141,16 sys16
+    EXPECT_EQ(Drawn(), kOuterFrame + Raised(kWideLines + kWideInnerLines) + R"(Line 8,16 141,16 sys16
 Line 8,16 8,92 sys16
 Line 140,16 140,92 sys20
 Line 8,91 140,91 sys20
@@ -264,13 +188,7 @@ Line 16,85.5 147,85.5 sys22
 TEST_F(FramesTest, TheShadowOfASelectedSlideFadesIntoItsColour) {
     slide.SetBorderStyle(DiapoBorderStyle::BorderRaised);
     slide.SetSelected(true);
-    EXPECT_EQ(Drawn(), R"(
-Box 0,0 159,139 #C0C0C0
-Line 1,9 149,9 sys20
-Line 1,9 1,97 sys20
-Line 148,9 148,97 sys16
-Line 1,96 148,96 sys16
-Box 149,10 149,97 #B4B4B4
+    EXPECT_EQ(Drawn(), kOuterFrame + Raised(kLines) + R"(Box 149,10 149,97 #B4B4B4
 Box 2,97 149,97 #B4B4B4
 Box 150,11 150,98 #92B4D8
 Box 3,98 150,98 #92B4D8
