@@ -151,15 +151,6 @@ public:
     virtual Picture Get(Artwork artwork) = 0;
 };
 
-// What plays and measures sounds.
-class Sounds {
-public:
-    virtual ~Sounds() = default;
-
-    // Length of a sound file in seconds; 0 when it can't be read.
-    virtual double SoundSeconds(const std::string& path) = 0;
-};
-
 // The texts of the user's language, by message number.
 class Texts {
 public:
@@ -173,6 +164,7 @@ class Films;          // picture files that may move, see film.h
 class Forms;          // small windows of the library's own, see forms.h
 class Menus;          // popup menus, see menus.h
 class SharedObjects;  // what the controls of a desktop share, see sharedobjects.h
+class Sounds;         // what plays and measures sounds, see sounds.h
 class Tooltips;       // tooltip windows, see tooltips.h
 
 // The roles together, as a control holds them. The desktop that gives them outlives its controls.

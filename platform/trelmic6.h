@@ -5,6 +5,7 @@
 #include "platform/desktop.h"
 #include "platform/listbox.h"
 #include "platform/numbers.h"
+#include "platform/sounds.h"
 
 #include <cstdint>
 #include <optional>
@@ -95,6 +96,7 @@ public:
         return desktop_.pictures.ResizePicture(picture, width, height);
     }
     double SoundSeconds(const std::string& path) const { return desktop_.sounds.SoundSeconds(path); }
+    Sounds& SoundPlayer() const { return desktop_.sounds; }
 
     // --- The system ---
     // The kind of operating system on the library's own scale: 1, 2, 3 and 7 can't paint gradients, 8 or more has

@@ -6,6 +6,7 @@
 #include "platform/headless/fakedrags.h"
 #include "platform/headless/fakeforms.h"
 #include "platform/headless/fakemenus.h"
+#include "platform/headless/fakesounds.h"
 #include "platform/headless/faketooltips.h"
 #include "platform/headless/roles.h"
 #include "platform/sharedobjects.h"
@@ -39,7 +40,7 @@ public:
     FakeDrags drags{*this};
     FakeDialogs dialogs{trace};
     FakePictures pictures{trace};
-    FakeSounds sounds;
+    FakeSounds sounds{trace, clock};
     FakeTexts texts;
     FakeForms forms{trace, windows};
     FakeFilms films{trace};

@@ -229,9 +229,4 @@ Picture FakePictures::Get(Artwork artwork) {
     return picture;
 }
 
-double FakeSounds::SoundSeconds(const std::string& path) {
-    const auto found = seconds_.find(path);
-    return found == seconds_.end() ? 0 : found->second;
-}
-
 }  // namespace vorlane::headless

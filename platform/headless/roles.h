@@ -162,15 +162,6 @@ private:
     int32_t resizes_ = 0;
 };
 
-class FakeSounds final : public vorlane::Sounds {
-public:
-    void Add(const std::string& path, double seconds) { seconds_[path] = seconds; }
-    double SoundSeconds(const std::string& path) override;
-
-private:
-    std::map<std::string, double> seconds_;
-};
-
 class FakeTexts final : public vorlane::Texts {
 public:
     void Add(std::string number, std::string text) { texts_[std::move(number)] = std::move(text); }

@@ -52,4 +52,17 @@ double QtSounds::SoundSeconds(const std::string& path) {
     return WaveSeconds(file);
 }
 
+std::string QtSounds::Play(const std::string& path, int32_t, int32_t) {
+    std::string alias = "son" + std::to_string(++played_);
+    open_[alias] = {played_, path};
+    return alias;
+}
+
+SoundName QtSounds::Current() const {
+    const auto youngest = std::max_element(
+        open_.begin(), open_.end(), [](const auto& a, const auto& b) { return a.second.handle < b.second.handle; });
+    if (youngest == open_.end()) return {};
+    return {youngest->first, youngest->second.handle, youngest->second.file};
+}
+
 }  // namespace vorlane
