@@ -2,7 +2,7 @@
 // the sheet, so it looks at the slides and the list afresh behind every such call.
 #include "platform/numbers.h"
 #include "platform/trelmic6.h"
-#include "sheet/hourglass.h"
+#include "platform/hourglass.h"
 #include "sheet/vorlane.h"
 
 namespace vorlane {

@@ -32,9 +32,18 @@ void eDiapoLight::ConnectButton(Image& image) {
     });
 }
 
+// Whether a sound runs is asked before the click is told, for its handlers may start or stop one.
 void eDiapoLight::ClickSound(bool fromComment) {
+    const Sounds& player = utilities_.SoundPlayer();
+    const SoundName current = player.Current();
+    const bool byHandle = player.IsPlaying({"", current.Handle, ""});
+    const bool byFile = player.IsPlaying({"", -1, current.File});
     Events.Click(lastButton_);
-    Events.ClickPlay(fromComment);
+    if (byHandle || byFile) {
+        Events.ClickStop(fromComment);
+    } else {
+        Events.ClickPlay(fromComment);
+    }
 }
 
 // Presses of the info button are events of their own; only moves over it count as moves over the slide.
@@ -52,15 +61,6 @@ void eDiapoLight::ConnectInfo() {
         if (press_.Down) ImgInfo.SetLeft(ImgInfo.Left() - 1);
         press_.Down = false;
         Events.InfoMouseUp(button, shift, x, y);
-    });
-}
-
-// Moves over the zoom corner take its twips for pixels.
-void eDiapoLight::ConnectCorner() {
-    CornerResize.Input.MouseDown.connect(
-        [this](int16_t button, int16_t shift, float x, float y) { Events.ZoomMouseDown(button, shift, x, y); });
-    CornerResize.Input.MouseMove.connect([this](int16_t button, int16_t shift, float x, float y) {
-        Events.MouseMove(button, shift, ToContainer(CornerResize.Left() + x), ToContainer(CornerResize.Top() + y));
     });
 }
 

@@ -23,6 +23,10 @@ eDiapoLight::eDiapoLight(const vorlane::Desktop& desktop, const vorlane::Ambient
     Move(0, 0, 100, 75);
 }
 
+eDiapoLight::~eDiapoLight() {
+    EndZoom();
+}
+
 void eDiapoLight::Show() {
     if (!life_.PendingFirstLayout) return;
     life_.PendingFirstLayout = false;

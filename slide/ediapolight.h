@@ -53,6 +53,7 @@ public:
     static const std::vector<PersistedProperty>& PersistedProperties();
 
     eDiapoLight(const vorlane::Desktop& desktop, const vorlane::Ambient& ambient, UserControl* container = nullptr);
+    ~eDiapoLight() override;
 
     // --- Life cycle ---
     void InitProperties() override;
@@ -319,6 +320,14 @@ private:
         bool Down = false;
         float Top = 0;  // where it stood before
     };
+    // The zoom, from the press on its corner to the release.
+    struct Zoom {
+        bool Busy = false;      // the press is being worked on
+        bool Active = false;    // the window is there for moves to pull
+        bool Released = false;  // the button has gone up since the press
+        Point Anchor;           // the pointer when the window opened, screen pixels
+        WinRect Slide;          // the slide's place then
+    };
     struct Measures;
 
     // The side of the zoom corner and of the info button, pixels.
@@ -388,7 +397,16 @@ private:
     void ConnectButton(Image& image);
     void ClickSound(bool fromComment);
     void ConnectInfo();
+
+    // zoom.cpp
     void ConnectCorner();
+    void PressCorner(int16_t button, int16_t shift, float x, float y);
+    void OpenZoom();
+    void TellToWait(const WinRect& picture, const std::string& text);
+    void LoadZoom(const std::string& path);
+    void ShowZoom(const WinRect& place);
+    void PullZoom();
+    void EndZoom();
 
     Trelmic6 utilities_;
     Settings settings_;
@@ -399,6 +417,7 @@ private:
     Place place_;
     ButtonPress press_;
     ScaleMode dragScale_ = ScaleMode::Pixels;
+    Zoom zoom_;
     int16_t lastButton_ = 0;  // Button of the last press on the slide or a child, which Click and DblClick tell
     PendingError pending_;
 };

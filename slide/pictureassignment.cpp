@@ -1,6 +1,7 @@
 // From a file or a picture to a picture on the slide.
 #include "platform/numbers.h"
 #include "platform/scale.h"
+#include "platform/withinblock.h"
 #include "slide/ediapolight.h"
 
 namespace vorlane {
@@ -13,18 +14,6 @@ PictureSize PixelSize(const Picture& picture) {
     return {Rescale(picture.Width(), ScaleMode::HiMetric, ScaleMode::Pixels),
             Rescale(picture.Height(), ScaleMode::HiMetric, ScaleMode::Pixels)};
 }
-
-// A flag that is down again behind its block, however that ends.
-class WithinBlock {
-public:
-    WithinBlock(bool& flag, bool value) : flag_(flag) { flag_ = value; }
-    ~WithinBlock() { flag_ = false; }
-    WithinBlock(const WithinBlock&) = delete;
-    WithinBlock& operator=(const WithinBlock&) = delete;
-
-private:
-    bool& flag_;
-};
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "windows/frmwait.h"
 
 #include "platform/sharedobjects.h"
+#include "platform/withinblock.h"
 
 #include <utility>
 
@@ -13,17 +14,6 @@ constexpr int32_t kDesignHeight = 40;
 constexpr int32_t kCorner = 15;
 constexpr int32_t kMargin = 30;
 constexpr uint8_t kAlpha = 165;
-
-class Raised {
-public:
-    explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Raised() { flag_ = false; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
-private:
-    bool& flag_;
-};
 
 }  // namespace
 
@@ -66,7 +56,7 @@ void FrmWait::ShowAnimatedFrom(const std::string& newCaption, WaitPlace fromWher
     ++pass_;
     moved_.reset();
     {
-        const Raised animating(animating_);
+        const WithinBlock animating(animating_);
         TakeCaption(newCaption);
         const bool atOnce = withoutEffect || fromWhere == WaitPlace::Middle;
         if (!atOnce) {
