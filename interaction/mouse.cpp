@@ -64,6 +64,7 @@ void Vorlane::RaiseFrom(const eDiapoLight& slide, const MouseEvent& event, int16
 // --- Press ---
 
 void Vorlane::SlideMouseDown(int16_t index, int16_t button, int16_t shift, float x, float y) {
+    Attempt([&] { DropEdit(); });
     if (mouse_.InMouseDown) return;
     const Busy busy(mouse_.InMouseDown);
     const auto slide = Diapo.Item(index);

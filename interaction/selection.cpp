@@ -1,8 +1,8 @@
 // The selection. The list holds that of all items, the slides show it, and the two are changed together: a slide that
 // shows an item is selected when its item is. A selected slide stands on SelectedColor, the current one, of which there
 // is one at most, on BackColorCurrent.
+#include "platform/hourglass.h"
 #include "platform/numbers.h"
-#include "sheet/hourglass.h"
 #include "sheet/vorlane.h"
 
 namespace vorlane {

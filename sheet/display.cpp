@@ -1,8 +1,8 @@
 // The display pipeline: one synchronous pass puts a run of list items on slides. Whatever it calls may lead back into
 // the sheet, so it looks at the slides and the list afresh behind every such call.
+#include "platform/hourglass.h"
 #include "platform/numbers.h"
 #include "platform/trelmic6.h"
-#include "platform/hourglass.h"
 #include "sheet/vorlane.h"
 
 namespace vorlane {
@@ -158,6 +158,7 @@ sheet::Filled Vorlane::FillSlot(const Fill& fill, int32_t listIndex) {
     if (!Diapo.Loaded(cursor)) return Filled::Lost;
     const auto slide = Diapo.Item(cursor);
     if (MayGoOn(fill)) slide->SetValue(listIndex);
+    ShowPlaying(cursor, listIndex);
     SweepByBand(*slide);
     return Filled::Yes;
 }

@@ -59,6 +59,26 @@ struct VorlaneEvents {
     Event<> OLEDragError;                                        // a drop on a list that takes none
     Event<int32_t> AfterDropAdd;                                 // NumberOfFilesAdded, by a drop from outside
 
+    // A sound button was clicked; the host says what is to be heard: Index, SoundFileNameToPlay, Button, Canal, Play,
+    // Alias. Without Play the host plays for itself.
+    Event<int16_t, std::string&, int32_t&, int32_t, bool&, std::string&> ClickPlay;
+    Event<int16_t, int32_t> ClickPlayChangeDiapo;  // Index, Button: of another slide than the one that plays
+    Event<int16_t, int32_t, int32_t> ClickStop;    // Index, Button, Canal
+    Event<int16_t> ClickText;                      // Index
+    Event<int32_t> SoundEnded;                     // Canal
+
+    Event<bool&, const std::string&> BeforeEdit;                    // Cancel, OldFileNamme
+    Event<const std::string&, const std::string&, bool> AfterEdit;  // NewFileName, OldFileName, Canceled
+    // A rename is refused: ErrorType (0: the target exists), NewFileName, OldFileName, ErrorMessage, CancelMessage.
+    Event<int32_t, const std::string&, const std::string&, std::string&, bool&> RenameError;
+
+    // The info button is pressed; the host says what the balloon shows: Index, FileName, Titre, Texte, Icone (0 to 3).
+    Event<int16_t, const std::string&, std::string&, std::string&, int32_t&> ToolTipInfos;
+    // Kept for hosts; nothing raises them.
+    Event<int16_t, Picture&> BeforeZoom;  // Index, Picture
+    Event<> BeforeZoomEndLoad;
+    Event<> AfterZoom;
+
     // Number, Description, Source, LastDllError, Valeur: the log line
     Event<int32_t, const std::string&, const std::string&, int32_t, const std::string&> Error;
 };

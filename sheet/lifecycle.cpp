@@ -55,6 +55,8 @@ Vorlane::Vorlane(const vorlane::Desktop& desktop, const vorlane::Ambient& ambien
     ConnectGround();
     ConnectGroundDrags();
     VScroll.Change.connect([this](int32_t value) { BarChanged(value); });
+    ConnectEdit();
+    TimerSon.Tick.connect([this] { SoundTick(); });
     TimerResize.Tick.connect([this] { Attempt([this] { ResizeTick(); }); });
     TimerUnload.Tick.connect([this] { Attempt([this] { UnloadTick(); }); });
 }

@@ -1,7 +1,7 @@
 // Scrolling over the pool: one step copies the looks of the slides by a row and reads only the new row; a longer way
 // binds all slides anew. A bar value is the list index that slide 0 should show.
-#include "platform/numbers.h"
 #include "platform/hourglass.h"
+#include "platform/numbers.h"
 #include "sheet/vorlane.h"
 
 #include <cstdlib>

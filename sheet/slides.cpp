@@ -111,10 +111,6 @@ void Vorlane::ConnectSlide(eDiapoLight& slide, int16_t index) {
             if (ListBox* list = Bound().AsListBox()) list->SetItemData(slide.Value(), -1);
         });
     });
-    Hear(slide.Events.GetWindowsPos, member, [this, &slide](WinRect& rect, std::string& text) {
-        Attempt([&] { rect = ScreenRectOf(slide); });
-        text = captionWait_;
-    });
     Hear(slide.Events.SetPicture, member, [this](DiapoPictureIndex picture, vorlane::Picture& answer, bool invalid) {
         answer = PictureFor(picture, answer, invalid);
     });
@@ -127,19 +123,14 @@ void Vorlane::ConnectSlide(eDiapoLight& slide, int16_t index) {
          });
     ConnectSlideMouse(member);
     ConnectSlideDrags(member);
+    ConnectSlideSounds(member);
+    ConnectSlideZoom(member);
 }
 
 std::optional<int32_t> Vorlane::KeyOf(const eDiapoLight& slide) const {
     const ListBox* list = Bound().AsListBox();
     if (list == nullptr) return std::nullopt;
     return list->ItemData(slide.Value());
-}
-
-WinRect Vorlane::ScreenRectOf(const eDiapoLight& slide) const {
-    const WinRect sheet = Desktop().windows.GetWindowRect(Hwnd());
-    const int32_t left = ToInt32(static_cast<double>(slide.Left()) + sheet.Left);
-    const int32_t top = ToInt32(static_cast<double>(slide.Top()) + sheet.Top);
-    return {left, top, left + ToInt32(slide.Width()), top + ToInt32(slide.Height())};
 }
 
 vorlane::Picture Vorlane::PictureFor(DiapoPictureIndex index, const vorlane::Picture& present,

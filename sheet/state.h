@@ -117,9 +117,19 @@ struct Sorting {
     uint8_t SortCurrent = 0;  // criterion last sorted on
 };
 
+// What was played last on a channel.
+struct Channel {
+    std::string Alias;
+    bool Failed = false;  // it could not be played, and the tick has not said so yet
+};
+
 struct Sound {
-    std::string AliasMusic;
-    std::string AliasComment;
+    Channel Music;
+    Channel Comment;
+    int32_t PlayingListIndex = -1;  // the item whose slide plays, or has played last
+
+    Channel& Of(bool comment) { return comment ? Comment : Music; }
+    const Channel& Of(bool comment) const { return comment ? Comment : Music; }
 };
 
 // A drag over the sheet or a drop on it, as it is heard.

@@ -34,6 +34,8 @@
 #include "sheet/state.h"
 #include "sheet/types.h"
 #include "slide/ediapolight.h"
+#include "windows/clstooltip.h"
+#include "windows/waitplace.h"
 
 #include <cstdint>
 #include <functional>
@@ -51,6 +53,8 @@ enum class BandSide : uint8_t;
 namespace sheet {
 struct SlideMember;
 }  // namespace sheet
+
+class MsgBoxObject;
 
 class Vorlane final : public UserControl {
 public:
@@ -161,6 +165,33 @@ public:
     // How many files data brings: those that are there, and those of the folders. nullptr brings none.
     int32_t CountObject(const DataObject* data);
 
+    // --- Sounds ---
+    // Shows the sound button of a slide, 0 music or 1 comment, as playing or stopped. Nothing happens to a button that
+    // is out of sight.
+    void BtState(int16_t index, int32_t typeBt, bool modePlayed);
+    // Stops the music (0), the comment (1) or both (-1) and restores their buttons.
+    void StopSound(int32_t only = -1);
+
+    // --- Rename in place ---
+    // Opens the box over a slide's name, unless BeforeEdit refuses. Only items of a ListBox are renamed.
+    void StartEdit(int16_t index);
+    // Closes the box and renames the file, its item and its slide, or leaves all as it was when cancel is set. A name
+    // that is refused is told to the user, by msgBox if one is given, and the box stays; cancel then is what the
+    // handlers of RenameError have left in it. Nothing happens while no box is open.
+    void EndEdit(bool& cancel, MsgBoxObject* msgBox = nullptr);
+    void EndEdit();
+    // Gives an item and its slide (-1: the one that shows it) another file. Touches no file.
+    void RenameDiapo(int32_t listIndex, const std::string& oldName, const std::string& newName,
+                     int16_t diapoIndex = -1);
+
+    // --- Wait window ---
+    // Shows it over the sheet without its bar, at a place of that rectangle.
+    void WaitShow(const std::string& newCaption, WaitPlace fromWhere, bool withoutEffect);
+    // The text of the open window, at once.
+    void SetWaitCaption(const std::string& caption);
+    void WaitClose(bool withoutEffect);
+    bool IsWaitOpen() const { return waitOpen_; }
+
     // --- State ---
     int16_t Count() const;  // items; fails with Overflow() beyond 16 bits
     int16_t CountDiapo() const { return grid::PoolSize(grid_.CountDiapoX, grid_.CountDiapoY); }
@@ -171,10 +202,10 @@ public:
     ListControl* Liste() const { return items_.Liste; }  // nullptr once the sheet has ended
 
     // --- Properties of the sheet ---
-    const std::string& AliasMusic() const { return sound_.AliasMusic; }
-    void SetAliasMusic(const std::string& alias) { sound_.AliasMusic = alias; }
-    const std::string& AliasComment() const { return sound_.AliasComment; }
-    void SetAliasComment(const std::string& alias) { sound_.AliasComment = alias; }
+    const std::string& AliasMusic() const { return sound_.Music.Alias; }
+    void SetAliasMusic(const std::string& alias) { sound_.Music.Alias = alias; }
+    const std::string& AliasComment() const { return sound_.Comment.Alias; }
+    void SetAliasComment(const std::string& alias) { sound_.Comment.Alias = alias; }
     OLE_COLOR BackColor() const { return Surface().BackColor(); }
     void SetBackColor(OLE_COLOR color);
     void SetBorderStyle(int32_t style);
@@ -404,7 +435,6 @@ private:
     void CopyDiapo(int16_t from, int16_t to);
     void RecolourCopy(eDiapoLight& slide, int16_t index);
     std::optional<int32_t> KeyOf(const eDiapoLight& slide) const;
-    WinRect ScreenRectOf(const eDiapoLight& slide) const;
 
     // display.cpp
     std::optional<int32_t> WantedItem(const std::string& startImageName, int32_t diapoKey);
@@ -476,6 +506,33 @@ private:
     void ShowSelection();
     void ClearItems(int16_t exceptedIndex);
     MemoryListBox* UnwatchedList() const;
+
+    // interaction/zoom.cpp
+    void ConnectSlideZoom(const sheet::SlideMember& member);
+    WinRect ScreenRectOf(const eDiapoLight& slide) const;
+    WinRect ScreenRectOfGrid() const;
+    void OpenInfo(int16_t index, const eDiapoLight& slide);
+    void CloseInfo();
+
+    // interaction/sound.cpp
+    void ConnectSlideSounds(const sheet::SlideMember& member);
+    int32_t CanalOf(bool comment) const;
+    void SlideClickPlay(int16_t index, bool comment);
+    void SlideClickStop(int16_t index, bool comment);
+    void StopSoundInt(bool comment, int16_t slot);
+    int32_t StoppedMusicPicture(const eDiapoLight& slide) const;
+    void ShowPlaying(int16_t slot, int32_t listIndex);
+    void SoundTick();
+    bool StillPlays(bool comment);
+
+    // interaction/rename.cpp
+    void ConnectEdit();
+    void DropEdit();
+    void KeepEdit();
+    void TellTaken(const std::string& newPath, const std::string& oldPath, bool& cancel, MsgBoxObject* msgBox);
+    void RenameFile(int32_t item, const std::string& oldPath, const std::string& newPath, int16_t slot);
+    void CloseEdit(const std::string& newPath, const std::string& oldPath, bool canceled);
+    void HideEdit();
 
     // interaction/mouse.cpp
     void ConnectSlideMouse(const sheet::SlideMember& member);
@@ -598,7 +655,10 @@ private:
     sheet::Gauge gauge_;
     sheet::Sorting sort_;
     sheet::Sound sound_;
+    bool inEndEdit_ = false;  // a rename is being ended
     std::string captionWait_;
+    bool waitOpen_ = false;                // as WaitShow and WaitClose have left it
+    std::unique_ptr<clsToolTip> infoTip_;  // while the info button is held
     int16_t thumbnailSizeNormal_ = 0;
     int16_t oleDragMode_ = 0;
     int16_t oleDropMode_ = 0;

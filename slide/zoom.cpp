@@ -88,7 +88,7 @@ void eDiapoLight::OpenZoom() {
         zoom_.Anchor = utilities_.CursorPos();
     }
     Events.GetWindowsPos(place, text);
-    if (zoom_.Active) ShowZoom(place);
+    if (zoom_.Active) ShowZoomWindow(place);
 }
 
 // The owner's text is overwritten before it shows.
@@ -111,7 +111,7 @@ void eDiapoLight::LoadZoom(const std::string& path) {
     utilities_.CursorPos(pointer.X, pointer.Y);
 }
 
-void eDiapoLight::ShowZoom(const WinRect& place) {
+void eDiapoLight::ShowZoomWindow(const WinRect& place) {
     FrmScroll& window = SharedFrmScroll(Desktop());
     MoveTo(window, place);
     window.ZoomMode = true;
