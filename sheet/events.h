@@ -22,12 +22,18 @@ struct VorlaneEvents {
     // Index, FileName, Picture, HaveSound, HaveComment, HaveTexte, InvalidMusic, InvalidCom.
     Event<int16_t, const std::string&, Picture&, bool&, bool&, bool&, bool&, bool&> BeforeSetPicture;
     Event<int16_t, const std::string&> InvalidPicture;  // Index, FileName
-    Event<int32_t, int32_t&> Scroll;                    // Value, AsValue: the value last acted on
-    Event<> TLClear;                                    // the sheet has been cleared
-    Event<int16_t, int32_t&> Removed;                   // Index or -1, Key: an item is about to go
-    Event<> TLRefresh;                                  // items have gone
-    Event<> Sorted;                                     // Sort has come to its end
-    Event<int32_t, int32_t> TraitementFeedBack;         // Value, Max: how far a long operation is
+    // The list has moved, or the thumb is being dragged: Value, AsValue: the value last acted on.
+    Event<int32_t, int32_t&> Scroll;
+    // The mouse on the bar: Button, Shift, X, Y on the bar, Value: a copy of the bar's.
+    Event<int16_t, int16_t, float, float, int32_t&> ScrollMouseDown;
+    Event<int16_t, int16_t, float, float, int32_t&> ScrollMouseUp;
+    // The follow window is about to show a file; the host may name a thumbnail file in its place: FileName, ThumbName.
+    Event<const std::string&, std::string&> GetThumbPath;
+    Event<> TLClear;                             // the sheet has been cleared
+    Event<int16_t, int32_t&> Removed;            // Index or -1, Key: an item is about to go
+    Event<> TLRefresh;                           // items have gone
+    Event<> Sorted;                              // Sort has come to its end
+    Event<int32_t, int32_t> TraitementFeedBack;  // Value, Max: how far a long operation is
     // The user's mouse and keys. Positions are in the container's scale, measured from the sheet's corner.
     Event<int16_t, int16_t, float, float> MouseDown;  // Button, Shift, x, Y
     Event<int16_t, int16_t, float, float> MouseMove;

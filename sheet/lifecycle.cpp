@@ -54,14 +54,16 @@ Vorlane::Vorlane(const vorlane::Desktop& desktop, const vorlane::Ambient& ambien
     Diapos.iItem.connect([this](int16_t index, std::shared_ptr<eDiapoLight>& slide) { slide = Diapo.Item(index); });
     ConnectGround();
     ConnectGroundDrags();
-    VScroll.Change.connect([this](int32_t value) { BarChanged(value); });
+    ConnectBar();
     ConnectEdit();
     TimerSon.Tick.connect([this] { SoundTick(); });
     TimerResize.Tick.connect([this] { Attempt([this] { ResizeTick(); }); });
     TimerUnload.Tick.connect([this] { Attempt([this] { UnloadTick(); }); });
 }
 
+// Nobody lets the bar of a sheet go that is no more.
 Vorlane::~Vorlane() {
+    CloseFollowWindow();
     Terminate();
 }
 

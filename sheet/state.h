@@ -51,10 +51,12 @@ struct Bar {
     ScrollWindowPosType ScrollWindowPos = ScrollWindowPosType::swpOutside;
     int16_t ScrollWindowWidth = 0;
     OLE_COLOR ScrollWindowBackColor = 0;
-    int32_t ScrollValue = 0;     // bar value last acted on
-    bool InVScrollInit = false;  // the bar is being set up: its changes are no scrolls
-    bool JumpNext = false;       // the next change of the bar fills anew, however small it is
-    double WheelRest = 0;        // notches that do not make a whole one yet
+    int32_t ScrollValue = 0;        // bar value last acted on
+    bool InVScrollInit = false;     // the bar is being set up: its changes are no scrolls
+    bool JumpNext = false;          // the next change of the bar fills anew, however small it is
+    double WheelRest = 0;           // notches that do not make a whole one yet
+    bool ScrollBarDown = false;     // the left button went down on the bar
+    bool ScrollWindowOpen = false;  // the follow window was shown for this drag of the thumb
 };
 
 struct Layout {

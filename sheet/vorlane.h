@@ -55,6 +55,7 @@ struct SlideMember;
 }  // namespace sheet
 
 class MsgBoxObject;
+class FrmScroll;
 
 class Vorlane final : public UserControl {
 public:
@@ -477,6 +478,16 @@ private:
     bool Scroll(int16_t up);
     bool ScrollForward();
     bool ScrollBack();
+
+    // followwindow.cpp
+    void ConnectBar();
+    void BarPressed(int16_t button, int16_t shift, float x, float y);
+    void BarReleased(int16_t button, int16_t shift, float x, float y);
+    void TellOfBar(const Event<int16_t, int16_t, float, float, int32_t&>& told, int16_t button, int16_t shift, float x,
+                   float y) const;
+    void ThumbDragged(int32_t value);
+    void OpenFollowWindow(FrmScroll& form);
+    void CloseFollowWindow();
 
     // sorting.cpp
     int16_t SortInt(uint8_t criterion, int32_t& anchor);

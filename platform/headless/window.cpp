@@ -102,6 +102,34 @@ void Window::Wheel(double notches, float x, float y) {
     router_->Wheel(notches, x, y);
 }
 
+// A point: the thumb has no length here.
+Box Window::ThumbAt(const ScrollbarPlus& bar, int32_t value) {
+    const Box box = bar.BoundsInRoot();
+    const double length = static_cast<double>(bar.Max()) - bar.Min();
+    const auto part = static_cast<float>(length > 0 ? (static_cast<double>(value) - bar.Min()) / length : 0);
+    if (bar.Orientation() == Orientation::Horizontal) {
+        return {box.Left + part * (box.Width - 1), box.Top + box.Height / 2, 0, 0};
+    }
+    return {box.Left + box.Width / 2, box.Top + part * (box.Height - 1), 0, 0};
+}
+
+void Window::HoldThumb(const ScrollbarPlus& bar, int16_t button) {
+    const Box thumb = ThumbAt(bar, bar.Value());
+    Press(thumb.Left, thumb.Top, button);
+}
+
+void Window::DragThumb(ScrollbarPlus& bar, int32_t value) {
+    const Box thumb = ThumbAt(bar, value);
+    MouseTo(thumb.Left, thumb.Top);
+    bar.DragThumb(value);
+}
+
+void Window::ReleaseThumb(ScrollbarPlus& bar, int32_t value, int16_t button) {
+    const Box thumb = ThumbAt(bar, value);
+    bar.DropThumb(value);
+    Release(thumb.Left, thumb.Top, button);
+}
+
 void Window::HoldKey(int16_t keyCode, int16_t shift) {
     desktop_.keyboard.Set(keyCode, true);
     router_->KeyDown(keyCode, shift);

@@ -5,6 +5,7 @@
 
 #include "platform/headless/desktop.h"
 #include "platform/inputrouter.h"
+#include "platform/scrollbarplus.h"
 
 #include <memory>
 
@@ -42,6 +43,10 @@ public:
     void DoubleClick(float x, float y, int16_t button = kLeftButton, int16_t shift = 0);
     // Notches, positive away from the user.
     void Wheel(double notches, float x, float y);
+    // The left button goes down on the thumb of a bar of the control's own, drags it to a value, lets it go there.
+    void HoldThumb(const ScrollbarPlus& bar, int16_t button = kLeftButton);
+    void DragThumb(ScrollbarPlus& bar, int32_t value);
+    void ReleaseThumb(ScrollbarPlus& bar, int32_t value, int16_t button = kLeftButton);
     // Key down, its character when it has one (0: none), key up.
     void Key(int16_t keyCode, int16_t character = 0, int16_t shift = 0);
     void HoldKey(int16_t keyCode, int16_t shift = 0);
@@ -54,6 +59,8 @@ public:
 
 private:
     void Attach(UserControl& control);
+    // Where the thumb is at a value of the bar.
+    static Box ThumbAt(const ScrollbarPlus& bar, int32_t value);
 
     Desktop& desktop_;
     Hwnd handle_;

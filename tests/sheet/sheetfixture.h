@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/headless/window.h"
+#include "platform/numbers.h"
 #include "sheet/vorlane.h"
 
 #include <cmath>
@@ -111,6 +112,8 @@ protected:
     std::function<void()> onMouseDown;
     std::function<void()> onMouseMove;
     std::function<void()> onMouseUp;
+    std::function<void(int32_t&)> onBarMouse;
+    std::function<void(std::string&)> onGetThumbPath;
 
 private:
     static std::string NameOfFile(int32_t n) {
@@ -149,6 +152,19 @@ private:
         events.Scroll.connect([this](int32_t value, int32_t& asValue) {
             Say("Scroll " + std::to_string(value) + " from " + std::to_string(asValue));
             if (onScroll) onScroll(asValue);
+        });
+        const auto mouse = [this](const std::string& name) {
+            return [this, name](int16_t button, int16_t shift, float x, float y, int32_t& value) {
+                Say(name + " " + std::to_string(button) + " " + std::to_string(shift) + " " +
+                    std::to_string(ToInt32(x)) + "," + std::to_string(ToInt32(y)) + " at " + std::to_string(value));
+                if (onBarMouse) onBarMouse(value);
+            };
+        };
+        events.ScrollMouseDown.connect(mouse("ScrollMouseDown"));
+        events.ScrollMouseUp.connect(mouse("ScrollMouseUp"));
+        events.GetThumbPath.connect([this](const std::string& name, std::string& thumb) {
+            Say("GetThumbPath " + Short(name));
+            if (onGetThumbPath) onGetThumbPath(thumb);
         });
         events.TLClear.connect([this] { Say("TLClear"); });
         events.Removed.connect([this](int16_t index, int32_t& key) {
