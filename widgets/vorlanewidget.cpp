@@ -19,6 +19,7 @@ VorlaneWidget::VorlaneWidget(QtDesktop& desktop, QWidget* parent)
         Q_EMIT PropertyChanged(QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size())));
     });
     ConnectEvents();
+    ConnectScrolling();
     ConnectPictures();
 }
 
@@ -47,7 +48,6 @@ void VorlaneWidget::ConnectEvents() {
     });
     events.Added.connect(
         [this](int16_t index, const std::string& fileName) { Q_EMIT OnAdded(index, FromText(fileName)); });
-    events.Scroll.connect([this](int32_t value, int32_t& asValue) { Q_EMIT OnScroll(value, &asValue); });
     events.TLClear.connect([this] { Q_EMIT OnTLClear(); });
     events.Removed.connect([this](int16_t index, int32_t& key) { Q_EMIT OnRemoved(index, &key); });
     events.TLRefresh.connect([this] { Q_EMIT OnTLRefresh(); });
@@ -59,6 +59,22 @@ void VorlaneWidget::ConnectEvents() {
     events.Error.connect([this](int32_t number, const std::string& description, const std::string& source,
                                 int32_t lastDllError, const std::string& valeur) {
         Q_EMIT OnError(number, FromText(description), FromText(source), lastDllError, FromText(valeur));
+    });
+}
+
+void VorlaneWidget::ConnectScrolling() {
+    auto& events = sheet_.Events;
+    events.Scroll.connect([this](int32_t value, int32_t& asValue) { Q_EMIT OnScroll(value, &asValue); });
+    events.ScrollMouseDown.connect([this](int16_t button, int16_t shift, float x, float y, int32_t& value) {
+        Q_EMIT OnScrollMouseDown(button, shift, x, y, &value);
+    });
+    events.ScrollMouseUp.connect([this](int16_t button, int16_t shift, float x, float y, int32_t& value) {
+        Q_EMIT OnScrollMouseUp(button, shift, x, y, &value);
+    });
+    events.GetThumbPath.connect([this](const std::string& fileName, std::string& thumbName) {
+        QString name;
+        Q_EMIT OnGetThumbPath(FromText(fileName), &name);
+        thumbName = ToText(name);
     });
 }
 

@@ -284,6 +284,9 @@ Q_SIGNALS:
     void OnBeforeSetPicture(int index, const QString& fileName, vorlane::SlideContent* content);
     void OnInvalidPicture(int index, const QString& fileName);
     void OnScroll(int value, int* asValue);
+    void OnScrollMouseDown(int button, int shift, double x, double y, int* value);
+    void OnScrollMouseUp(int button, int shift, double x, double y, int* value);
+    void OnGetThumbPath(const QString& fileName, QString* thumbName);
     void OnTLClear();
     void OnRemoved(int index, int* key);
     void OnTLRefresh();
@@ -306,6 +309,7 @@ private:
     }
     void Report(const Failure& failure, const char* name) const;
     void ConnectEvents();
+    void ConnectScrolling();
     void ConnectPictures();
 
     Vorlane& sheet_;

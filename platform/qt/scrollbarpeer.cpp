@@ -7,6 +7,7 @@
 
 #include <utility>
 
+#include <QHideEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
 
@@ -62,13 +63,24 @@ void ScrollBarPeer::Follow() {
 }
 
 void ScrollBarPeer::mousePressEvent(QMouseEvent* event) {
+    held_ = ButtonOf(event->button());
     Tell(model_.Input.MouseDown, *event);
     QScrollBar::mousePressEvent(event);
 }
 
 void ScrollBarPeer::mouseReleaseEvent(QMouseEvent* event) {
     QScrollBar::mouseReleaseEvent(event);
+    held_ = 0;
     Tell(model_.Input.MouseUp, *event);
+}
+
+// A bar that goes out of sight under the user's hand hears of no release any more.
+void ScrollBarPeer::hideEvent(QHideEvent* event) {
+    QScrollBar::hideEvent(event);
+    dragged_ = false;
+    setSliderDown(false);
+    if (const int16_t button = std::exchange(held_, int16_t{0}))
+        Attempt([&] { model_.Input.MouseUp(button, 0, 0, 0); });
 }
 
 // One road for every turn of the wheel over the control.

@@ -17,6 +17,7 @@ public:
     ScrollBarPeer(ScrollbarPlus& model, ControlHost& host);
 
 protected:
+    void hideEvent(QHideEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -27,6 +28,7 @@ private:
     ScrollbarPlus& model_;
     ScopedConnection changed_;
     bool following_ = false;
+    int16_t held_ = 0;      // the button that went down on the bar last and is not up again
     bool dragged_ = false;  // the user has moved the thumb and not let go of it
 };
 

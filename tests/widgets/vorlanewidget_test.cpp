@@ -2,67 +2,19 @@
 
 #include "platform/qt/qtdesktop.h"
 #include "sheet/vorlane.h"
-#include "tests/widgets/mouse.h"
 #include "tests/widgets/propertytable.h"
+#include "tests/widgets/vorlanewidgettest.h"
 
-#include <gtest/gtest.h>
 #include <stdexcept>
 
 #include <QApplication>
 #include <QFile>
-#include <QScrollBar>
-#include <QTemporaryDir>
-#include <QWheelEvent>
 
 namespace vorlane {
 namespace {
 
 using test::Plain;
-
-class VorlaneWidgetTest : public testing::Test {
-protected:
-    VorlaneWidgetTest() {
-        widget.resize(500, 300);
-        widget.SetShowJauge(false);
-        widget.SetDiapoWidth(120);
-        widget.SetDiapoHeight(110);
-        QObject::connect(&widget, &VorlaneWidget::OnError, &widget,
-                         [this](int, const QString& description, const QString&, int, const QString& log) {
-                             errors += log + ": " + description + "\n";
-                         });
-    }
-
-    void Show() {
-        widget.show();
-        QCoreApplication::processEvents();
-    }
-
-    QString Write(const QString& name, const QImage& image) {
-        const QString path = folder.filePath(name);
-        EXPECT_TRUE(image.save(path)) << name.toStdString();
-        return path;
-    }
-
-    // Pictures of many colours, as many as asked for.
-    void AddPictures(int count) {
-        for (int i = 0; i < count; ++i) {
-            const QString name = QString("%1.png").arg(i, 3, 10, QLatin1Char('0'));
-            widget.Add(Write(name, Plain(60, 40, ColorOf(i))), {}, 1000 + i);
-        }
-    }
-    static QRgb ColorOf(int i) { return QColor::fromHsv(i * 37 % 360, 255, 200).rgb(); }
-
-    // The colour of a slide's picture, clear of the button in its corner.
-    QRgb Shown(int slide) {
-        const Box box = widget.sheet().Diapo.Item(slide)->Img.BoundsInRoot();
-        const QPointF place(box.Left + box.Width / 4, box.Top + box.Height / 4);
-        return widget.grab().toImage().pixel(place.toPoint());
-    }
-
-    QTemporaryDir folder;
-    VorlaneWidget widget;
-    QString errors;
-};
+using test::VorlaneWidgetTest;
 
 // --- Properties ---
 
@@ -238,68 +190,6 @@ TEST_F(VorlaneWidgetTest, AListOf40000ItemsOverflowsTheCountAlone) {
     EXPECT_EQ(errors, "");
     EXPECT_EQ(widget.Count(), 0);
     EXPECT_TRUE(errors.contains("VorlaneWidget Count"));
-}
-
-// --- Scrolling ---
-
-class ScrollingTest : public VorlaneWidgetTest {
-protected:
-    ScrollingTest() {
-        Show();
-        AddPictures(40);
-        widget.StartLecture();
-    }
-    QScrollBar& Bar() { return *widget.findChild<QScrollBar*>(); }
-};
-
-TEST_F(ScrollingTest, TheBarIsAtTheRightAndCoversTheWholeList) {
-    EXPECT_TRUE(Bar().isVisible());
-    EXPECT_EQ(Bar().geometry().right(), 499);
-    EXPECT_EQ(Bar().height(), 300);
-    EXPECT_EQ(Bar().singleStep(), widget.CountDiapoX());
-}
-
-TEST_F(ScrollingTest, TheWheelMovesByARow) {
-    const int row = widget.CountDiapoX();
-    const auto wheel = [&](int angle) {
-        QWheelEvent event({50, 50}, widget.mapToGlobal(QPointF(50, 50)), {}, {0, angle}, Qt::NoButton, {},
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&widget, &event);
-    };
-    wheel(-120);
-    EXPECT_EQ(Bar().value(), row);
-    EXPECT_EQ(Shown(0), ColorOf(row));
-    wheel(-60);
-    EXPECT_EQ(Bar().value(), row);
-    wheel(-60);
-    EXPECT_EQ(Bar().value(), 2 * row);
-    wheel(240);
-    EXPECT_EQ(Bar().value(), 0);
-    EXPECT_EQ(Shown(0), ColorOf(0));
-}
-
-TEST_F(ScrollingTest, TheNativeBarScrollsTheSheet) {
-    const int row = widget.CountDiapoX();
-    QSignalSpy scrolled(&widget, &VorlaneWidget::OnScroll);
-    Bar().setValue(5 * row);
-    EXPECT_EQ(widget.sheet().VScroll.Value(), 5 * row);
-    EXPECT_EQ(Shown(0), ColorOf(5 * row));
-    EXPECT_EQ(scrolled.count(), 1);
-    Bar().triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    EXPECT_EQ(Shown(0), ColorOf(6 * row));
-    EXPECT_EQ(errors, "");
-}
-
-TEST_F(ScrollingTest, ALargerWindowShowsMore) {
-    const int before = widget.CountDiapo();
-    widget.resize(700, 500);
-    for (int i = 0; i < 20; ++i) {
-        widget.Desktop().clock.Sleep(2);
-        QCoreApplication::processEvents();
-    }
-    EXPECT_GT(widget.CountDiapo(), before);
-    EXPECT_EQ(Shown(0), ColorOf(0));
-    EXPECT_EQ(errors, "");
 }
 
 // --- Looks ---

@@ -311,6 +311,27 @@ TEST_F(ScrollBarPeerTest, ADraggedThumbScrollsAndChangesWhenItIsLetGo) {
     EXPECT_EQ(heard, "change " + std::to_string(board.bar.Value()) + ";up;");
 }
 
+TEST_F(ScrollBarPeerTest, ABarThatGoesOutOfSightUnderTheHandIsLetGoAndKeepsItsValue) {
+    const QPoint thumb = Part(QStyle::SC_ScrollBarSlider).center();
+    Mouse(QEvent::MouseButtonPress, thumb, Qt::LeftButton, Qt::LeftButton, {}, &Peer());
+    Mouse(QEvent::MouseMove, thumb + QPoint(0, 30), Qt::NoButton, Qt::LeftButton, {}, &Peer());
+    heard.clear();
+    board.bar.SetVisible(false);
+    EXPECT_EQ(heard, "up;");
+    EXPECT_EQ(board.bar.Value(), 0);
+    board.bar.SetVisible(true);
+    EXPECT_EQ(Peer().sliderPosition(), 0);
+}
+
+TEST_F(ScrollBarPeerTest, ASecondPressSoonAfterTheFirstIsAPressToo) {
+    const QPoint arrow = Part(QStyle::SC_ScrollBarAddLine).center();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+        Mouse(type, arrow, Qt::LeftButton, Qt::LeftButton, {}, &Peer());
+        Mouse(QEvent::MouseButtonRelease, arrow, Qt::LeftButton, Qt::NoButton, {}, &Peer());
+    }
+    EXPECT_EQ(heard, "down;change 10;up;down;change 20;up;");
+}
+
 TEST_F(ScrollBarPeerTest, TheWheelOverTheBarGoesToTheControl) {
     QWheelEvent event({5, 50}, Peer().mapToGlobal(QPointF(5, 50)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
                       false);

@@ -1,0 +1,141 @@
+// Scrolling a sheet by its widget's wheel and native bar.
+#include "platform/qt/formwidget.h"
+#include "platform/qt/qtdesktop.h"
+#include "tests/widgets/vorlanewidgettest.h"
+#include "windows/frmscroll.h"
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QWheelEvent>
+
+namespace vorlane {
+namespace {
+
+using test::VorlaneWidgetTest;
+
+class ScrollingTest : public VorlaneWidgetTest {
+protected:
+    ScrollingTest() {
+        Show();
+        AddPictures(40);
+        widget.StartLecture();
+    }
+    ~ScrollingTest() override { Form().Unload(); }
+    FrmScroll& Form() { return SharedFrmScroll(widget.Desktop().Roles()); }
+    // The follow window on the screen, nullptr without one.
+    FormWidget* FormOnScreen() { return Form().Visible() ? widget.Desktop().forms.WidgetOf(Form().Hwnd()) : nullptr; }
+    QPoint Thumb() {
+        QStyleOptionSlider option;
+        option.initFrom(&Bar());
+        option.orientation = Qt::Vertical;
+        option.minimum = Bar().minimum();
+        option.maximum = Bar().maximum();
+        option.sliderPosition = Bar().sliderPosition();
+        option.sliderValue = Bar().value();
+        option.pageStep = Bar().pageStep();
+        return Bar()
+            .style()
+            ->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &Bar())
+            .center();
+    }
+    QScrollBar& Bar() { return *widget.findChild<QScrollBar*>(); }
+};
+
+TEST_F(ScrollingTest, TheBarIsAtTheRightAndCoversTheWholeList) {
+    EXPECT_TRUE(Bar().isVisible());
+    EXPECT_EQ(Bar().geometry().right(), 499);
+    EXPECT_EQ(Bar().height(), 300);
+    EXPECT_EQ(Bar().singleStep(), widget.CountDiapoX());
+}
+
+TEST_F(ScrollingTest, TheWheelMovesByARow) {
+    const int row = widget.CountDiapoX();
+    const auto wheel = [&](int angle) {
+        QWheelEvent event({50, 50}, widget.mapToGlobal(QPointF(50, 50)), {}, {0, angle}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&widget, &event);
+    };
+    wheel(-120);
+    EXPECT_EQ(Bar().value(), row);
+    EXPECT_EQ(Shown(0), ColorOf(row));
+    wheel(-60);
+    EXPECT_EQ(Bar().value(), row);
+    wheel(-60);
+    EXPECT_EQ(Bar().value(), 2 * row);
+    wheel(240);
+    EXPECT_EQ(Bar().value(), 0);
+    EXPECT_EQ(Shown(0), ColorOf(0));
+}
+
+TEST_F(ScrollingTest, TheNativeBarScrollsTheSheet) {
+    const int row = widget.CountDiapoX();
+    QSignalSpy scrolled(&widget, &VorlaneWidget::OnScroll);
+    Bar().setValue(5 * row);
+    EXPECT_EQ(widget.sheet().VScroll.Value(), 5 * row);
+    EXPECT_EQ(Shown(0), ColorOf(5 * row));
+    EXPECT_EQ(scrolled.count(), 1);
+    Bar().triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    EXPECT_EQ(Shown(0), ColorOf(6 * row));
+    EXPECT_EQ(errors, "");
+}
+
+TEST_F(ScrollingTest, ALargerWindowShowsMore) {
+    const int before = widget.CountDiapo();
+    widget.resize(700, 500);
+    for (int i = 0; i < 20; ++i) {
+        widget.Desktop().clock.Sleep(2);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_GT(widget.CountDiapo(), before);
+    EXPECT_EQ(Shown(0), ColorOf(0));
+    EXPECT_EQ(errors, "");
+}
+
+TEST_F(ScrollingTest, ADraggedThumbIsFollowedByAWindowAndScrollsWhenItIsLetGo) {
+    QStringList asked;
+    QStringList told;
+    QObject::connect(&widget, &VorlaneWidget::OnGetThumbPath, &widget,
+                     [&](const QString& fileName, QString*) { asked << fileName; });
+    QObject::connect(
+        &widget, &VorlaneWidget::OnScrollMouseDown, &widget,
+        [&](int button, int, double, double, int* value) { told << QString("down %1 at %2").arg(button).arg(*value); });
+    QObject::connect(
+        &widget, &VorlaneWidget::OnScrollMouseUp, &widget,
+        [&](int button, int, double, double, int* value) { told << QString("up %1 at %2").arg(button).arg(*value); });
+    const QPoint thumb = Thumb();
+    test::SendMouse(Bar(), QEvent::MouseButtonPress, thumb, Qt::LeftButton, true);
+    EXPECT_EQ(FormOnScreen(), nullptr);
+    test::SendMouse(Bar(), QEvent::MouseMove, thumb + QPoint(0, 60), Qt::LeftButton, true);
+    ASSERT_NE(FormOnScreen(), nullptr);
+    ASSERT_EQ(asked.size(), 1);
+    const int under = asked[0].right(7).left(3).toInt();
+    EXPECT_GT(under, 0);
+    EXPECT_EQ(FormOnScreen()->geometry().topLeft(), widget.mapToGlobal(QPoint(500, 0)));
+    EXPECT_EQ(FormOnScreen()->size(), QSize(100, 76));
+    EXPECT_EQ(FormOnScreen()->grab().toImage().pixel(50, 38), ColorOf(under));
+    EXPECT_EQ(Shown(0), ColorOf(0)) << "the list stands still";
+
+    test::SendMouse(Bar(), QEvent::MouseButtonRelease, thumb + QPoint(0, 60), Qt::LeftButton, false);
+    EXPECT_EQ(FormOnScreen(), nullptr);
+    EXPECT_EQ(Shown(0), ColorOf(under));
+    EXPECT_EQ(told, QStringList({"down 1 at 0", QString("up 1 at %1").arg(under)}));
+    EXPECT_EQ(errors, "");
+}
+
+TEST_F(ScrollingTest, AReceiverMayNameAThumbnailForTheFollowWindow) {
+    const QString thumb = Write("thumb.png", test::Plain(30, 20, Qt::black));
+    QObject::connect(&widget, &VorlaneWidget::OnGetThumbPath, &widget,
+                     [&](const QString&, QString* thumbName) { *thumbName = thumb; });
+    const QPoint place = Thumb();
+    test::SendMouse(Bar(), QEvent::MouseButtonPress, place, Qt::LeftButton, true);
+    test::SendMouse(Bar(), QEvent::MouseMove, place + QPoint(0, 60), Qt::LeftButton, true);
+    ASSERT_NE(FormOnScreen(), nullptr);
+    EXPECT_EQ(FormOnScreen()->grab().toImage().pixelColor(50, 38), QColor(Qt::black));
+    test::SendMouse(Bar(), QEvent::MouseButtonRelease, place, Qt::LeftButton, false);
+}
+
+}  // namespace
+}  // namespace vorlane
