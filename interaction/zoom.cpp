@@ -1,9 +1,7 @@
-// What the sheet does for its slides on the screen: their places, the wait window over the grid, and the balloon of the
-// info button.
+// What the sheet does for its slides on the screen: their places, and the balloon of the info button.
 #include "sheet/slidemember.h"
 #include "sheet/vorlane.h"
 #include "windows/clstooltip.h"
-#include "windows/frmwait.h"
 
 namespace vorlane {
 
@@ -35,36 +33,6 @@ WinRect Vorlane::ScreenRectOf(const eDiapoLight& slide) const {
     const int32_t top = ToInt32(static_cast<double>(slide.Top()) + sheet.Top);
     return {left, top, ToInt32(static_cast<double>(slide.Width()) + left),
             ToInt32(static_cast<double>(slide.Height()) + top)};
-}
-
-// The sheet without its bar.
-WinRect Vorlane::ScreenRectOfGrid() const {
-    WinRect rect = Desktop().windows.GetWindowRect(Hwnd());
-    if (!VScroll.Visible()) return rect;
-    if (bar_.ScrollDirection == ScrollDirectionType::sdVertical) {
-        rect.Right = ToInt32(rect.Right - static_cast<double>(VScroll.Width()));
-    } else if (bar_.ScrollDirection == ScrollDirectionType::sdHorizontal) {
-        rect.Bottom = ToInt32(rect.Bottom - static_cast<double>(VScroll.Height()));
-    }
-    return rect;
-}
-
-// --- The wait window ---
-
-void Vorlane::WaitShow(const std::string& newCaption, WaitPlace fromWhere, bool withoutEffect) {
-    waitOpen_ = true;
-    SharedFrmWait(Desktop()).ShowAnimatedFrom(newCaption, fromWhere, ScreenRectOfGrid(), withoutEffect);
-}
-
-void Vorlane::SetWaitCaption(const std::string& caption) {
-    FrmWait& form = SharedFrmWait(Desktop());
-    form.Fond().SetCaption(caption);
-    if (form.Visible()) form.Refresh();
-}
-
-void Vorlane::WaitClose(bool withoutEffect) {
-    SharedFrmWait(Desktop()).CloseWindow(withoutEffect);
-    waitOpen_ = false;
 }
 
 // --- The balloon ---

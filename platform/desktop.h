@@ -82,6 +82,8 @@ public:
     virtual float TextHeight(const Font& font, std::string_view text) const = 0;
 };
 
+class ISubclass;
+
 // The windows that hold controls.
 class Windows {
 public:
@@ -99,6 +101,10 @@ public:
     virtual void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) = 0;
     // The part of the window that there is, in its pixels. It replaces the former one and stays through later moves.
     virtual void SetWindowRgn(Hwnd window, const Region& region, bool redraw) = 0;
+    // client hears of a message of the window, see subclass.h, until it is detached from it. Harmless where it does, or
+    // doesn't, hear of it already. client and window may end in either order, the client detached.
+    virtual void AttachMessage(ISubclass& client, Hwnd window, int32_t message) = 0;
+    virtual void DetachMessage(ISubclass& client, Hwnd window, int32_t message) = 0;
 };
 
 // Drags that start in the program.

@@ -68,6 +68,7 @@ Vorlane::~Vorlane() {
 }
 
 void Vorlane::Terminate() {
+    Subclass(false);
     items_.Liste = nullptr;
     for (Timer* timer : {&TimerDrag, &TimerResize, &TimerSon, &TimerUnload}) timer->SetEnabled(false);
 }
@@ -90,7 +91,10 @@ void Vorlane::ReadProperties(const PropertyBag& bag) {
 
 void Vorlane::Begin() {
     selection_.SelectedColor = First().BackColorSelected();
-    if (Ambient().UserMode) First().SetVisible(false);  // the template shows in a designer only
+    if (Ambient().UserMode) {
+        First().SetVisible(false);  // the template shows in a designer only
+        Subclass(true);
+    }
     layout_.Ready = true;
 }
 

@@ -119,6 +119,11 @@ struct Sorting {
     uint8_t SortCurrent = 0;  // criterion last sorted on
 };
 
+struct Window {
+    bool Subclassed = false;  // the messages of the sheet's window are attached
+    bool WaitOpen = false;    // the wait window is open, as WaitShow and WaitClose have left it
+};
+
 // What was played last on a channel.
 struct Channel {
     std::string Alias;

@@ -23,6 +23,7 @@
 #include "platform/propertybag.h"
 #include "platform/scrollbarplus.h"
 #include "platform/shape.h"
+#include "platform/subclass.h"
 #include "platform/textbox.h"
 #include "platform/timer.h"
 #include "sheet/clsdiapo.h"
@@ -57,7 +58,7 @@ struct SlideMember;
 class MsgBoxObject;
 class FrmScroll;
 
-class Vorlane final : public UserControl {
+class Vorlane final : public UserControl, public ISubclass {
 public:
     // One persisted property: how it is read and written.
     struct PersistedProperty {
@@ -78,11 +79,16 @@ public:
     void ReadProperties(const PropertyBag& bag) override;
     void WriteProperties(PropertyBag& bag) const override;
     void Show() override;
-    // Ends the sheet's work: no list, no timers. Harmless when called again.
+    // Ends the sheet's work: no window messages, no list, no timers. Harmless when called again.
     void Terminate();
     void Accept(ControlVisitor& visitor) const override { visitor.Visit(*this); }
     // Turns the bar by whole notches of one row each.
     bool Wheel(double notches) override;
+
+    // What the sheet's window tells of its size and place, by which the wait window follows it.
+    int32_t MsgResponse() const override;
+    void SetMsgResponse(int32_t) override {}
+    int32_t WindowProc(vorlane::Hwnd hWnd, int32_t iMsg, int32_t wParam, int32_t lParam) override;
 
     // --- Children, front to back ---
     TextBox Txt{this};              // renames in place
@@ -187,11 +193,11 @@ public:
 
     // --- Wait window ---
     // Shows it over the sheet without its bar, at a place of that rectangle.
-    void WaitShow(const std::string& newCaption, WaitPlace fromWhere, bool withoutEffect);
+    void WaitShow(const std::string& newCaption, WaitPlace fromWhere, bool withoutEffect = false);
     // The text of the open window, at once.
     void SetWaitCaption(const std::string& caption);
-    void WaitClose(bool withoutEffect);
-    bool IsWaitOpen() const { return waitOpen_; }
+    void WaitClose(bool withoutEffect = false);
+    bool IsWaitOpen() const { return window_.WaitOpen; }
 
     // --- State ---
     int16_t Count() const;  // items; fails with Overflow() beyond 16 bits
@@ -489,6 +495,10 @@ private:
     void OpenFollowWindow(FrmScroll& form);
     void CloseFollowWindow();
 
+    // waitwindow.cpp
+    WinRect GridOnScreen() const;
+    void Subclass(bool attach);
+
     // sorting.cpp
     int16_t SortInt(uint8_t criterion, int32_t& anchor);
     int16_t AnchorSlot() const;
@@ -521,7 +531,6 @@ private:
     // interaction/zoom.cpp
     void ConnectSlideZoom(const sheet::SlideMember& member);
     WinRect ScreenRectOf(const eDiapoLight& slide) const;
-    WinRect ScreenRectOfGrid() const;
     void OpenInfo(int16_t index, const eDiapoLight& slide);
     void CloseInfo();
 
@@ -666,9 +675,9 @@ private:
     sheet::Gauge gauge_;
     sheet::Sorting sort_;
     sheet::Sound sound_;
+    sheet::Window window_;
     bool inEndEdit_ = false;  // a rename is being ended
     std::string captionWait_;
-    bool waitOpen_ = false;                // as WaitShow and WaitClose have left it
     std::unique_ptr<clsToolTip> infoTip_;  // while the info button is held
     int16_t thumbnailSizeNormal_ = 0;
     int16_t oleDragMode_ = 0;

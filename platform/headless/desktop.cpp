@@ -28,6 +28,8 @@ std::string Desktop::Leaks() const {
     if (clock.RunningTimers() > 0) leaks += "running timers: " + std::to_string(clock.RunningTimers()) + "\n";
     if (clock.PendingActions() > 0)
         leaks += "actions without a yield: " + std::to_string(clock.PendingActions()) + "\n";
+    const int32_t attached = windows.AttachedMessages();
+    if (attached > 0) leaks += "attached window messages: " + std::to_string(attached) + "\n";
     const int32_t others = windows.OpenWindows() - forms.OpenForms();
     if (others > 0) leaks += "open windows: " + std::to_string(others) + "\n";
     if (forms.ShownForms() > 0) leaks += "shown forms: " + std::to_string(forms.ShownForms()) + "\n";

@@ -181,6 +181,16 @@ void FakeWindows::SetWindowRgn(Hwnd window, const Region& region, bool redraw) {
     trace_.Add("region " + std::to_string(window) + " " + region.dump() + (redraw ? " redraw" : ""));
 }
 
+void FakeWindows::AttachMessage(ISubclass& client, Hwnd window, int32_t message) {
+    trace_.Add("subclass " + std::to_string(window) + " attach " + std::to_string(message));
+    clients_.Attach(client, window, message);
+}
+
+void FakeWindows::DetachMessage(ISubclass& client, Hwnd window, int32_t message) {
+    trace_.Add("subclass " + std::to_string(window) + " detach " + std::to_string(message));
+    clients_.Detach(client, window, message);
+}
+
 void FakeDialogs::MsgBox(std::string_view text, int32_t style, std::string_view caption) {
     trace_.Add("msgbox " + std::to_string(style) + " [" + std::string(caption) + "] " + std::string(text));
 }

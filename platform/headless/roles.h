@@ -4,6 +4,7 @@
 
 #include "platform/desktop.h"
 #include "platform/headless/trace.h"
+#include "platform/subclass.h"
 
 #include <functional>
 #include <map>
@@ -109,11 +110,17 @@ public:
     void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) override;
     // "region <window> <shape>", with " redraw" behind.
     void SetWindowRgn(Hwnd window, const Region& region, bool redraw) override;
+    void AttachMessage(ISubclass& client, Hwnd window, int32_t message) override;
+    void DetachMessage(ISubclass& client, Hwnd window, int32_t message) override;
+    // The window gets a message.
+    void Send(Hwnd window, int32_t message) const { clients_.Tell(window, message); }
+    int32_t AttachedMessages() const { return clients_.Count(); }
 
 private:
     Trace& trace_;
     Hwnd last_ = 0;
     std::map<Hwnd, WinRect> windows_;
+    MessageClients clients_;
 };
 
 // Every message is answered at once.

@@ -52,11 +52,13 @@ void Window::Resize(int32_t width, int32_t height) {
     place.Bottom = place.Top + height;
     desktop_.windows.Place(handle_, place);
     if (control_ != nullptr) control_->Move(0, 0, width, height);
+    desktop_.windows.Send(handle_, WM_SIZE);
 }
 
 void Window::MoveTo(int32_t left, int32_t top) {
     const WinRect inside = desktop_.windows.GetClientRect(handle_);
     desktop_.windows.Place(handle_, {left, top, left + inside.Right, top + inside.Bottom});
+    desktop_.windows.Send(handle_, WM_MOVE);
 }
 
 bool Window::PointAt(float x, float y, int16_t shift) {

@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMoveEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyleHints>
@@ -108,6 +109,16 @@ void ControlHost::showEvent(QShowEvent* event) {
 void ControlHost::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     TakeSize();
+    desktop_.windows.Tell(this, WM_SIZE);
+}
+
+void ControlHost::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    TellMoved();
+}
+
+void ControlHost::TellMoved() {
+    desktop_.windows.Tell(this, WM_MOVE);
 }
 
 void ControlHost::changeEvent(QEvent* event) {

@@ -8,6 +8,7 @@
 #include "platform/ambient.h"
 #include "platform/dataobject.h"
 #include "platform/inputrouter.h"
+#include "platform/qt/ancestorwatch.h"
 
 #include <memory>
 #include <vector>
@@ -66,6 +67,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
@@ -74,6 +76,7 @@ protected:
 private:
     void Attach(std::unique_ptr<UserControl> control);
     void TakeSize();
+    void TellMoved();
     void PointAt(const QPointF& place);
     bool ShowToolTip(const QHelpEvent& event);
 
@@ -83,6 +86,7 @@ private:
     std::vector<std::unique_ptr<QWidget>> peers_;
     ScopedConnection damaged_;
     std::shared_ptr<DataObject> dragged_;  // what the drag over the widget carries
+    AncestorWatch around_{*this, [this] { TellMoved(); }};
     bool shown_ = false;
     int16_t pointer_ = 0;
     Picture pointerIcon_;

@@ -82,6 +82,20 @@ void QtWindows::SetWindowRgn(Hwnd window, const Region& region, bool redraw) {
     if (redraw) widget->update();
 }
 
+void QtWindows::AttachMessage(ISubclass& client, Hwnd window, int32_t message) {
+    clients_.Attach(client, window, message);
+}
+
+void QtWindows::DetachMessage(ISubclass& client, Hwnd window, int32_t message) {
+    clients_.Detach(client, window, message);
+}
+
+void QtWindows::Tell(const QWidget* widget, int32_t message) const {
+    for (const auto& [handle, known] : widgets_) {
+        if (known == widget) return clients_.Tell(handle, message);
+    }
+}
+
 void QtWindows::Forget() {
     std::erase_if(widgets_, [](const auto& entry) { return entry.second.isNull(); });
 }

@@ -1,7 +1,9 @@
 // QtWindows: numbers for the widgets that hold controls. A widget that is gone has no number any more.
+// The system tells no dragging of a window's edge or title apart: each step of it comes as WM_SIZE or WM_MOVE.
 #pragma once
 
 #include "platform/desktop.h"
+#include "platform/subclass.h"
 
 #include <map>
 
@@ -26,11 +28,17 @@ public:
     void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) override;
     void SetWindowRgn(Hwnd window, const Region& region, bool redraw) override;
 
+    void AttachMessage(ISubclass& client, Hwnd window, int32_t message) override;
+    void DetachMessage(ISubclass& client, Hwnd window, int32_t message) override;
+    // The widget has got a message.
+    void Tell(const QWidget* widget, int32_t message) const;
+
 private:
     void Forget();
 
     Hwnd last_ = 0;
     std::map<Hwnd, QPointer<QWidget>> widgets_;
+    MessageClients clients_;
 };
 
 }  // namespace vorlane

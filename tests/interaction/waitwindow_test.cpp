@@ -1,0 +1,130 @@
+// The wait window over the grid, and how it follows the sheet's window.
+#include "tests/sheet/sheetfixture.h"
+#include "windows/frmwait.h"
+
+namespace vorlane {
+namespace {
+
+class WaitWindowTest : public SheetTest {
+protected:
+    ~WaitWindowTest() override { sheet.reset(); }
+    FrmWait& Form() { return SharedFrmWait(desktop.Roles()); }
+    // The form's rectangle on the screen.
+    WinRect Stands() { return desktop.windows.GetWindowRect(Form().Hwnd()); }
+};
+
+TEST_F(WaitWindowTest, ItStandsOverTheGridBesideTheBar) {
+    Show(40);
+    sheet->WaitShow("wait", WaitPlace::BottomRight, true);
+    EXPECT_TRUE(sheet->IsWaitOpen());
+    EXPECT_TRUE(Form().Visible());
+    EXPECT_EQ(Stands().Right, 100 + kWidth - 16);
+    EXPECT_EQ(Stands().Bottom, 200 + kHeight);
+    sheet->SetWaitCaption("more");
+    EXPECT_EQ(Form().Fond().Caption(), "more");
+    sheet->WaitClose(true);
+    EXPECT_FALSE(sheet->IsWaitOpen());
+    EXPECT_FALSE(Form().Loaded());
+}
+
+TEST_F(WaitWindowTest, OfASidewaysSheetItStandsAboveTheBar) {
+    PropertyBag bag;
+    bag.SetValue("ScrollDirection", int64_t{1});
+    Start(bag);
+    AddItems(0, 39);
+    sheet->StartLecture();
+    sheet->WaitShow("wait", WaitPlace::BottomRight, true);
+    EXPECT_EQ(Stands().Right, 100 + kWidth);
+    EXPECT_EQ(Stands().Bottom, 200 + kHeight - 16);
+    sheet->WaitClose(true);
+}
+
+TEST_F(WaitWindowTest, WithoutABarItHasAllOfTheSheet) {
+    Show(3);
+    sheet->WaitShow("wait", WaitPlace::TopRight, true);
+    EXPECT_EQ(Stands().Right, 100 + kWidth);
+    sheet->WaitClose(true);
+}
+
+TEST_F(WaitWindowTest, ClosingWithoutAnOpenWindowIsHarmless) {
+    Show(3);
+    sheet->WaitClose();
+    EXPECT_FALSE(sheet->IsWaitOpen());
+    EXPECT_EQ(Heard(), "");
+}
+
+// --- Following the window ---
+
+TEST_F(WaitWindowTest, TheFourMessagesAreAttachedAtRunTimeAndDetachedAtTheEndOnce) {
+    window.Host(*sheet, {});
+    EXPECT_EQ(Heard({"subclass"}),
+              "subclass 1 attach 5\nsubclass 1 attach 532\nsubclass 1 attach 3\nsubclass 1 attach 534\n");
+    sheet->ReadProperties({});
+    EXPECT_EQ(Heard({"subclass"}), "") << "they are there already";
+    sheet->Terminate();
+    EXPECT_EQ(Heard({"subclass"}),
+              "subclass 1 detach 5\nsubclass 1 detach 532\nsubclass 1 detach 3\nsubclass 1 detach 534\n");
+    sheet->Terminate();
+    sheet.reset();
+    EXPECT_EQ(Heard({"subclass"}), "");
+}
+
+TEST_F(WaitWindowTest, ASheetPlacedNewFollowsItsWindowToo) {
+    window.Host(*sheet);
+    EXPECT_EQ(desktop.windows.AttachedMessages(), 4);
+}
+
+TEST_F(WaitWindowTest, ADesignerAttachesNothing) {
+    Ambient ambient = window.Ambient();
+    ambient.UserMode = false;
+    Make(ambient);
+    Start();
+    EXPECT_EQ(desktop.windows.AttachedMessages(), 0);
+}
+
+TEST_F(WaitWindowTest, TheWaitWindowFollowsASheetThatIsMovedOrResized) {
+    Show(40);
+    sheet->WaitShow("wait", WaitPlace::BottomRight, true);
+    window.MoveTo(0, 50);
+    EXPECT_EQ(Stands().Right, kWidth - 16);
+    EXPECT_EQ(Stands().Bottom, 50 + kHeight);
+    window.Resize(400, 300);
+    EXPECT_EQ(Stands().Right, 400 - 16);
+    EXPECT_EQ(Stands().Bottom, 50 + 300);
+    for (const int32_t message : {WM_SIZING, WM_MOVING}) {
+        desktop.windows.Place(window.Handle(), {10, 20, 210, 220});
+        desktop.windows.Send(window.Handle(), message);
+        EXPECT_EQ(Stands().Right, 210 - 16);
+        window.MoveTo(0, 50);
+    }
+    desktop.clock.Advance(200);
+    sheet->WaitClose(true);
+}
+
+TEST_F(WaitWindowTest, AMoveWithTheWaitWindowClosedIsPassedOnWithoutWork) {
+    Show(40);
+    window.MoveTo(0, 50);
+    EXPECT_FALSE(Form().Loaded());
+    EXPECT_EQ(Heard({"form"}), "");
+}
+
+TEST_F(WaitWindowTest, AnotherMessageIsPassedOnWithoutWork) {
+    Show(40);
+    sheet->WaitShow("wait", WaitPlace::BottomRight, true);
+    desktop.windows.Place(window.Handle(), {0, 0, 300, 300});
+    constexpr int32_t kPaint = 15;
+    EXPECT_EQ(sheet->WindowProc(window.Handle(), kPaint, 0, 0), 0);
+    EXPECT_EQ(Stands().Bottom, 200 + kHeight);
+    EXPECT_EQ(sheet->WindowProc(window.Handle(), WM_MOVE, 0, 0), 0);
+    EXPECT_EQ(Stands().Bottom, 300);
+    sheet->WaitClose(true);
+}
+
+TEST_F(WaitWindowTest, TheMessagesGoToTheWindowFirst) {
+    EXPECT_EQ(sheet->MsgResponse(), 2);
+    sheet->SetMsgResponse(1);
+    EXPECT_EQ(sheet->MsgResponse(), 2);
+}
+
+}  // namespace
+}  // namespace vorlane
