@@ -45,6 +45,9 @@ Failure PathNotFound(int32_t systemError) {
 Failure ObjectNotSet() {
     return {91, "Variable objet non définie"};
 }
+Failure InvalidFormat(std::string description) {
+    return {321, "Format de fichier incorrect, " + std::move(description)};
+}
 Failure ControlNotLoaded() {
     return {340, "L'élément du tableau de contrôles n'existe pas"};
 }

@@ -37,6 +37,7 @@ Failure FileExists(int32_t systemError = 0);    // 58
 Failure AccessDenied(int32_t systemError = 0);  // 70
 Failure PathNotFound(int32_t systemError = 0);  // 76
 Failure ObjectNotSet();                         // 91
+Failure InvalidFormat(std::string description); // 321
 Failure ControlNotLoaded();                     // 340
 Failure ControlAlreadyLoaded();                 // 360
 Failure InvalidProperty();                      // 380

@@ -27,6 +27,11 @@ void UserControl::Start(const PropertyBag& saved) {
     Show();
 }
 
+void UserControl::Restart(const PropertyBag& saved) {
+    ReadProperties(saved);
+    Resized();
+}
+
 float UserControl::FrameWidth() const {
     return borderStyle_ == 0 ? 0.0F : 1.0F;
 }

@@ -25,6 +25,9 @@ public:
     void Start();
     void Start(const PropertyBag& saved);
 
+    // Reads a control that has started already as a saved one anew, without its Show.
+    void Restart(const PropertyBag& saved);
+
     virtual void InitProperties() = 0;
     virtual void ReadProperties(const PropertyBag& bag) = 0;
     virtual void WriteProperties(PropertyBag& bag) const = 0;

@@ -81,8 +81,11 @@ void Vorlane::InitProperties() {
     Begin();
 }
 
-// A value that can't be read leaves its property as it was.
+// A value that can't be read leaves its property as it was. Slides of an earlier start go: they have the old design.
 void Vorlane::ReadProperties(const PropertyBag& bag) {
+    for (int32_t k = Diapo.UpperBound(); k > 0; --k) {
+        if (Diapo.Loaded(k)) Diapo.Unload(k);
+    }
     for (const PersistedProperty& property : PersistedProperties()) {
         Attempt([&] { property.Read(*this, bag); });
     }

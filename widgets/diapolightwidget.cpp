@@ -5,6 +5,7 @@
 #include "platform/qt/qtpicturedata.h"
 #include "slide/ediapolight.h"
 #include "widgets/conversions.h"
+#include "widgets/savedtext.h"
 
 #include <string_view>
 
@@ -113,6 +114,23 @@ void DiapoLightWidget::ConnectRequests() {
         Q_EMIT OnGetWindowsPos(&place, &text);
         rect = FromQRect(place);
         texte = ToText(text);
+    });
+}
+
+// --- Saving ---
+
+QByteArray DiapoLightWidget::SaveProperties() const {
+    return Ask("SaveProperties", QByteArray(), [&] {
+        PropertyBag bag;
+        slide_.WriteProperties(bag);
+        return SavedText(bag);
+    });
+}
+
+bool DiapoLightWidget::RestoreProperties(const QByteArray& text) {
+    return Ask("RestoreProperties", false, [&] {
+        Restart(FromSavedText(text));
+        return true;
     });
 }
 

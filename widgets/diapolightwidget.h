@@ -11,6 +11,7 @@
 #include "platform/qt/controlhost.h"
 #include "widgets/enums.h"
 
+#include <QByteArray>
 #include <QColor>
 #include <QFont>
 #include <QImage>
@@ -156,6 +157,12 @@ public:
     void SetToolTipBtText(const QString& text);
     int Value() const;
     void SetValue(int value);
+
+    // The persisted properties as a text (UTF-8, JSON), without those that have their defaults; and back. Whether the
+    // text could be read: otherwise nothing changes and OnError is raised. What it leaves out gets its default.
+    // As a saved slide it stays undrawn until its Refresh while NoResize is true.
+    QByteArray SaveProperties() const;
+    bool RestoreProperties(const QByteArray& text);
 
     // --- State ---
     // The picture at the widget's density; null for none. Setting a null one clears the slide.

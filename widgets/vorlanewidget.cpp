@@ -4,6 +4,7 @@
 #include "platform/qt/qtpicturedata.h"
 #include "sheet/vorlane.h"
 #include "widgets/conversions.h"
+#include "widgets/savedtext.h"
 
 #include <string_view>
 
@@ -94,6 +95,23 @@ void VorlaneWidget::ConnectPictures() {
     });
     events.InvalidPicture.connect(
         [this](int16_t index, const std::string& fileName) { Q_EMIT OnInvalidPicture(index, FromText(fileName)); });
+}
+
+// --- Saving ---
+
+QByteArray VorlaneWidget::SaveProperties() const {
+    return Ask("SaveProperties", QByteArray(), [&] {
+        PropertyBag bag;
+        sheet_.WriteProperties(bag);
+        return SavedText(bag);
+    });
+}
+
+bool VorlaneWidget::RestoreProperties(const QByteArray& text) {
+    return Ask("RestoreProperties", false, [&] {
+        Restart(FromSavedText(text));
+        return true;
+    });
 }
 
 }  // namespace vorlane

@@ -13,6 +13,7 @@
 
 #include <optional>
 
+#include <QByteArray>
 #include <QColor>
 #include <QFont>
 #include <QImage>
@@ -201,6 +202,11 @@ public:
     void SetThumbnailSizeHigh(int value);
     int ThumbnailSizeNormal() const;
     void SetThumbnailSizeNormal(int value);
+
+    // The persisted properties as a text (UTF-8, JSON), without those that have their defaults; and back. Whether the
+    // text could be read: otherwise nothing changes and OnError is raised. What it leaves out gets its default.
+    QByteArray SaveProperties() const;
+    bool RestoreProperties(const QByteArray& text);
 
     // --- Other properties ---
     QString AliasMusic() const;

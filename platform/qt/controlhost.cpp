@@ -95,6 +95,11 @@ void ControlHost::Release() {
     control_.reset();
 }
 
+void ControlHost::Restart(const PropertyBag& saved) {
+    control_->Restart(saved);
+    if (shown_) control_->Show();
+}
+
 void ControlHost::TakeSize() {
     if (control_) Attempt([&] { control_->Move(0, 0, width(), height()); });
 }

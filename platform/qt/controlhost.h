@@ -20,6 +20,7 @@ class QHelpEvent;
 
 namespace vorlane {
 
+class PropertyBag;
 class QtDesktop;
 
 class ControlHost : public QWidget {
@@ -49,6 +50,8 @@ protected:
         Attach(std::move(control));
         return hosted;
     }
+    // Starts the control anew as a saved one, up to its Show if it has been shown.
+    void Restart(const PropertyBag& saved);
     // Ends the control. A derived class does so before anything that the control's events reach goes away.
     void Release();
 

@@ -76,6 +76,23 @@ TEST_F(DiapoLightWidgetTest, AProgramsWidgetsShareOneDesktop) {
     EXPECT_EQ(&apart.Desktop(), &own);
 }
 
+TEST_F(DiapoLightWidgetTest, ASavedSlideIsRestoredInAnotherWidget) {
+    widget.SetBorderSize(9);
+    widget.SetCaptionBottom("caption");
+    widget.SetFontBottom(QFont("DejaVu Sans", 11, QFont::Bold));
+    QPixmap icon(8, 6);
+    icon.fill(Qt::red);
+    widget.SetMouseIcon(icon);
+    const QByteArray saved = widget.SaveProperties();
+    DiapoLightWidget other;
+    EXPECT_TRUE(other.RestoreProperties(saved));
+    EXPECT_EQ(other.SaveProperties(), saved);
+    EXPECT_EQ(other.BorderSize(), 9);
+    EXPECT_EQ(other.CaptionBottom(), "caption");
+    EXPECT_FALSE(other.RestoreProperties("{]"));
+    EXPECT_EQ(other.BorderSize(), 9);
+}
+
 // --- Pictures ---
 
 TEST_F(DiapoLightWidgetTest, AFileIsShownWithItsName) {

@@ -35,6 +35,64 @@ TEST_F(VorlaneWidgetTest, AValueThatTheSheetCannotHoldIsReported) {
     EXPECT_TRUE(errors.contains("VorlaneWidget SetMarges"));
 }
 
+TEST_F(VorlaneWidgetTest, ASavedSheetIsRestoredInAnotherWidget) {
+    EXPECT_EQ(VorlaneWidget().SaveProperties(), "{\n  \"Thumbnail\": true,\n  \"ThumbnailSizeNormal\": 0\n}\n");
+    QPixmap icon(8, 6);
+    icon.fill(Qt::red);
+    widget.SetMouseIcon(icon);
+    widget.SetCaptionWait(QString::fromUtf8("déjà \"vu\""));
+    widget.SetBackColor(QColor(1, 2, 3));
+    widget.SetLegendeFont(QFont("DejaVu Sans", 11, QFont::Bold));
+    widget.SetScrollDirection(ui::ScrollDirection::sdHorizontal);
+    const QByteArray saved = widget.SaveProperties();
+    VorlaneWidget other;
+    EXPECT_TRUE(other.RestoreProperties(saved));
+    EXPECT_EQ(other.SaveProperties(), saved);
+    EXPECT_EQ(other.CaptionWait(), widget.CaptionWait());
+    EXPECT_EQ(other.MouseIcon().toImage().pixelColor(7, 5), QColor(Qt::red));
+    EXPECT_EQ(other.DiapoWidth(), 120);
+}
+
+TEST_F(VorlaneWidgetTest, WhatASavedTextLeavesOutGetsItsDefault) {
+    widget.SetMarges(33);
+    EXPECT_TRUE(widget.RestoreProperties("{}"));
+    EXPECT_EQ(widget.Marges(), 5);
+    EXPECT_EQ(widget.DiapoWidth(), 100);
+    EXPECT_EQ(widget.SaveProperties(), "{}\n");
+}
+
+TEST_F(VorlaneWidgetTest, ADamagedTextChangesNothingAndIsReported) {
+    widget.SetMarges(33);
+    EXPECT_FALSE(widget.RestoreProperties("{\"Marges\": 12,"));
+    EXPECT_EQ(widget.Marges(), 33);
+    EXPECT_TRUE(errors.contains("VorlaneWidget RestoreProperties"));
+    EXPECT_TRUE(errors.contains("ligne 1, colonne 16"));
+}
+
+TEST_F(VorlaneWidgetTest, AValueThatTheSheetCannotHoldIsPassedOver) {
+    EXPECT_TRUE(widget.RestoreProperties(R"({"BorderSize": 300, "Marges": "wide", "MargeDiapoMin": 9, "Unknown": 1})"));
+    EXPECT_EQ(widget.BorderSize(), 4);
+    EXPECT_EQ(widget.Marges(), 5);
+    EXPECT_EQ(widget.MargeDiapoMin(), 9);
+}
+
+TEST_F(VorlaneWidgetTest, AFilledSheetShowsItsItemsInTheRestoredLooks) {
+    Show();
+    AddPictures(6);
+    widget.StartLecture();
+    EXPECT_TRUE(widget.RestoreProperties(R"({"DiapoWidth": 90, "DiapoHeight": 80, "BorderSize": 2})"));
+    for (int i = 0; i < 20; ++i) {
+        widget.Desktop().clock.Sleep(2);
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(widget.CountAffiche(), 6);
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(widget.sheet().Diapo.Item(i)->BorderSize(), 2);
+        EXPECT_EQ(widget.sheet().Diapo.Item(i)->Width(), 90);
+        EXPECT_EQ(Shown(i), ColorOf(i)) << i;
+    }
+}
+
 // --- Filling ---
 
 TEST_F(VorlaneWidgetTest, AFillShowsThePictures) {
