@@ -138,10 +138,12 @@ void Vorlane::ShowGhost(int16_t index) {
     ghost.ColorKey = First().BackColorSelected();
     ghost.AlphaMode = false;
     ghost.Load();
-    ghost.Move(ghost.Left(), ghost.Top(), width * ghost.TwipsPerPixelX(), height * ghost.TwipsPerPixelY());
+    const double twipsX = ghost.TwipsPerPixelX();
+    const double twipsY = ghost.TwipsPerPixelY();
+    ghost.Move(ghost.Left(), ghost.Top(), width * twipsX, height * twipsY);
     const Picture seen = Desktop().windows.Grab(Hwnd(), {left, top, left + width, top + height});
     ghost.Surface().BitBlt(0, 0, width, height, seen, 0, 0);
-    ghost.Move(place.X * ghost.TwipsPerPixelX(), place.Y * ghost.TwipsPerPixelY());
+    ghost.Move(place.X * twipsX, place.Y * twipsY);
     ShowForm(ghost);
     ghost.Surface().SetPixel(ghost.HotX, ghost.HotY, ghost.ColorKey);
 }
@@ -154,8 +156,9 @@ void Vorlane::DragTick() {
     FrmDrag& ghost = SharedFrmDrag(Desktop());
     const bool ours = internalDrag_ || TimerDrag.Enabled();
     if (ours && ghost.Loaded()) {
-        ghost.Move(ghost.Left() - (drag_.Origin.X - pointer.X) * ghost.TwipsPerPixelX(),
-                   ghost.Top() - (drag_.Origin.Y - pointer.Y) * ghost.TwipsPerPixelY());
+        const double wayX = (pointer.X - drag_.Origin.X) * static_cast<double>(ghost.TwipsPerPixelX());
+        const double wayY = (pointer.Y - drag_.Origin.Y) * static_cast<double>(ghost.TwipsPerPixelY());
+        ghost.Move(ghost.Left() + wayX, ghost.Top() + wayY);
     }
     drag_.Origin = pointer;
     const int way = droprow::EdgeScroll(Desktop().windows.GetWindowRect(Hwnd()), pointer, grid_.Marges, First().Width(),

@@ -75,7 +75,7 @@ void Vorlane::AnswerOverSlide(int16_t index, const DragEvent& drag) {
     drag_.DropRightPart = false;
     const uint32_t ends = drag_.Ends;
     OpenRowAt(over, rightPart, drag_.OpenRow == RowOf(over) && IsOpenElsewhere(over));
-    if (drag_.Ends == ends) GiveWay(over, rightPart);
+    if (drag_.Ends == ends && drag_.OpenRow == RowOf(over)) GiveWay(over, rightPart);
 }
 
 // --- Over the ground ---
@@ -83,7 +83,7 @@ void Vorlane::AnswerOverSlide(int16_t index, const DragEvent& drag) {
 void Vorlane::DragOverGround(const DragEvent& drag) {
     const auto over = [&] {
         if (EscapesDrag()) return;
-        if (drag.State == sheet::kDragLeave) return LeaveGround();
+        if (drag.State == sheet::kDragLeave) return LeaveGround(drag);
         const bool asks = drag.State == sheet::kDragEnter && !internalDrag_;
         if (asks) drag_.Cancel = false;
         if (!HasPlaceFor(drag)) return;
@@ -112,15 +112,16 @@ void Vorlane::OpenUnder(const DragEvent& drag) {
     OpenRowAt(slot, Diapo.Item(slot)->Visible() && rightPart, false);
 }
 
-// With the pointer outside the sheet, or over its bar, the row closes.
-void Vorlane::LeaveGround() {
+// With the pointer outside the sheet, or over its bar, the row closes; so it does when the drag is told to be outside,
+// which it is as well when it ends without a drop.
+void Vorlane::LeaveGround(const DragEvent& drag) {
     const Point pointer = Trelmic6(Desktop()).CursorPos();
     const WinRect sheet = Desktop().windows.GetWindowRect(Hwnd());
     const bool barAtRight = VScroll.Visible() && bar_.ScrollDirection == ScrollDirectionType::sdVertical;
     const double right = sheet.Right - (barAtRight ? static_cast<double>(VScroll.Width()) : 0);
     const bool inside =
         pointer.X >= sheet.Left && pointer.X < right && pointer.Y >= sheet.Top && pointer.Y < sheet.Bottom;
-    if (inside) return;
+    if (inside && drag.X >= 0) return;
     ++drag_.Ends;
     ImgDrag.SetVisible(false);
     DragRestoreLig(drag_.OpenRow);

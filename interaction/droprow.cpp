@@ -34,12 +34,12 @@ int16_t Gap(float areaWidth, float slideWidth, int16_t columns) {
 void StepApart(std::vector<Standing>& row, size_t count, float end) {
     for (size_t i = 0; i < count && i < row.size(); ++i) {
         const float wall = i == 0 ? 0 : RightOf(row[i - 1]);
-        row[i].Left = std::max(row[i].Left - kStep, wall);
+        row[i].Left = std::min(row[i].Left, std::max(row[i].Left - kStep, wall));
     }
     for (size_t i = row.size(); i > count; --i) {
         Standing& slide = row[i - 1];
         const float wall = i == row.size() ? end : row[i].Left;
-        slide.Left = std::min(slide.Left + kStep, wall - slide.Width);
+        slide.Left = std::max(slide.Left, std::min(slide.Left + kStep, wall - slide.Width));
     }
 }
 

@@ -41,7 +41,7 @@ struct Standing {
 };
 
 // One step of a row that opens: the first count slides go to the left, the others to the right, two pixels each, none
-// beyond the row's ends (0 and end) nor over its neighbour.
+// beyond the row's ends (0 and end) nor over its neighbour, and none the other way.
 void StepApart(std::vector<Standing>& row, size_t count, float end);
 // One step of a row that closes: each slide goes two pixels towards its home.
 void StepHome(std::vector<Standing>& row);

@@ -12,6 +12,8 @@ constexpr int16_t kEnter = 0;
 constexpr int16_t kLeave = 1;
 constexpr int16_t kOver = 2;
 
+constexpr float kOutside = -1;  // the place of a drag that has left the root
+
 int16_t With(int16_t buttons, int16_t button) {
     return static_cast<int16_t>(buttons | button);
 }
@@ -185,10 +187,13 @@ void InputRouter::LeaveDragged(DataObject& data) {
 
 void InputRouter::DragLeave(DataObject& data) {
     if (!dragged_) return;
-    const bool hearsAnyway = dragged_.control == &root_ || root_.OLEDropMode() == 0;
-    LeaveDragged(data);
+    if (dragged_.control == &root_) {
+        dragged_ = {};
+    } else {
+        LeaveDragged(data);
+    }
     int32_t effect = 0;
-    if (!hearsAnyway) DragTo({&root_}, data, effect, 0, 0, 0, 0, kLeave);
+    if (root_.OLEDropMode() != 0) DragTo({&root_}, data, effect, 0, 0, kOutside, kOutside, kLeave);
 }
 
 void InputRouter::DragDrop(DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y) {

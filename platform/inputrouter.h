@@ -41,7 +41,8 @@ public:
 
     // A drag over the root: the control under it hears of enter, over and leave. Of those that lie there, it is the
     // innermost one that takes drops, by its OLEDropMode. effect is the answer: 0 where nothing takes drops, and before
-    // anything has answered. A drag that leaves the root is told to the root too.
+    // anything has answered. A drag that leaves the root, or ends without a drop, is
+    // told to the root too, at a place outside of it.
     void DragOver(DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y);
     void DragLeave(DataObject& data);
     void DragDrop(DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y);

@@ -274,7 +274,8 @@ public:
     // The least thumbnail size of the slides; a slide larger than this takes its own longer side.
     int16_t ThumbnailSizeNormal() const { return thumbnailSizeNormal_; }
     void SetThumbnailSizeNormal(int16_t size);
-    // 0 none, 1 manual, 2 automatic. The slides drag by themselves only in 2, and take drops by the sheet's hand.
+    // OLEDragMode 1: a move of a pressed selected slide starts a drag. OLEDropMode 0: drops are not taken; 1: they are
+    // told to the host; 2: the sheet takes them. The slides themselves do neither.
     int16_t OLEDragMode() const { return oleDragMode_; }
     void SetOLEDragMode(int16_t mode);
     int16_t OLEDropMode() const { return oleDropMode_; }
@@ -614,7 +615,7 @@ private:
     void DragOverGround(const sheet::DragEvent& drag);
     void AskForForeignDrag(const sheet::DragEvent& drag);
     void OpenUnder(const sheet::DragEvent& drag);
-    void LeaveGround();
+    void LeaveGround(const sheet::DragEvent& drag);
     int32_t CountFilesIn(const std::string& path);
 
     // interaction/openrow.cpp

@@ -246,7 +246,7 @@ TEST_F(InputRouterTest, ADragEntersIsOverAndLeavesEachControl) {
               "input image OLEDragOver 0,0 1\n"
               "input root OLEDragOver 60,25 0\n"
               "input root OLEDragOver 60,25 2\n"
-              "input root OLEDragOver 0,0 1\n");
+              "input root OLEDragOver -1,-1 1\n");
 }
 
 TEST_F(InputRouterTest, ADropReachesTheControlAndLeavesNoDragBehind) {
@@ -299,7 +299,7 @@ TEST_F(InputRouterTest, ADragThatLeavesTheWindowIsToldToTheRootToo) {
     window.Router().DragOver(data, effect, 1, 0, 12, 25);
     desktop.trace.Clear();
     window.Router().DragLeave(data);
-    EXPECT_EQ(Inputs(), "input image OLEDragOver 0,0 1\ninput root OLEDragOver 0,0 1\n");
+    EXPECT_EQ(Inputs(), "input image OLEDragOver 0,0 1\ninput root OLEDragOver -1,-1 1\n");
 }
 
 TEST_F(InputRouterTest, ButtonsThatADragHasReleasedAreUp) {

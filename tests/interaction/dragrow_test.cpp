@@ -1,0 +1,156 @@
+// The row under a drag: it opens, gives way, closes; the mark in its gap.
+#include "tests/interaction/dragfixture.h"
+
+namespace vorlane {
+namespace {
+
+TEST_F(DragTest, TheRowOfTheSlideOpensAtOnceWithAYieldAStep) {
+    ShowDraggable(7);
+    const int32_t before = desktop.clock.Yields();
+    DragSlide(1, [&](UserDrag&) {
+        // The pointer went to the right, so the mark starts on the left.
+        EXPECT_EQ(Lefts(0, 2), "0 117 217");
+        EXPECT_EQ(Mark(), "100,5");
+    });
+    EXPECT_GE(desktop.clock.Yields() - before, 10);
+}
+
+TEST_F(DragTest, TheRowUnderThePointerOpensAndTheFormerOneCloses) {
+    ShowDraggable(7);
+    DragSlide(1, [&](UserDrag& drag) {
+        Over(drag, 4, 0.2F);
+        EXPECT_EQ(Lefts(0, 2), "5 111 217");
+        EXPECT_EQ(Lefts(3, 5), "0 117 217");
+        EXPECT_EQ(drag.Effect(), 2);
+    });
+}
+
+TEST_F(DragTest, ASingleSlideRowNeverOpensAndTheMarkStillStands) {
+    ShowDraggable(7);
+    DragSlide(1, [&](UserDrag& drag) {
+        drag.Over(window, 25, 175);
+        EXPECT_NE(Mark(), "hidden");
+        EXPECT_EQ(Lefts(0, 2), "5 111 217");
+    });
+    EXPECT_EQ(Lefts(6, 6), "5");
+}
+
+TEST_F(DragTest, TheMarkSaysWhatTheHostWants) {
+    ShowDraggable(7);
+    onBeforeStart = [](std::string& text, bool&) { text = "2 photos"; };
+    DragSlide(1, [&](UserDrag&) {
+        EXPECT_EQ(sheet->ImgDrag.Caption(), "2 photos");
+        EXPECT_EQ(sheet->ImgDrag.Width(), 19);
+        EXPECT_EQ(sheet->ImgDrag.Height(), 75);
+    });
+}
+
+TEST_F(DragTest, TheHoveredSlideGivesWayToThePointersHalf) {
+    ShowDraggable(7);
+    DragSlide(1, [&](UserDrag& drag) {
+        Over(drag, 4, 0.2F);
+        const float opened = sheet->Diapo.Item(4)->Left();
+        drag.Over(window, opened + 80, 120);
+        EXPECT_LT(sheet->Diapo.Item(4)->Left(), 111);
+        const float mark = sheet->ImgDrag.Left();
+        EXPECT_GE(mark, sheet->Diapo.Item(4)->Left() + 100);
+        EXPECT_LE(mark + 19, sheet->Diapo.Item(5)->Left() + 1);
+    });
+}
+
+TEST_F(DragTest, ARowThatIsOpenElsewhereOpensAnewUnderThePointer) {
+    ShowDraggable(9);
+    DragSlide(4, [&](UserDrag& drag) {
+        Over(drag, 0, 0.2F);
+        const std::string first = Lefts(0, 2);
+        drag.Over(window, 290, 40);
+        EXPECT_NE(Lefts(0, 2), first);
+        const float mark = sheet->ImgDrag.Left();
+        EXPECT_GE(mark, sheet->Diapo.Item(2)->Left() + 100);
+    });
+}
+
+TEST_F(DragTest, ADragOutOfTheWindowClosesTheRow) {
+    ShowDraggable(7);
+    DragSlide(1, [&](UserDrag& drag) {
+        Over(drag, 4, 0.2F);
+        drag.Over(window, -20, 40);
+        EXPECT_EQ(Lefts(0, 5), "5 111 217 5 111 217");
+        EXPECT_EQ(Mark(), "hidden");
+        Over(drag, 4, 0.2F);
+        EXPECT_NE(Mark(), "hidden");
+    });
+}
+
+TEST_F(DragTest, OverTheBarNothingIsOpenedByALeave) {
+    ShowDraggable(30);
+    DragSlide(1, [&](UserDrag& drag) {
+        drag.Over(window, kWidth - 5, 40);
+        EXPECT_EQ(drag.Effect(), 2);
+    });
+}
+
+TEST_F(DragTest, ADragThatEndsWhileARowOpensLeavesItClosed) {
+    ShowDraggable(7);
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    desktop.clock.AtYield(6, [&] { drag.Drop(); });
+    Over(drag, 1, 0.2F);
+    drag.Drop();
+    EXPECT_EQ(Lefts(0, 2), "5 111 217");
+    EXPECT_EQ(Mark(), "hidden");
+}
+
+TEST_F(DragTest, WhileARowOpensNoOtherOneDoes) {
+    ShowDraggable(7);
+    DragSlide(1, [&](UserDrag& drag) {
+        desktop.clock.AtYield(3, [&] {
+            Over(drag, 1, 0.2F);
+            EXPECT_EQ(Lefts(0, 2), "5 111 217");
+        });
+        Over(drag, 4, 0.2F);
+        EXPECT_NE(Lefts(3, 5), "5 111 217");
+    });
+    EXPECT_EQ(Lefts(0, 5), "5 111 217 5 111 217");
+}
+
+TEST_F(DragTest, InASheetOfOneRowTheMarkIsAsHighAsTheSheetAllows) {
+    ShowDraggable(9);
+    sheet->SetScrollDirection(ScrollDirectionType::sdHorizontal);
+    desktop.clock.Advance(200);
+    DragSlide(1, [&](UserDrag& drag) {
+        Over(drag, 0, 0.2F);
+        EXPECT_EQ(sheet->ImgDrag.Height(), 120);
+        EXPECT_EQ(sheet->ImgDrag.Top(), sheet->Diapo.Item(0)->Top());
+    });
+}
+
+// --- Scrolling ---
+
+TEST_F(DragTest, BeyondTheMarginTheSheetScrollsARowATick) {
+    ShowDraggable(30);
+    DragSlide(1, [&](UserDrag& drag) {
+        drag.Over(window, 150, kHeight - 3);
+        desktop.clock.Advance(10);
+        EXPECT_EQ(sheet->VScroll.Value(), 3);
+        desktop.clock.Advance(20);
+        EXPECT_EQ(sheet->VScroll.Value(), 9);
+        drag.Over(window, 150, 2);
+        desktop.clock.Advance(10);
+        EXPECT_EQ(sheet->VScroll.Value(), 6);
+        drag.Over(window, 150, 60);
+        desktop.clock.Advance(50);
+        EXPECT_EQ(sheet->VScroll.Value(), 6);
+        desktop.clock.Advance(0);
+    });
+}
+
+TEST_F(DragTest, ADragFromOutsideScrollsWithEachMove) {
+    ShowDraggable(30);
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    drag.Over(window, 150, kHeight - 3);
+    EXPECT_GT(sheet->VScroll.Value(), 0);
+    EXPECT_FALSE(sheet->TimerDrag.Enabled());
+}
+
+}  // namespace
+}  // namespace vorlane
