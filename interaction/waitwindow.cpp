@@ -23,8 +23,8 @@ WinRect Vorlane::GridOnScreen() const {
     if (!VScroll.Visible()) return rect;
     const bool vertical = bar_.ScrollDirection == ScrollDirectionType::sdVertical;
     const bool horizontal = bar_.ScrollDirection == ScrollDirectionType::sdHorizontal;
-    if (vertical) rect.Right = ToInt32(rect.Right - VScroll.Width());
-    if (horizontal) rect.Bottom = ToInt32(rect.Bottom - VScroll.Height());
+    if (vertical) rect.Right = ToInt32(rect.Right - double{VScroll.Width()});
+    if (horizontal) rect.Bottom = ToInt32(rect.Bottom - double{VScroll.Height()});
     return rect;
 }
 

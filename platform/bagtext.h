@@ -15,7 +15,7 @@ namespace vorlane {
 // What stands for a picture in a text, and back. Without a text, or with one that is not understood, the key is left
 // out, so that it reads as its default.
 struct PictureTexts {
-    std::function<std::string(const Picture&)> ToText;        // "" for none
+    std::function<std::string(const Picture&)> ToText;          // "" for none
     std::function<Picture(const std::string& text)> ToPicture;  // the empty picture for none
 };
 

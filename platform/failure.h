@@ -25,24 +25,24 @@ public:
 
 namespace failures {
 
-Failure InvalidCall();                          // 5
-Failure Overflow();                             // 6
-Failure OutOfMemory();                          // 7
-Failure SubscriptOutOfRange();                  // 9
-Failure DivisionByZero();                       // 11
-Failure TypeMismatch();                         // 13
-Failure Internal(std::string description);      // 51
-Failure FileNotFound(int32_t systemError = 0);  // 53
-Failure FileExists(int32_t systemError = 0);    // 58
-Failure AccessDenied(int32_t systemError = 0);  // 70
-Failure PathNotFound(int32_t systemError = 0);  // 76
-Failure ObjectNotSet();                         // 91
-Failure InvalidFormat(std::string description); // 321
-Failure ControlNotLoaded();                     // 340
-Failure ControlAlreadyLoaded();                 // 360
-Failure InvalidProperty();                      // 380
-Failure DuplicateKey();                         // 457
-Failure InvalidPicture();                       // 481
+Failure InvalidCall();                           // 5
+Failure Overflow();                              // 6
+Failure OutOfMemory();                           // 7
+Failure SubscriptOutOfRange();                   // 9
+Failure DivisionByZero();                        // 11
+Failure TypeMismatch();                          // 13
+Failure Internal(std::string description);       // 51
+Failure FileNotFound(int32_t systemError = 0);   // 53
+Failure FileExists(int32_t systemError = 0);     // 58
+Failure AccessDenied(int32_t systemError = 0);   // 70
+Failure PathNotFound(int32_t systemError = 0);   // 76
+Failure ObjectNotSet();                          // 91
+Failure InvalidFormat(std::string description);  // 321
+Failure ControlNotLoaded();                      // 340
+Failure ControlAlreadyLoaded();                  // 360
+Failure InvalidProperty();                       // 380
+Failure DuplicateKey();                          // 457
+Failure InvalidPicture();                        // 481
 
 }  // namespace failures
 

@@ -18,7 +18,9 @@ bool IsDigit(char c) {
 // The length of the number at the start of a text, 0 for none.
 size_t NumberLength(std::string_view text, bool& real) {
     size_t at = 0;
-    const auto is = [&](std::string_view any) { return at < text.size() && any.find(text[at]) != std::string_view::npos; };
+    const auto is = [&](std::string_view any) {
+        return at < text.size() && any.find(text[at]) != std::string_view::npos;
+    };
     const auto digits = [&] {
         const size_t start = at;
         while (at < text.size() && IsDigit(text[at])) ++at;

@@ -95,7 +95,8 @@ bool Vorlane::Lect(int32_t start, int16_t slot, int16_t count) {
         pass_.StopLect = false;
         VScroll.SetVisible(ListCount() > pool - RowLength());
         pass_.FirstListIndex = start;
-        Fill fill{start, slot, count, pool, ToInt16(Max(slot, 0))};
+        pass_.FirstSlot = ToInt16(Max(slot, 0));
+        Fill fill{start, slot, count, pool, pass_.FirstSlot};
         const bool complete = RunFill(fill);
         Events.DisplayEnd();
         return complete;
@@ -116,7 +117,8 @@ bool Vorlane::RunFill(Fill& fill) {
 }
 
 bool Vorlane::MayGoOn(const Fill& fill) const {
-    return fill.Pool == CountDiapo() && pass_.FirstListIndex == fill.Start && !pass_.StopLect;
+    const bool newest = pass_.FirstListIndex == fill.Start && pass_.FirstSlot == Max(fill.Slot, 0);
+    return fill.Pool == CountDiapo() && newest && !pass_.StopLect;
 }
 
 bool Vorlane::FillSlots(Fill& fill) {

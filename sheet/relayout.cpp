@@ -86,8 +86,10 @@ void Vorlane::DiapoSizeChange(bool dimAll, int16_t newWidth, int16_t newHeight) 
     layout_.Resizing = false;
 }
 
-void Vorlane::HideFrom(int64_t first) {
-    for (int32_t k = ToInt32(first); k < Diapo.Count(); ++k) Diapo.Item(k)->SetVisible(false);
+void Vorlane::HideFrom(int32_t first) {
+    for (int32_t k = first; k <= Diapo.UpperBound(); ++k) {
+        if (Diapo.Loaded(k)) Diapo.Item(k)->SetVisible(false);
+    }
 }
 
 // --- The layout ---
@@ -125,7 +127,7 @@ bool Vorlane::PlaceAll(Placement& placement) {
         if (placed == Placed::Yes && !MayGoOn(placement)) return false;
     }
     Jauge.SetValue(Jauge.Max());
-    HideFrom(Max(CountDiapo(), 1));
+    HideFrom(ToInt32(Max(CountDiapo(), 1)));
     ShowGauge(false);
     InitVScroll(false);
     layout_.Resizing = false;
@@ -142,7 +144,7 @@ bool Vorlane::MayGoOn(const Placement& placement) const {
 sheet::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
     std::string name;
     if (Diapo.Loaded(slot)) {
-        name = Diapo.Item(slot)->ImageFullPath();
+        name = NameOn(*Diapo.Item(slot));
     } else {
         const Placed made = MakeMissing(slot, name);
         if (made != Placed::Yes) return made;
@@ -165,6 +167,14 @@ sheet::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
     Events.Added(slot, name);
     RepaintSlide(*Diapo.Item(slot));
     return Placed::Yes;
+}
+
+// The file of a slide as its item spells it; a slide that shows another file, or none, tells its own.
+std::string Vorlane::NameOn(const eDiapoLight& slide) const {
+    const int32_t item = slide.Value();
+    if (item < 0 || item >= ListCount()) return slide.ImageFullPath();
+    const std::string name = ItemFullPath(item);
+    return eDiapoLight::KnownPath(name) == slide.ImageFullPath() ? name : slide.ImageFullPath();
 }
 
 // Loads a slide for the item behind the last slide's, at run time; in a designer for nothing, if the host allows it.

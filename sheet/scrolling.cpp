@@ -42,8 +42,10 @@ void Vorlane::BarChanged(int32_t value) {
             if (back ? First().Value() == 0 : AtListEnd()) return;
         }
         const bool complete = step && IsWholeRow(distance) ? Scroll(back ? 1 : 0) : Jump(value);
+        const float token = pass_.LectToken;
         Events.Scroll(value, bar_.ScrollValue);
-        if (complete) bar_.ScrollValue = value;
+        const bool newest = token == pass_.LectToken;  // a handler has shown nothing else meanwhile
+        if (complete && newest) bar_.ScrollValue = value;
     };
     GuardVoid(change, "VScroll_Change", value);
 }

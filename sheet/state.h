@@ -42,6 +42,7 @@ struct Items {
 struct Pass {
     bool NoSlideYet = true;      // no slide was ever made: the first fill makes slide 0 too
     int32_t FirstListIndex = 0;  // where the fill started last begins
+    int16_t FirstSlot = 0;       // and the slide that it begins at
     float LectToken = 0;         // mark of the last started fill or layout
     bool StopLect = false;       // a running fill or layout has to stop
 };

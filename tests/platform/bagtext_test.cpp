@@ -104,10 +104,31 @@ TEST(BagText, DamageIsToldWithItsPlace) {
 }
 
 TEST(BagText, ValuesThatNoBagHoldsAreFailures) {
-    for (const char* value : {"null", "[1]", "{}", "{\"color\": 1}", "{\"font\": {}, \"picture\": \"a\"}", "tru", "nope",
-                              "+1", "01", "1.", ".5", "1e", "-", "1e999", "\"\\x\"", "\"\\u12\"", "\"\\u12g4\"",
-                              "\"\\ud800\"", "\"\\ud800\\u0041\"", "\"\\udc00\"", "{\"font\": {\"weight\": 1}}",
-                              "{\"font\": {\"bold\": 1}}", "{\"font\": 1}", "{\"picture\": 1}", ""}) {
+    for (const char* value : {"null",
+                              "[1]",
+                              "{}",
+                              "{\"color\": 1}",
+                              "{\"font\": {}, \"picture\": \"a\"}",
+                              "tru",
+                              "nope",
+                              "+1",
+                              "01",
+                              "1.",
+                              ".5",
+                              "1e",
+                              "-",
+                              "1e999",
+                              "\"\\x\"",
+                              "\"\\u12\"",
+                              "\"\\u12g4\"",
+                              "\"\\ud800\"",
+                              "\"\\ud800\\u0041\"",
+                              "\"\\udc00\"",
+                              "{\"font\": {\"weight\": 1}}",
+                              "{\"font\": {\"bold\": 1}}",
+                              "{\"font\": 1}",
+                              "{\"picture\": 1}",
+                              ""}) {
         EXPECT_NE(Complaint("{\"a\": " + std::string(value) + "}"), "none") << value;
     }
 }

@@ -3,6 +3,7 @@
 
 #include "platform/files.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <fstream>
 
@@ -23,11 +24,18 @@ public:
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     const std::string& Path() const { return path_; }
+    // With a separator at its end.
+    std::string WithSeparator() const { return path_ + "/"; }
     std::string At(std::string_view name) const { return path_ + "/" + std::string(name); }
 
     // Makes a file and gives its path.
     std::string File(std::string_view name, std::string_view content = "") const {
         std::ofstream(files::ToPath(At(name)), std::ios::binary) << content;
+        return At(name);
+    }
+    // Makes a file of that many bytes, without taking room for them, and gives its path.
+    std::string Sparse(std::string_view name, uintmax_t bytes) const {
+        std::filesystem::resize_file(files::ToPath(File(name)), bytes);
         return At(name);
     }
     std::string Folder(std::string_view name) const {

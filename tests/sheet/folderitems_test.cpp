@@ -1,6 +1,6 @@
 #include "sheet/folderitems.h"
 
-#include "tests/sheet/tempfolder.h"
+#include "tests/platform/temporaryfolder.h"
 #include "tests/sheet/vectorlistbox.h"
 
 #include <gtest/gtest.h>
@@ -10,13 +10,13 @@ namespace {
 
 class FolderItemsTest : public ::testing::Test {
 protected:
-    TempFolder folder;
+    TemporaryFolder folder;
     VectorListBox list{500};
     FileListBox reader{501};
     FolderRules rules{"*.*", [](const std::string&) { return std::string("k"); }, {}};
 
     int32_t AddFolder(int32_t insertBefore = -1) {
-        return AddFolderItems(list, reader, folder.Path(), insertBefore, rules);
+        return AddFolderItems(list, reader, folder.WithSeparator(), insertBefore, rules);
     }
     // Names and keys.
     std::string Items() const {
@@ -43,7 +43,7 @@ TEST_F(FolderItemsTest, AFolderThatHasChangedIsReadAnew) {
 TEST_F(FolderItemsTest, FilesComeInWithSortDataAndFullName) {
     folder.File("a.jpg");
     EXPECT_EQ(AddFolder(), 1);
-    EXPECT_EQ(list.List(0), "k\t" + folder.Path() + "a.jpg");
+    EXPECT_EQ(list.List(0), "k\t" + folder.WithSeparator() + "a.jpg");
 }
 
 TEST_F(FolderItemsTest, FilesThatDoNotMatchThePatternAreLeftOut) {
@@ -73,9 +73,9 @@ TEST_F(FolderItemsTest, EachFileGoesInFrontOfTheSamePlace) {
 TEST_F(FolderItemsTest, WhatTheHostLeftStandsForTheNextFile) {
     for (const char* name : {"a.jpg", "b.jpg", "c.jpg", "d.jpg"}) folder.File(name);
     rules.Offer = [this](const std::string& file, int32_t& key, bool& cancel) {
-        if (file == folder.Path() + "a.jpg") key = 70;
-        if (file == folder.Path() + "b.jpg") cancel = true;
-        if (file == folder.Path() + "d.jpg") cancel = false;
+        if (file == folder.WithSeparator() + "a.jpg") key = 70;
+        if (file == folder.WithSeparator() + "b.jpg") cancel = true;
+        if (file == folder.WithSeparator() + "d.jpg") cancel = false;
     };
     EXPECT_EQ(AddFolder(), 2);
     EXPECT_EQ(Items(), "a.jpg=70 d.jpg=70 ");

@@ -1,6 +1,6 @@
 // Items: adding, clearing, binding lists, reading folders, keys.
+#include "tests/platform/temporaryfolder.h"
 #include "tests/sheet/sheetfixture.h"
-#include "tests/sheet/tempfolder.h"
 #include "tests/sheet/vectorlistbox.h"
 
 namespace vorlane {
@@ -156,12 +156,12 @@ TEST_F(ItemsTest, BlankSlidesHaveNoKey) {
 }
 
 TEST_F(ItemsTest, AFileListHasNoKeysAndNoPublicPath) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
-    sheet->InitListe(ListeModeType::lmFileList, nullptr, folder.Path());
+    sheet->InitListe(ListeModeType::lmFileList, nullptr, folder.WithSeparator());
     sheet->StartLecture();
     EXPECT_EQ(sheet->Count(), 1);
-    EXPECT_EQ(sheet->Diapo.Item(0)->ImageFullPath(), folder.Path() + "a.jpg");
+    EXPECT_EQ(sheet->Diapo.Item(0)->ImageFullPath(), folder.WithSeparator() + "a.jpg");
     EXPECT_EQ(sheet->Key(0), 0);
     EXPECT_EQ(sheet->ImageFullPath(0), "");
     EXPECT_EQ(sheet->GetListIndexFromItemData(0), -1);
@@ -240,33 +240,33 @@ TEST_F(ItemsTest, AListWithoutMultiSelectIsBoundWithAMessageAndTheOldSlidesStay)
 }
 
 TEST_F(ItemsTest, InitListeReadsAFolderIntoTheSheetsOwnList) {
-    const TempFolder folder;
-    folder.File("B.jpg", 12);
+    const TemporaryFolder folder;
+    folder.Sparse("B.jpg", 12);
     folder.File("a.png");
-    sheet->InitListe(ListeModeType::lmList, nullptr, folder.Path(), "*.*", saSize | saExtension);
+    sheet->InitListe(ListeModeType::lmList, nullptr, folder.WithSeparator(), "*.*", saSize | saExtension);
     EXPECT_EQ(Names(), "a.png B.jpg");
     EXPECT_EQ(sheet->LstInterne.List(1),
               "b.jpg\x0B"
               "0000000012b.jpg\x0Bjpgb.jpg\t" +
-                  folder.Path() + "B.jpg");
+                  folder.WithSeparator() + "B.jpg");
     EXPECT_EQ(sheet->Key(1), 0) << "items of a folder have no key";
     EXPECT_EQ(Heard(), "host TLClear\nhost TraitementFeedBack 1/2\nhost TraitementFeedBack 2/2\n");
 }
 
 TEST_F(ItemsTest, WithoutSortingTheItemsOfAFolderHaveNoSortData) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("B.jpg");
     sheet->SetSorted(false);
-    sheet->InitListe(ListeModeType::lmList, nullptr, folder.Path());
-    EXPECT_EQ(sheet->LstInterne.List(0), "\t" + folder.Path() + "B.jpg");
+    sheet->InitListe(ListeModeType::lmList, nullptr, folder.WithSeparator());
+    EXPECT_EQ(sheet->LstInterne.List(0), "\t" + folder.WithSeparator() + "B.jpg");
 }
 
 TEST_F(ItemsTest, InitListeInsideItselfReturnsAtOnce) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
     sheet->Events.TLClear.connect([&] { sheet->InitListe(ListeModeType::lmFileList); });
     onFeedBack = [&](int32_t) { sheet->InitListe(ListeModeType::lmFileList); };
-    sheet->InitListe(ListeModeType::lmList, nullptr, folder.Path());
+    sheet->InitListe(ListeModeType::lmList, nullptr, folder.WithSeparator());
     EXPECT_EQ(sheet->Liste(), &sheet->LstInterne);
     EXPECT_EQ(Names(), "a.jpg");
     sheet->InitListe(ListeModeType::lmFileList);
@@ -286,11 +286,11 @@ TEST_F(ItemsTest, AThrowInsideInitListeIsReportedAndDoesNotBlockTheNext) {
 // --- Path and Pattern ---
 
 TEST_F(ItemsTest, SettingThePathReadsTheFolderIntoTheSheetsOwnList) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
     folder.File("b.png");
-    sheet->SetPath(folder.Path() + "/");
-    EXPECT_EQ(sheet->Path(), folder.Path());
+    sheet->SetPath(folder.WithSeparator() + "/");
+    EXPECT_EQ(sheet->Path(), folder.WithSeparator());
     EXPECT_EQ(Names(), "a.jpg b.png");
     sheet->SetPattern("*.png");
     EXPECT_EQ(Names(), "b.png");
@@ -298,19 +298,19 @@ TEST_F(ItemsTest, SettingThePathReadsTheFolderIntoTheSheetsOwnList) {
 }
 
 TEST_F(ItemsTest, ThePathThatStandsIsNotReadAgain) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
-    sheet->SetPath(folder.Path());
+    sheet->SetPath(folder.WithSeparator());
     sheet->LstInterne.Clear();
-    sheet->SetPath(folder.Path());
+    sheet->SetPath(folder.WithSeparator());
     EXPECT_EQ(sheet->Count(), 0);
 }
 
 TEST_F(ItemsTest, FromInitKeepsThePathFromReading) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
     sheet->SetFromInit(true);
-    sheet->SetPath(folder.Path());
+    sheet->SetPath(folder.WithSeparator());
     EXPECT_EQ(sheet->Count(), 0);
     sheet->SetFromInit(false);
     sheet->SetPattern("*.jpg");
@@ -318,10 +318,10 @@ TEST_F(ItemsTest, FromInitKeepsThePathFromReading) {
 }
 
 TEST_F(ItemsTest, WithoutListAutoFillOrAPatternNoFolderIsRead) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
     sheet->SetListAutoFill(false);
-    sheet->SetPath(folder.Path());
+    sheet->SetPath(folder.WithSeparator());
     EXPECT_EQ(sheet->Count(), 0);
     sheet->SetListAutoFill(true);
     sheet->SetPattern("");
@@ -331,22 +331,22 @@ TEST_F(ItemsTest, WithoutListAutoFillOrAPatternNoFolderIsRead) {
 }
 
 TEST_F(ItemsTest, ADesignerReadsNoFolder) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
     Ambient ambient = window.Ambient();
     ambient.UserMode = false;
     Make(ambient);
     Start();
-    sheet->SetPath(folder.Path());
+    sheet->SetPath(folder.WithSeparator());
     EXPECT_EQ(sheet->Count(), 0);
 }
 
 TEST_F(ItemsTest, AFileListFollowsPathAndPattern) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
     folder.File("b.png");
     sheet->InitListe(ListeModeType::lmFileList);
-    sheet->SetPath(folder.Path());
+    sheet->SetPath(folder.WithSeparator());
     EXPECT_EQ(Names(), "a.jpg b.png");
     sheet->SetPattern("*.png");
     EXPECT_EQ(Names(), "b.png");
@@ -354,11 +354,11 @@ TEST_F(ItemsTest, AFileListFollowsPathAndPattern) {
 }
 
 TEST_F(ItemsTest, AHostsListIsNotFilledFromThePath) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
     VectorListBox list(500);
     sheet->InitListe(ListeModeType::lmList, &list);
-    sheet->SetPath(folder.Path());
+    sheet->SetPath(folder.WithSeparator());
     EXPECT_EQ(list.ListCount(), 0);
 }
 
@@ -370,7 +370,7 @@ TEST_F(ItemsTest, AFolderThatIsNotThereGivesAnEmptyList) {
 }
 
 TEST_F(ItemsTest, AFolderThatVanishesWhileItIsReadKeepsItsNamesWithoutDates) {
-    auto folder = std::make_unique<TempFolder>();
+    auto folder = std::make_unique<TemporaryFolder>();
     folder->File("a.jpg");
     folder->File("b.jpg");
     const std::string path = folder->Path();
@@ -384,9 +384,9 @@ TEST_F(ItemsTest, AFolderThatVanishesWhileItIsReadKeepsItsNamesWithoutDates) {
 }
 
 TEST_F(ItemsTest, AnotherPathSetWhileAFolderIsReadEndsTheOlderReading) {
-    const TempFolder first;
+    const TemporaryFolder first;
     for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) first.File(name);
-    const TempFolder second;
+    const TemporaryFolder second;
     second.File("x.jpg");
     onFeedBack = [&, done = false](int32_t) mutable {
         if (!std::exchange(done, true)) sheet->SetPath(second.Path());
@@ -397,14 +397,14 @@ TEST_F(ItemsTest, AnotherPathSetWhileAFolderIsReadEndsTheOlderReading) {
 }
 
 TEST_F(ItemsTest, AFailureWhileAFolderIsReadLeavesTheListAsItIs) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     folder.File("a.jpg");
     folder.File("b.jpg");
     onFeedBack = [](int32_t) { throw failures::TypeMismatch(); };
-    sheet->SetPath(folder.Path());
+    sheet->SetPath(folder.WithSeparator());
     EXPECT_EQ(Names(), "a.jpg");
-    EXPECT_EQ(Heard(),
-              "host TraitementFeedBack 1/2\nhost Error 13 Vorlane LstCopy DpCnt=1 - " + folder.Path() + " - 30\n");
+    EXPECT_EQ(Heard(), "host TraitementFeedBack 1/2\nhost Error 13 Vorlane LstCopy DpCnt=1 - " +
+                           folder.WithSeparator() + " - 30\n");
 }
 
 }  // namespace

@@ -264,18 +264,23 @@ TEST_F(ScrollingTest, AStepReducesOnlyTheNewRowsPictures) {
 }
 
 TEST_F(ScrollingTest, ASubstituteStaysOneWhenItMoves) {
+    constexpr float kIcon = 32;
     Start();
     for (int32_t n = 0; n < 40; ++n) {
-        n % 3 == 0 ? sheet->Add("/p/sound" + std::to_string(n) + ".mp3", "") : sheet->Add(File(n), "");
+        desktop.pictures.Add("/p/small" + std::to_string(n) + ".jpg", 32, 32);
+        sheet->Add(n == 4 ? "/p/sound.mp3" : "/p/small" + std::to_string(n) + ".jpg", "");
     }
     sheet->StartLecture();
-    for (int32_t k = 0; k < 9; ++k) sheet->Diapo.Item(k)->SetAlwaysFullSize(true);
-    sheet->StartLecture("", -1);
-    const auto below = sheet->Diapo.Item(3);
-    const float width = below->Img.Width();
+    const auto width = [this](int32_t k) { return sheet->Diapo.Item(k)->Img.Width(); };
+    ASSERT_EQ(width(4), kIcon) << "an icon is never enlarged";
+    ASSERT_GT(width(1), kIcon) << "a picture of its size is";
     sheet->VScroll.SetValue(3);
-    EXPECT_EQ(headless::NameOf(sheet->Diapo.Item(0)->Picture()), "file-sound");
-    EXPECT_EQ(sheet->Diapo.Item(0)->Img.Width(), width) << "an icon is never enlarged";
+    EXPECT_EQ(headless::NameOf(sheet->Diapo.Item(1)->Picture()), "file-sound");
+    EXPECT_EQ(width(1), kIcon);
+    EXPECT_GT(width(4), kIcon) << "its old place shows a picture";
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(width(4), kIcon);
+    EXPECT_GT(width(1), kIcon);
 }
 
 TEST_F(ScrollingTest, AStepBackWhoseBlankSlidesAreRefusedKeepsTheSlidesThatThereAre) {

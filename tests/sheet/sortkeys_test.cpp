@@ -2,7 +2,7 @@
 
 #include "platform/trelmic6.h"
 #include "sheet/types.h"
-#include "tests/sheet/tempfolder.h"
+#include "tests/platform/temporaryfolder.h"
 
 #include <gtest/gtest.h>
 
@@ -30,21 +30,21 @@ TEST(SortKeys, TheNameAloneInSmallLetters) {
 }
 
 TEST(SortKeys, AllFiveCriteriaEndInTheName) {
-    const TempFolder folder;
-    const std::string file = folder.File("B.JPG", 1234);
+    const TemporaryFolder folder;
+    const std::string file = folder.Sparse("B.JPG", 1234);
     EXPECT_EQ(Criteria(BuildSortKey(file, 30)),
               "[b.jpg][" + Digits(file, 0) + "b.jpg][" + Digits(file, 1) + "b.jpg][0000001234b.jpg][jpgb.jpg]");
 }
 
 TEST(SortKeys, ACriterionsNumberDependsOnTheMask) {
-    const TempFolder folder;
-    const std::string file = folder.File("b.jpg", 7);
+    const TemporaryFolder folder;
+    const std::string file = folder.Sparse("b.jpg", 7);
     EXPECT_EQ(Criteria(BuildSortKey(file, saSize)), "[b.jpg][0000000007b.jpg]");
     EXPECT_EQ(Criteria(BuildSortKey(file, saExtension | saSize)), "[b.jpg][0000000007b.jpg][jpgb.jpg]");
 }
 
 TEST(SortKeys, TheFirstDateIsTheLastModification) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string file = folder.File("b.jpg");
     std::filesystem::last_write_time(file,
                                      std::filesystem::file_time_type::clock::now() - std::chrono::hours(24 * 400));
@@ -53,12 +53,12 @@ TEST(SortKeys, TheFirstDateIsTheLastModification) {
 }
 
 TEST(SortKeys, ALengthOfMoreThanTenDigitsKeepsThemAll) {
-    const TempFolder folder;
-    EXPECT_EQ(Criteria(BuildSortKey(folder.File("b.jpg", 12345678901), saSize)), "[b.jpg][12345678901b.jpg]");
+    const TemporaryFolder folder;
+    EXPECT_EQ(Criteria(BuildSortKey(folder.Sparse("b.jpg", 12345678901), saSize)), "[b.jpg][12345678901b.jpg]");
 }
 
 TEST(SortKeys, EqualDatesOrderByName) {
-    const TempFolder folder;
+    const TemporaryFolder folder;
     const std::string first = BuildSortKey(folder.File("A.jpg"), saDateFirst);
     const std::string second = BuildSortKey(folder.File("b.jpg"), saDateFirst);
     EXPECT_LT(first.substr(first.find('\x0B')), second.substr(second.find('\x0B')));
@@ -69,8 +69,9 @@ TEST(SortKeys, ACriterionThatTheFileCantAnswerIsMissingWhole) {
 }
 
 TEST(SortKeys, AFileWithoutExtensionHasItsNameEverywhere) {
-    const TempFolder folder;
-    EXPECT_EQ(Criteria(BuildSortKey(folder.File("Photo", 5), saSize | saExtension)), "[photo][0000000005photo][photo]");
+    const TemporaryFolder folder;
+    EXPECT_EQ(Criteria(BuildSortKey(folder.Sparse("Photo", 5), saSize | saExtension)),
+              "[photo][0000000005photo][photo]");
 }
 
 }  // namespace
