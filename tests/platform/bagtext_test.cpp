@@ -100,7 +100,7 @@ TEST(BagText, DamageIsToldWithItsPlace) {
     EXPECT_EQ(Complaint("{\"a\": 1} x"), "ligne 1, colonne 10 : fin du texte attendue");
     EXPECT_EQ(Complaint("{\"a\": \"x"), "ligne 1, colonne 9 : texte sans fin");
     EXPECT_EQ(Complaint("{\"a\": \"x\ny\"}"), "ligne 1, colonne 9 : caractère de contrôle dans un texte");
-    EXPECT_EQ(Complaint("{\"a\": 1, \"a\": 2}"), "ligne 1, colonne 15 : clé en double");
+    EXPECT_EQ(Complaint("{\"a\": 1, \"a\": 2}"), "ligne 1, colonne 14 : clé en double");
 }
 
 TEST(BagText, ValuesThatNoBagHoldsAreFailures) {
