@@ -373,7 +373,7 @@ TEST_F(ItemsTest, AFolderThatVanishesWhileItIsReadKeepsItsNamesWithoutDates) {
     auto folder = std::make_unique<TemporaryFolder>();
     folder->File("a.jpg");
     folder->File("b.jpg");
-    const std::string path = folder->Path();
+    const std::string path = folder->WithSeparator();
     onFeedBack = [&](int32_t) { folder.reset(); };
     sheet->InitListe(ListeModeType::lmList, nullptr, path, "", saSize);
     EXPECT_EQ(Names(), "a.jpg b.jpg");
@@ -389,11 +389,12 @@ TEST_F(ItemsTest, AnotherPathSetWhileAFolderIsReadEndsTheOlderReading) {
     const TemporaryFolder second;
     second.File("x.jpg");
     onFeedBack = [&, done = false](int32_t) mutable {
-        if (!std::exchange(done, true)) sheet->SetPath(second.Path());
+        if (!std::exchange(done, true)) sheet->SetPath(second.WithSeparator());
     };
-    sheet->SetPath(first.Path());
+    sheet->SetPath(first.WithSeparator());
     EXPECT_EQ(Names(), "x.jpg");
-    EXPECT_THAT(Heard(), testing::EndsWith("host Error 9 Vorlane LstCopy DpCnt=1 - " + first.Path() + " - 30\n"));
+    EXPECT_THAT(Heard(),
+                testing::EndsWith("host Error 9 Vorlane LstCopy DpCnt=1 - " + first.WithSeparator() + " - 30\n"));
 }
 
 TEST_F(ItemsTest, AFailureWhileAFolderIsReadLeavesTheListAsItIs) {

@@ -265,7 +265,9 @@ TEST_F(ScrollingTest, AStepReducesOnlyTheNewRowsPictures) {
 
 TEST_F(ScrollingTest, ASubstituteStaysOneWhenItMoves) {
     constexpr float kIcon = 32;
-    Start();
+    PropertyBag bag;
+    bag.SetValue("DiapoHeight", int64_t{110});  // room for more than an icon
+    Start(bag);
     for (int32_t n = 0; n < 40; ++n) {
         desktop.pictures.Add("/p/small" + std::to_string(n) + ".jpg", 32, 32);
         sheet->Add(n == 4 ? "/p/sound.mp3" : "/p/small" + std::to_string(n) + ".jpg", "");
