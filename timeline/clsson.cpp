@@ -1,0 +1,130 @@
+#include "timeline/clsson.h"
+
+#include "platform/failure.h"
+
+#include <utility>
+
+namespace vorlane {
+
+namespace {
+
+std::string KeyText(int32_t diapoKey) {
+    return std::to_string(diapoKey) + "k";
+}
+
+}  // namespace
+
+// --- What the owner answers ---
+
+int32_t ClsSon::NumDiapo(int32_t key) {
+    Events.csGetNumDiapo(key, numDiapo_);
+    return numDiapo_;
+}
+
+void ClsSon::FollowDisplay() {
+    Events.csGetRedraw(redraw_);
+    if (redraw_) Events.csRepaint();
+}
+
+// --- Adding and sorting ---
+
+void ClsSon::Add(const std::string& soundFileName, int32_t diapoKey, int32_t diapoValue, bool repetition, bool rehausse,
+                 uint8_t volNormal, uint8_t volPendantComment, uint8_t volComment) {
+    if (Trelmic6::PathExists(soundFileName, PathKind::File)) {
+        tSon son;
+        son.Nom = soundFileName;
+        son.Durée = ToInt32(utilities_.SoundSeconds(soundFileName));
+        son.DiapoKey = diapoKey;
+        son.Repetition = repetition;
+        son.Rehausse = rehausse;
+        son.VolNormal = volNormal;
+        son.VolPendantComment = volPendantComment;
+        son.VolComment = volComment;
+        son.TypeSon = typeSon_;
+        Place(son, diapoValue);
+    }
+    FollowDisplay();
+}
+
+void ClsSon::Place(const tSon& son, int32_t diapoValue) {
+    const std::optional<int32_t> before = FirstBehind(son.DiapoKey, diapoValue);
+    if (before) {
+        sounds_->Add(son, KeyText(son.DiapoKey), *before);
+    } else {
+        sounds_->Add(son, KeyText(son.DiapoKey));
+    }
+}
+
+// Index of the first sound on a later slide than the wanted one; nothing when a slide without a number comes first.
+// The wanted number is asked for at each step unless the caller knows it.
+std::optional<int32_t> ClsSon::FirstBehind(int32_t diapoKey, int32_t diapoValue) {
+    for (int32_t i = 1; i <= Count(); ++i) {
+        const int32_t wanted = diapoValue == -1 ? NumDiapo(diapoKey) : diapoValue;
+        if (wanted == -1) return std::nullopt;
+        const int32_t present = NumDiapo(sounds_->Item(i).DiapoKey);
+        if (present == -1) return std::nullopt;
+        if (present > wanted) return i;
+    }
+    return std::nullopt;
+}
+
+void ClsSon::Sort() {
+    const auto old = std::exchange(sounds_, std::make_shared<SonCollection>());
+    for (const tSon& son : Enumerator(old)) {
+        const int32_t number = NumDiapo(son.DiapoKey);
+        if (number >= 0) Place(son, number);
+    }
+}
+
+// --- Single sounds ---
+
+std::optional<tSon> ClsSon::Item(int32_t key) const {
+    const int32_t index = sounds_->FindDiapoKey(key);
+    return index == -1 ? std::nullopt : std::optional(sounds_->Item(index));
+}
+
+// The comparison with the new count is one short, and stays so: hosts know the order that it gives.
+void ClsSon::SetItem(int32_t key, const tSon& son) {
+    const int32_t index = sounds_->FindDiapoKey(key);
+    if (index != -1) {
+        sounds_->Remove(index);
+        if (index < Count()) {
+            sounds_->Add(son, KeyText(key), index);
+        } else {
+            sounds_->Add(son, KeyText(key));
+        }
+    }
+    FollowDisplay();
+}
+
+bool ClsSon::Remove(int32_t key) {
+    const int32_t index = sounds_->FindDiapoKey(key);
+    if (index == -1) return false;
+    return Attempt([&] {
+        sounds_->Remove(index);
+        FollowDisplay();
+    });
+}
+
+void ClsSon::RemoveFromName(const std::string& fileName) {
+    if (fileName.empty()) return;
+    const std::string name = Trelmic6::LowerCase(fileName);
+    int16_t diapoIndex = 0;
+    for (int32_t index = sounds_->FindLowerName(name); index != -1; index = sounds_->FindLowerName(name)) {
+        const auto list = sounds_;
+        const tSon son = list->Item(index);
+        Events.csGetDiapoIndex(son.DiapoKey, diapoIndex);
+        if (diapoIndex > -1) Events.csRemoveSound(son.DiapoKey, diapoIndex);
+        // A handler may have taken the sound out itself.
+        const bool stands = list == sounds_ && index <= Count() && list->Item(index) == son;
+        if (stands) sounds_->Remove(index);
+    }
+    FollowDisplay();
+}
+
+void ClsSon::Clear() {
+    sounds_ = std::make_shared<SonCollection>();
+    FollowDisplay();
+}
+
+}  // namespace vorlane
