@@ -60,6 +60,8 @@ public:
     // kind 0: the file's last modification; any other: its creation, or the earliest date known of it where the system
     // keeps none. As "yyyy-mm-dd hh:nn:ss", local time. Fails with FileNotFound().
     static std::string FileDateText(const std::string& path, int16_t kind);
+    // Now, as "hh:nn:ss", local time.
+    static std::string TimeOfDayText();
     // Bytes. Fails with FileNotFound(), for a folder too.
     static uint64_t FileLength(const std::string& path);
     // The key of a typed character, or 0 for one that a file name can't hold: / \ : * ? " < > | and control codes,

@@ -107,6 +107,11 @@ std::string Trelmic6::FileDateText(const std::string& path, int16_t kind) {
     return LocalTimeText(kind == 0 ? dates.Modified : dates.Created);
 }
 
+std::string Trelmic6::TimeOfDayText() {
+    constexpr size_t time = 11;  // behind the date and a blank
+    return LocalTimeText(std::time(nullptr)).substr(time);
+}
+
 uint64_t Trelmic6::FileLength(const std::string& path) {
     return files::Length(path);
 }

@@ -1,0 +1,79 @@
+// The time line between its sounds and its sheet.
+#include "platform/failure.h"
+#include "sheet/vorlane.h"
+#include "timeline/etimeline.h"
+
+#include <utility>
+
+namespace vorlane {
+
+namespace {
+
+constexpr int16_t kF2 = 113;
+constexpr int16_t kF7 = 118;
+
+constexpr eMnuTimeLineID kCommands[] = {emnutlPreviousSound, emnutlPreviousMusic, emnutlPreviousComment,
+                                        emnutlNextSound,     emnutlNextMusic,     emnutlNextComment};
+
+}  // namespace
+
+// --- The collections ---
+
+void eTimeLine::Follow(Row& row, SonType type, std::shared_ptr<ClsSon> sounds) {
+    row.Heard.clear();
+    row.Sounds = std::move(sounds);
+    if (!row.Sounds) return;
+    ClsSonEvents& events = row.Sounds->Events;
+    row.Heard.emplace_back(events.csGetDiapoIndex.connect([this](int32_t key, int16_t& diapoIndex) {
+        diapoIndex = link_.Sheet == nullptr ? int16_t{-1} : link_.Sheet->GetIndexFromKey(key);
+    }));
+    row.Heard.emplace_back(
+        events.csGetNumDiapo.connect([this](int32_t key, int32_t& numDiapo) { numDiapo = PositionOf(key); }));
+    row.Heard.emplace_back(events.csGetRedraw.connect([this](bool& redraw) { redraw = redraw_; }));
+    row.Heard.emplace_back(events.csRemoveSound.connect(
+        [this, type](int32_t key, int16_t diapoIndex) { Events.RemovedSound(type, key, diapoIndex); }));
+    row.Heard.emplace_back(events.csRepaint.connect([this] {
+        if (Ambient().UserMode) Paint();
+    }));
+}
+
+// --- The sheet ---
+
+Vorlane& eTimeLine::Sheet() const {
+    if (link_.Sheet == nullptr) throw failures::ObjectNotSet();
+    return *link_.Sheet;
+}
+
+int32_t eTimeLine::PositionOf(int32_t diapoKey) const {
+    return link_.Sheet == nullptr ? -1 : link_.Sheet->GetListIndexFromItemData(diapoKey);
+}
+
+void eTimeLine::AttachVorlane(Vorlane* sheet) {
+    link_.Heard.clear();
+    link_.Sheet = sheet;
+    if (sheet == nullptr) return;
+    const auto hear = [this](auto& event, auto handler) { link_.Heard.emplace_back(event.connect(handler)); };
+    VorlaneEvents& events = sheet->Events;
+    hear(events.AfterDropAdd, [this](auto&&...) { Refresh(); });
+    hear(events.KeyDown, [this](int16_t keyCode, int16_t) { SheetKeyDown(keyCode); });
+    hear(events.OLECompleteDrag, [this](auto&&...) { SortSounds(); });
+    hear(events.Removed, [this](int16_t, int32_t key) {
+        Musiques()->Remove(key);
+        Comments()->Remove(key);
+    });
+    hear(events.Sorted, [this] { SortSounds(); });
+    hear(events.TLRefresh, [this] { Refresh(); });
+}
+
+void eTimeLine::SortSounds() {
+    Musiques()->Sort();
+    Comments()->Sort();
+    Refresh();
+}
+
+void eTimeLine::SheetKeyDown(int16_t keyCode) {
+    if (keyCode < kF2 || keyCode > kF7 || Sheet().CurrentDiapo() < 0) return;
+    MnuCtx_ItemClic(kCommands[keyCode - kF2]);
+}
+
+}  // namespace vorlane

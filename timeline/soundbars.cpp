@@ -1,0 +1,107 @@
+// The bars of the sounds: which of them the strip shows, and drawing them.
+#include "timeline/etimeline.h"
+#include "timeline/gradient.h"
+#include "timeline/log.h"
+
+#include <algorithm>
+
+namespace vorlane {
+
+void eTimeLine::PaintBars(const TimeScale& scale) {
+    BuildBars(scale);
+    SetRowTops();
+    ExtendRepetitions(musics_.Bars);
+    ExtendRepetitions(comments_.Bars);
+    Alternation music;
+    Alternation comment;
+    const size_t count = std::max(musics_.Bars.size(), comments_.Bars.size());
+    for (size_t i = 0; i < count; ++i) {
+        Attempt([&] { DrawBar(musics_, i, music, settings_.Music1, settings_.Music2); });
+        Attempt([&] { DrawBar(comments_, i, comment, settings_.Comment1, settings_.Comment2); });
+    }
+}
+
+// --- Which bars there are ---
+
+// From right to left: of the sounds that ended before the visible part only the last one can still reach it, and only
+// by repeating.
+void eTimeLine::BuildBars(const TimeScale& scale) {
+    bool passedMusic = false;
+    bool passedComment = false;
+    const auto place = [&](Row& row, int32_t i, bool& passed) {
+        const auto& sounds = row.Sounds->CollectItem();
+        if (i <= sounds->Count()) PlaceSound(row, sounds->Item(i), scale, passed);
+    };
+    const auto count = [](const Row& row) { return row.Sounds ? row.Sounds->Count() : 0; };
+    musics_.Bars.clear();
+    comments_.Bars.clear();
+    for (int32_t i = std::max(count(musics_), count(comments_)); i >= 1; --i) {
+        if (i <= count(musics_)) Attempt([&] { place(musics_, i, passedMusic); });
+        if (i <= count(comments_)) Attempt([&] { place(comments_, i, passedComment); });
+    }
+}
+
+void eTimeLine::PlaceSound(Row& row, const tSon& son, const TimeScale& scale, bool& passed) {
+    const int32_t position = PositionOf(son.DiapoKey);
+    if (position < 0) return;
+    const int32_t start = timescale::Start(position, settings_.ExpositionTime);
+    if (start >= scale.LastSecond) return;
+    if (bars::ReachesIn(TheStrip(), scale, start, son.Durée)) return AddBar(row.Bars, son, start, scale);
+    if (son.Repetition && !passed) AddBar(row.Bars, son, start, scale);
+    passed = true;
+}
+
+void eTimeLine::AddBar(BarList& list, const tSon& son, int32_t start, const TimeScale& scale) {
+    const auto add = [&] { bars::AddBar(list, son, start, TheStrip(), scale); };
+    Trap(pending_, add, [&](const Failure& failure) {
+        Report(failure, TimeLineLogText("AddBar", start, scale.FirstSecond, scale.PixelsPerSecond));
+    });
+}
+
+void eTimeLine::ExtendRepetitions(BarList& list) {
+    for (int32_t position = 1; position <= static_cast<int32_t>(list.size()); ++position) {
+        const auto repeat = [&] { bars::RepetSon(list, position, TheStrip()); };
+        Trap(pending_, repeat, [&](const Failure& failure) { Report(failure, TimeLineLogText("RepetSon")); });
+    }
+}
+
+// --- Drawing them ---
+
+void eTimeLine::SetRowTops() {
+    const auto top = static_cast<float>(settings_.BarreMarge);
+    const float bottom = ScaleHeight() - static_cast<float>(settings_.BarreHeight + settings_.BarreMarge);
+    const bool musicOnTop = settings_.BarreOnTop == 0;
+    musics_.BarTop = musicOnTop ? top : bottom;
+    comments_.BarTop = musicOnTop ? bottom : top;
+}
+
+void eTimeLine::DrawBar(const Row& row, size_t i, Alternation& colors, const BarColors& set0, const BarColors& set1) {
+    if (i >= row.Bars.size()) return;
+    const tBarreSon& bar = row.Bars[i];
+    const int32_t slide = PositionOf(bar.Son.DiapoKey);
+    if (i == 0) colors.LastSlide = slide;
+    if (slide != colors.LastSlide) {
+        colors.LastSlide = slide;
+        colors.Set = 1 - colors.Set;
+    }
+    if (bar.x + bar.W <= 0) return;
+    const BarColors& set = colors.Set == 0 ? set0 : set1;
+    const auto height = static_cast<float>(settings_.BarreHeight);
+    GradientTrace(set.Start, set.End, kLeftToRight, false, bar.x, row.BarTop, bar.W, height);
+    Surface().LineBox(bar.x, row.BarTop, bar.x + bar.W, row.BarTop + height, set.Border);
+}
+
+// --- What lies under the pointer ---
+
+std::string eTimeLine::ToolTipAt(float x, float y) const {
+    const std::string music = ToolTipOf(musics_, x, y);
+    return music.empty() ? ToolTipOf(comments_, x, y) : music;
+}
+
+std::string eTimeLine::ToolTipOf(const Row& row, float x, float y) const {
+    if (!bars::InRow(y, row.BarTop, settings_.BarreHeight)) return {};
+    const tBarreSon* bar = bars::BarAt(row.Bars, x);
+    return bar == nullptr ? std::string() : bar->Son.Nom + " " + Trelmic6::SecondsToText(bar->Son.Durée, true);
+}
+
+}  // namespace vorlane
