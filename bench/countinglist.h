@@ -37,11 +37,15 @@ public:
     void SetList(int32_t index, std::string_view text) override { items_.SetList(index, text); }
     int32_t ItemData(int32_t index) const override { return items_.ItemData(index); }
     void SetItemData(int32_t index, int32_t data) override { items_.SetItemData(index, data); }
-    int32_t FindItemData(int32_t data) const override { return items_.FindItemData(data); }
+    int32_t FindItemData(int32_t data) const override {
+        ++lookUps;
+        return items_.FindItemData(data);
+    }
     int32_t NewIndex() const override { return items_.NewIndex(); }
     bool Sorted() const override { return items_.Sorted(); }
 
-    mutable int64_t reads = 0;  // of texts
+    mutable int64_t reads = 0;    // of texts
+    mutable int64_t lookUps = 0;  // of keys
     int64_t removals = 0;
 
 private:
