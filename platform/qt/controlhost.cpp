@@ -82,7 +82,9 @@ void ControlHost::Attach(std::unique_ptr<UserControl> control) {
     router_ = std::make_unique<InputRouter>(*control_);
     router_->DoubleClickTime = QApplication::doubleClickInterval();
     router_->DoubleClickDistance = static_cast<float>(QGuiApplication::styleHints()->mouseDoubleClickDistance());
-    damaged_ = control_->Damaged.connect([this](const Box& box) { update(TouchedBy(box)); });
+    damaged_ = control_->Damaged.connect([this](const Box& box) {
+        if (const auto part = damage_.Add(TouchedBy(box))) update(*part);
+    });
     peers_ = MakePeers(*control_, *this);
     Attempt([&] { control_->InitProperties(); });
     TakeSize();
@@ -133,6 +135,7 @@ void ControlHost::changeEvent(QEvent* event) {
 
 void ControlHost::paintEvent(QPaintEvent* event) {
     if (!control_) return;
+    damage_.Clear();
     QPainter painter(this);
     PaintOnWidget(painter, event->region(), *control_, desktop_.Tools());
 }

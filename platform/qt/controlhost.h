@@ -9,6 +9,7 @@
 #include "platform/dataobject.h"
 #include "platform/inputrouter.h"
 #include "platform/qt/ancestorwatch.h"
+#include "platform/qt/damage.h"
 
 #include <memory>
 #include <vector>
@@ -90,6 +91,7 @@ private:
     ScopedConnection damaged_;
     std::shared_ptr<DataObject> dragged_;  // what the drag over the widget carries
     AncestorWatch around_{*this, [this] { TellMoved(); }};
+    Damage damage_;
     bool shown_ = false;
     int16_t pointer_ = 0;
     Picture pointerIcon_;

@@ -1,14 +1,16 @@
 #include "platform/qt/controlpainter.h"
 
 #include "platform/image.h"
+#include "platform/ombrel.h"
 #include "platform/qt/colors.h"
+#include "platform/qt/lookkey.h"
+#include "platform/qt/looks.h"
 #include "platform/qt/scaledpictures.h"
 #include "platform/qt/surfacepainter.h"
 #include "platform/shape.h"
 #include "platform/usercontrol.h"
 
 #include <iterator>
-#include <utility>
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -27,6 +29,13 @@ struct Replayed final : SurfaceImage {
     QPixmap pixels;
 };
 
+void Replay(const Surface& surface, QPixmap& pixels, const PaintTools& tools, double scale) {
+    pixels.fill(ToQColor(surface.BackColor(), tools.screen));
+    QPainter painter(&pixels);
+    SurfacePainter(painter, tools, scale).Replay(surface);
+}
+
+// Of the control that fills a window: no other one looks like it, and its recording may be long.
 const QPixmap& ReplayOf(const Surface& surface, QSize size, double scale, const PaintTools& tools) {
     const qint64 theme = QGuiApplication::palette().cacheKey();
     auto image = std::static_pointer_cast<Replayed>(surface.Image());
@@ -40,10 +49,17 @@ const QPixmap& ReplayOf(const Surface& surface, QSize size, double scale, const 
     image->theme = theme;
     image->scale = scale;
     if (image->pixels.size() != size) image->pixels = QPixmap(size);
-    image->pixels.fill(ToQColor(surface.BackColor(), tools.screen));
-    QPainter painter(&image->pixels);
-    SurfacePainter(painter, tools, scale).Replay(surface);
+    Replay(surface, image->pixels, tools, scale);
     return image->pixels;
+}
+
+// Of a control inside of another: many have the same frames.
+QPixmap SharedReplayOf(const Surface& surface, QSize size, double scale, const PaintTools& tools) {
+    return tools.replays.Get(LookKey::Of(surface, size, scale), [&] {
+        QPixmap pixels(size);
+        Replay(surface, pixels, tools, scale);
+        return pixels;
+    });
 }
 
 }  // namespace
@@ -54,46 +70,61 @@ ControlPainter::ControlPainter(QPainter& painter, const PaintTools& tools, doubl
 void ControlPainter::Paint(const UserControl& root, const QRect& damaged) {
     const QRect area(0, 0, grid_.Edge(root.Width()), grid_.Edge(root.Height()));
     damaged_ = damaged.intersected(area);
-    if (!damaged_.isEmpty()) PaintInside(root, area);
+    PaintAll(root, area, Replays::Own);
 }
 
 QRect ControlPainter::AreaOf(const Control& control) const {
     return grid_.Area(control.Bounds()).translated(origin_);
 }
 
-void ControlPainter::Visit(const UserControl& control) {
-    PaintInside(control, AreaOf(control));
-}
-
-void ControlPainter::PaintInside(const UserControl& control, const QRect& area) {
+void ControlPainter::PaintAll(const UserControl& control, const QRect& area, Replays replays) {
     const int frame = control.FrameWidth() > 0 ? grid_.Length(control.FrameWidth()) : 0;
-    if (frame > 0) painter_.fillRect(area, ToQColor(FromSystem(SystemColor::ButtonShadow), tools_.screen));
+    if (frame > 0) painter_.fillRect(damaged_, ToQColor(FromSystem(SystemColor::ButtonShadow), tools_.screen));
     const QRect inside = area.adjusted(frame, frame, -frame, -frame);
-    const QRect damaged = damaged_.intersected(inside);
-    if (damaged.isEmpty()) return;
-
-    const QRect outerDamaged = std::exchange(damaged_, damaged);
-    const QPoint outerOrigin = std::exchange(origin_, inside.topLeft());
+    damaged_ &= inside;
+    if (damaged_.isEmpty()) return;
+    origin_ = inside.topLeft();
     painter_.setClipRect(damaged_);
-    PaintSurface(control, inside);
+    PaintSurface(control.Surface(), inside.size(), replays);
     const auto& children = control.Children();
     for (auto child = std::rbegin(children); child != std::rend(children); ++child) {
         if ((*child)->Visible() && damaged_.intersects(AreaOf(**child))) (*child)->Accept(*this);
     }
-    damaged_ = outerDamaged;
-    origin_ = outerOrigin;
-    painter_.setClipRect(damaged_);
 }
 
-void ControlPainter::PaintSurface(const UserControl& control, const QRect& area) {
-    const Surface& surface = control.Surface();
+void ControlPainter::PaintSurface(const Surface& surface, QSize size, Replays replays) {
     if (surface.Commands().empty()) {
         surface.KeepImage(nullptr);
-        painter_.fillRect(damaged_, ToQColor(surface.BackColor(), tools_.screen));
-        return;
+        return painter_.fillRect(damaged_, ToQColor(surface.BackColor(), tools_.screen));
     }
-    const QPixmap& pixels = ReplayOf(surface, area.size(), grid_.Scale(), tools_);
-    painter_.drawPixmap(damaged_.topLeft(), pixels, damaged_.translated(-area.topLeft()));
+    const double scale = grid_.Scale();
+    const QPixmap pixels =
+        replays == Replays::Own ? ReplayOf(surface, size, scale, tools_) : SharedReplayOf(surface, size, scale, tools_);
+    painter_.drawPixmap(damaged_.topLeft(), pixels, damaged_.translated(-origin_));
+}
+
+template <class Drawn>
+void ControlPainter::Show(const Drawn& control) {
+    const QRect area = AreaOf(control);
+    const auto draw = [&] { return Draw(control, area.size(), tools_, grid_.Scale()); };
+    painter_.drawPixmap(area.topLeft(), tools_.looks.Get(LookKey::Of(control, area.size(), grid_.Scale()), draw));
+}
+
+void ControlPainter::Visit(const UserControl& control) {
+    Show(control);
+}
+
+void ControlPainter::Visit(const OmbrelSlider& slider) {
+    Show(slider);
+}
+
+QPixmap ControlPainter::Draw(const UserControl& control, QSize pixels, const PaintTools& tools, double scale) {
+    QPixmap look(pixels);
+    QPainter painter(&look);
+    ControlPainter inside(painter, tools, scale);
+    inside.damaged_ = look.rect();
+    inside.PaintAll(control, look.rect(), Replays::Shared);
+    return look;
 }
 
 void ControlPainter::Visit(const Image& image) {

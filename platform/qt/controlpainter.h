@@ -1,11 +1,15 @@
 // ControlPainter: paints a tree of controls from their state: a control's surface, then its children back to front.
-// What has a native peer (scroll bars, text boxes) is left to it. Only what touches the damaged region is painted.
+// What has a native peer (scroll bars, text boxes) is left to it. Only what touches the damaged region is painted, and
+// a control inside of another is shown as it was drawn before, as long as it holds the same.
 #pragma once
 
 #include "platform/controlvisitor.h"
 #include "platform/qt/painttools.h"
 #include "platform/qt/pixelgrid.h"
 
+#include <cstdint>
+
+#include <QPixmap>
 #include <QPoint>
 #include <QRect>
 
@@ -35,15 +39,26 @@ public:
     void Visit(const OmbrelGradient& panel) override;
 
 private:
+    // Whose the kept replay of a surface is.
+    enum class Replays : uint8_t { Own, Shared };
+
+    // What a control looks like in that many pixels, and a slider.
+    static QPixmap Draw(const UserControl& control, QSize pixels, const PaintTools& tools, double scale);
+    static QPixmap Draw(const OmbrelSlider& slider, QSize pixels, const PaintTools& tools, double scale);
+    // Shows a control as it was drawn before, when it holds the same, and draws it otherwise.
+    template <class Drawn>
+    void Show(const Drawn& control);
+
     // The device rectangle of a control in the container that is being painted.
     QRect AreaOf(const Control& control) const;
-    void PaintInside(const UserControl& control, const QRect& area);
-    void PaintSurface(const UserControl& control, const QRect& area);
+    // Everything of a control that is damaged. area: that of the control in the painter's device.
+    void PaintAll(const UserControl& control, const QRect& area, Replays replays);
+    void PaintSurface(const Surface& surface, QSize size, Replays replays);
 
     QPainter& painter_;
     PaintTools tools_;
     PixelGrid grid_;
-    QPoint origin_;  // of the container that is being painted
+    QPoint origin_;  // of the inside of what is being painted
     QRect damaged_;  // what of it is to be painted
 };
 

@@ -7,6 +7,7 @@
 #include "platform/qt/textlines.h"
 
 #include <algorithm>
+#include <vector>
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -25,11 +26,16 @@ double Start(TextAlignment alignment, double box, double line) {
     return alignment == TextAlignment::Right ? box - line : (box - line) / 2;
 }
 
-QStringList LinesOf(const Label& label, const QtTextMetrics::Resolved& font) {
+std::vector<TextLine> LinesOf(const Label& label, const QtTextMetrics::Resolved& font) {
     const QString text = QString::fromStdString(label.Caption());
-    if (!label.WordWrap()) return {ElidedLine(text, font.metrics, label.Width())};
-    const int count = ToInt32(Max(1, Int(label.Height() / LineHeight(font))));
-    return WrappedLines(text, font.qfont, font.metrics, label.Width(), count);
+    const double width = label.Width();
+    if (label.WordWrap()) {
+        const int count = ToInt32(Max(1, Int(label.Height() / LineHeight(font))));
+        return WrappedLines(text, font.qfont, font.metrics, width, count);
+    }
+    std::vector<TextLine> lines;
+    lines.push_back(ElidedLine(text, font.qfont, font.metrics, width));
+    return lines;
 }
 
 // A colour between two, part of the way from the first.
@@ -68,12 +74,10 @@ void ControlPainter::Visit(const Label& label) {
     painter_.setClipRect(area.intersected(damaged_));
     painter_.translate(area.topLeft());
     painter_.scale(grid_.Scale(), grid_.Scale());
-    painter_.setFont(font.qfont);
     painter_.setPen(ToQColor(label.Enabled() ? label.ForeColor() : FromSystem(SystemColor::GrayText), tools_.screen));
     double baseline = font.metrics.ascent();
-    for (const QString& line : LinesOf(label, font)) {
-        const double width = font.metrics.horizontalAdvance(line);
-        painter_.drawText(QPointF(Int(Start(label.Alignment(), label.Width(), width) + 0.5), baseline), line);
+    for (const TextLine& line : LinesOf(label, font)) {
+        line.Paint(painter_, {Int(Start(label.Alignment(), label.Width(), line.Width()) + 0.5), baseline});
         baseline += LineHeight(font);
     }
     painter_.restore();
@@ -97,27 +101,28 @@ void ControlPainter::Visit(const OmbrelProgressBar& gauge) {
     painter_.restore();
 }
 
-void ControlPainter::Visit(const OmbrelSlider& slider) {
-    const QRectF area = AreaOf(slider);
-    const double pixel = grid_.Scale();
+QPixmap ControlPainter::Draw(const OmbrelSlider& slider, QSize pixels, const PaintTools& tools, double scale) {
+    const QRectF area(QPointF(0, 0), pixels);
     const double part = std::clamp(slider.Value(), 0, 100) / 100.0;
-    const double middle = area.left() + area.width() / 2;
-    const double radius = std::min(area.width() / 2 - pixel, 3 * pixel);
-    const double rest = radius + pixel / 2;  // of the knob beyond the end of its track
-    const QRectF track(middle - pixel, area.top() + rest, 2 * pixel, std::max(0.0, area.height() - 2 * rest));
-    const QColor accent = ToQColor(FromSystem(SystemColor::Highlight), tools_.screen);
-    const QColor face = ToQColor(FromSystem(SystemColor::ButtonFace), tools_.screen);
-    const QColor text = ToQColor(FromSystem(SystemColor::ButtonText), tools_.screen);
+    const double middle = area.width() / 2;
+    const double radius = std::min(area.width() / 2 - scale, 3 * scale);
+    const double rest = radius + scale / 2;  // of the knob beyond the end of its track
+    const QRectF track(middle - scale, rest, 2 * scale, std::max(0.0, area.height() - 2 * rest));
+    const QColor accent = ToQColor(FromSystem(SystemColor::Highlight), tools.screen);
+    const QColor face = ToQColor(FromSystem(SystemColor::ButtonFace), tools.screen);
+    const QColor text = ToQColor(FromSystem(SystemColor::ButtonText), tools.screen);
     const QPointF knob(middle, track.top() + track.height() * part);
 
-    painter_.save();
-    painter_.setRenderHint(QPainter::Antialiasing);
-    Pill(painter_, track, Between(face, text, 0.35));
-    Pill(painter_, QRectF(track.topLeft(), QPointF(track.right(), knob.y())), accent);
-    painter_.setPen(QPen(Between(face, text, 0.1), pixel / 2));
-    painter_.setBrush(accent);
-    painter_.drawEllipse(knob, radius, radius);
-    painter_.restore();
+    QPixmap look(pixels);
+    look.fill(Qt::transparent);
+    QPainter painter(&look);
+    painter.setRenderHint(QPainter::Antialiasing);
+    Pill(painter, track, Between(face, text, 0.35));
+    Pill(painter, QRectF(track.topLeft(), QPointF(track.right(), knob.y())), accent);
+    painter.setPen(QPen(Between(face, text, 0.1), scale / 2));
+    painter.setBrush(accent);
+    painter.drawEllipse(knob, radius, radius);
+    return look;
 }
 
 void ControlPainter::Visit(const OmbrelGradient& panel) {

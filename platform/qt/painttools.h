@@ -3,6 +3,7 @@
 
 namespace vorlane {
 
+class Looks;
 class QtTextMetrics;
 class ScaledPictures;
 class Screen;
@@ -11,6 +12,8 @@ struct PaintTools {
     const Screen& screen;        // system colours
     const QtTextMetrics& fonts;  // the fonts that text was measured with
     ScaledPictures& pictures;
+    Looks& looks;    // of controls inside of others
+    Looks& replays;  // of what was recorded on them
 };
 
 }  // namespace vorlane

@@ -6,7 +6,9 @@ namespace vorlane {
 
 namespace {
 
-constexpr qsizetype kScaledBytes = qsizetype{96} << 20;
+constexpr qsizetype kScaledBytes = qsizetype{48} << 20;
+constexpr qsizetype kLookBytes = qsizetype{96} << 20;  // two screens of the densest
+constexpr qsizetype kReplayBytes = qsizetype{16} << 20;
 
 QtDesktop* Known(QCoreApplication& application) {
     return application.findChild<QtDesktop*>(QString(), Qt::FindDirectChildrenOnly);
@@ -19,7 +21,8 @@ void EndDesktop() {
 
 }  // namespace
 
-QtDesktop::QtDesktop(QObject* parent) : QObject(parent), scaled(kScaledBytes) {}
+QtDesktop::QtDesktop(QObject* parent)
+    : QObject(parent), scaled(kScaledBytes), looks(kLookBytes), replays(kReplayBytes) {}
 
 QtDesktop& QtDesktop::Of(QCoreApplication& application) {
     if (QtDesktop* desktop = Known(application)) return *desktop;

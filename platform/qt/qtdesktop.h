@@ -2,6 +2,7 @@
 // and outlives every control that it was given to.
 #pragma once
 
+#include "platform/qt/looks.h"
 #include "platform/qt/painttools.h"
 #include "platform/qt/qtclock.h"
 #include "platform/qt/qtdialogs.h"
@@ -40,7 +41,7 @@ public:
         return {clock,  screen, keyboard, metrics, windows,  drags, dialogs, pictures,
                 sounds, texts,  forms,    films,   tooltips, menus, shared};
     }
-    PaintTools Tools() { return {screen, metrics, scaled}; }
+    PaintTools Tools() { return {screen, metrics, scaled, looks, replays}; }
 
     QtClock clock;
     QtWindows windows;
@@ -53,6 +54,8 @@ public:
     QtSounds sounds;
     QtTexts texts;
     ScaledPictures scaled;
+    Looks looks;
+    Looks replays;
     QtForms forms{windows, Tools()};
     QtFilms films{pictures};
     QtTooltips tooltips{windows, screen};

@@ -114,6 +114,11 @@ Picture PictureFromSvg(const QByteArray& svg, double width, double height) {
     return {PictureType::EnhancedMetafile, width, height, std::make_shared<SvgData>(svg)};
 }
 
+uint64_t SerialOf(const Picture& picture) {
+    const auto* data = dynamic_cast<const QtPictureData*>(picture.Data().get());
+    return data == nullptr ? 0 : data->Serial();
+}
+
 QImage RenderPicture(const Picture& picture, QSize pixels) {
     const auto* data = dynamic_cast<const QtPictureData*>(picture.Data().get());
     return data == nullptr || pixels.isEmpty() ? QImage() : data->Render(pixels);

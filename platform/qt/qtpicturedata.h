@@ -34,6 +34,8 @@ Picture PictureFromFile(const std::string& path);
 // A picture that is drawn sharp at any size; pixels. Fails with InvalidPicture() when svg is none.
 Picture PictureFromSvg(const QByteArray& svg, double width, double height);
 
+// Its serial number; 0 for the empty picture and for one of another desktop.
+uint64_t SerialOf(const Picture& picture);
 // The picture in exactly that many pixels. A null image for the empty picture and for one of another desktop.
 QImage RenderPicture(const Picture& picture, QSize pixels);
 // Its logical size in whole pixels.

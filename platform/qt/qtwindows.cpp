@@ -3,6 +3,7 @@
 #include "platform/qt/qtpicturedata.h"
 #include "platform/qt/regions.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QEvent>
 
@@ -12,12 +13,24 @@ namespace {
 
 constexpr int32_t kInvalidate = 1;
 constexpr int32_t kUpdateNow = 0x100;
+constexpr qint64 kFrame = 8;  // milliseconds
 
 WinRect FromQRect(const QRect& rect) {
     return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
 }
 
 }  // namespace
+
+QtWindows::QtWindows() {
+    shown_.start();
+    const auto* eventLoop = QAbstractEventDispatcher::instance();
+    if (eventLoop == nullptr) return;
+    eventLoop_ = QObject::connect(eventLoop, &QAbstractEventDispatcher::awake, [this] { shown_.restart(); });
+}
+
+QtWindows::~QtWindows() {
+    QObject::disconnect(eventLoop_);
+}
 
 Hwnd QtWindows::HandleOf(QWidget* widget) {
     if (widget == nullptr) return 0;
@@ -62,11 +75,13 @@ Picture QtWindows::Grab(Hwnd window, const WinRect& part) {
 void QtWindows::RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) {
     QWidget* widget = WidgetOf(window);
     if (widget == nullptr) return;
-    const bool now = (flags & kUpdateNow) != 0;
     // Controls tell all that changes, so what is painted at once is what has changed, and no more.
-    if (now) return QCoreApplication::sendPostedEvents(widget->window(), QEvent::UpdateRequest);
-    if ((flags & kInvalidate) != 0)
+    const bool now = (flags & kUpdateNow) != 0;
+    if (!now && (flags & kInvalidate) != 0)
         widget->update(QRect(part.Left, part.Top, part.Right - part.Left, part.Bottom - part.Top));
+    if (!now || shown_.elapsed() < kFrame) return;
+    QCoreApplication::sendPostedEvents(widget->window(), QEvent::UpdateRequest);
+    shown_.restart();
 }
 
 void QtWindows::SetWindowRgn(Hwnd window, const Region& region, bool redraw) {

@@ -7,6 +7,8 @@
 
 #include <map>
 
+#include <QElapsedTimer>
+#include <QObject>
 #include <QPointer>
 #include <QWidget>
 
@@ -14,6 +16,11 @@ namespace vorlane {
 
 class QtWindows final : public Windows {
 public:
+    QtWindows();
+    ~QtWindows() override;
+    QtWindows(const QtWindows&) = delete;
+    QtWindows& operator=(const QtWindows&) = delete;
+
     // The widget's number; the same one however often it is asked for. nullptr gives 0.
     Hwnd HandleOf(QWidget* widget);
     // nullptr for a number that is not, or no longer, a widget's.
@@ -24,7 +31,8 @@ public:
     Point ClientToScreen(Hwnd window, Point place) const override;
     // The widget's own pixels, as dense as the screen's.
     Picture Grab(Hwnd window, const WinRect& part) override;
-    // At once: all that has changed in the widget's window, wherever it is.
+    // At once: all that has changed in the widget's window, wherever it is, if the user has waited for longer than a
+    // frame of the screen. Sooner it would only delay what is under way: the event loop paints behind that.
     void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) override;
     void SetWindowRgn(Hwnd window, const Region& region, bool redraw) override;
 
@@ -39,6 +47,8 @@ private:
     Hwnd last_ = 0;
     std::map<Hwnd, QPointer<QWidget>> widgets_;
     MessageClients clients_;
+    QElapsedTimer shown_;  // since the event loop has run, or a window was painted at once
+    QMetaObject::Connection eventLoop_;
 };
 
 }  // namespace vorlane

@@ -53,12 +53,12 @@ void SurfacePainter::Slanted(const draw::Line& line) {
 void SurfacePainter::operator()(const draw::OutlinedBox& box) {
     const QColor color = Color(box.Color);
     const QRect whole = grid_.Cells(box.X1, box.Y1, box.X2, box.Y2);
+    if (box.X1 == box.X2 || box.Y1 == box.Y2) return painter_.fillRect(whole, color);
     const QRect first = grid_.Cells(box.X1, box.Y1, box.X1, box.Y1);
     const QRect last = grid_.Cells(box.X2, box.Y2, box.X2, box.Y2);
     const int thickness = std::max({first.width(), first.height(), last.width(), last.height()});
     const QRect inside = whole.adjusted(thickness, thickness, -thickness, -thickness);
-    const bool line = box.X1 == box.X2 || box.Y1 == box.Y2;
-    if (line || !inside.isValid()) return painter_.fillRect(whole, color);
+    if (!inside.isValid()) return painter_.fillRect(whole, color);
     painter_.fillRect(QRect(whole.topLeft(), QPoint(whole.right(), inside.top() - 1)), color);
     painter_.fillRect(QRect(QPoint(whole.left(), inside.bottom() + 1), whole.bottomRight()), color);
     painter_.fillRect(QRect(whole.left(), inside.top(), thickness, inside.height()), color);

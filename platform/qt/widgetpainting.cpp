@@ -32,7 +32,7 @@ double CountInDevicePixels(QPainter& painter) {
 
 }  // namespace
 
-QRegion TouchedBy(const Box& box) {
+QRect TouchedBy(const Box& box) {
     return QRectF(box.Left, box.Top, box.Width, box.Height).toAlignedRect().adjusted(-1, -1, 1, 1);
 }
 

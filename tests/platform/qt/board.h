@@ -14,6 +14,8 @@
 #include <memory>
 #include <string>
 
+#include <QEvent>
+
 namespace vorlane::test {
 
 // A control without children, such as a slide.
@@ -63,6 +65,22 @@ private:
     void Resized() override {
         log += std::to_string(static_cast<int>(Width())) + "x" + std::to_string(static_cast<int>(Height())) + " ";
     }
+};
+
+// How often a widget has been painted since.
+class PaintCounter final : public QObject {
+public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+    int Count() const { return count_; }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        count_ += event->type() == QEvent::Paint;
+        return false;
+    }
+
+private:
+    int count_ = 0;
 };
 
 class BoardHost final : public ControlHost {

@@ -232,15 +232,63 @@ TEST_F(ControlHostTest, AWidgetInsideOfAnotherIsSharpThereToo) {
     host.setParent(nullptr);
 }
 
-TEST_F(ControlHostTest, ARedrawAtOncePaintsWhatHasChanged) {
+TEST_F(ControlHostTest, ARedrawAtOncePaintsWhatHasChangedOnceAFrame) {
     Show();
-    const auto replayed = [&] { return board.tile.Surface().Image(); };
     board.tile.Move(10, 10, 20, 20);
     board.tile.SetVisible(true);
+    const auto redraw = [&] { desktop.windows.RedrawWindow(board.Hwnd(), {0, 0, 200, 100}, 0x101); };
+    desktop.clock.Sleep(10);
+    redraw();
+    EXPECT_EQ(desktop.looks.Drawn(), 1);
     board.tile.Surface().Line(0, 0, 5, 5, 0);
-    EXPECT_EQ(replayed(), nullptr);
+    desktop.clock.Sleep(10);
+    redraw();
+    EXPECT_EQ(desktop.looks.Drawn(), 2);
+    const int64_t before = desktop.clock.Now();
+    board.tile.Surface().Line(0, 0, 5, 6, 0);
+    redraw();
+    const int64_t drawn = desktop.looks.Drawn();
+    EXPECT_TRUE(drawn == 2 || desktop.clock.Now() - before >= 8);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(desktop.looks.Drawn(), 3);
+}
+
+TEST_F(ControlHostTest, ARedrawPutOffIsPaintedByTheEventLoop) {
+    Show();
+    desktop.clock.Sleep(10);
+    QCoreApplication::processEvents();
+    board.tile.Move(10, 10, 20, 20);
+    board.tile.SetVisible(true);
     desktop.windows.RedrawWindow(board.Hwnd(), {0, 0, 200, 100}, 0x101);
-    EXPECT_NE(replayed(), nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(desktop.looks.Drawn(), 1);
+}
+
+TEST_F(ControlHostTest, AControlThatChangesManyTimesIsPaintedOnce) {
+    Show();
+    test::PaintCounter painted(host);
+    for (int i = 0; i < 50; ++i) {
+        board.tile.Move(i, i, 20, 20);
+        board.tile.SetVisible(true);
+        board.tile.Surface().Line(0, 0, i, i, 0);
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(painted.Count(), 1);
+    EXPECT_EQ(host.grab().toImage().pixel(60, 68), qRgb(0, 0, 200));
+    EXPECT_EQ(host.grab().toImage().pixel(30, 30), qRgb(255, 255, 255));
+}
+
+TEST_F(ControlHostTest, AChangeWhileTheWidgetIsHiddenShowsLater) {
+    Show();
+    host.hide();
+    board.tile.Move(10, 10, 20, 20);
+    board.tile.SetVisible(true);
+    QCoreApplication::processEvents();
+    test::PaintCounter painted(host);
+    Show();
+    board.tile.SetVisible(false);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(painted.Count(), 2);
 }
 
 // --- Peers ---

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/desktop.h"
+#include "platform/qt/looks.h"
 #include "platform/qt/qttextmetrics.h"
 #include "platform/qt/scaledpictures.h"
 #include "platform/qt/surfacepainter.h"
@@ -45,10 +46,11 @@ inline QImage Replay(const Surface& surface, int width, int height, double scale
     static const LetterScreen screen;
     static const QtTextMetrics fonts;
     static ScaledPictures pictures(1 << 20);
+    static Looks looks(1 << 20);
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(QColor('.', 0, 0));
     QPainter painter(&image);
-    SurfacePainter(painter, {screen, fonts, pictures}, scale).Replay(surface);
+    SurfacePainter(painter, {screen, fonts, pictures, looks, looks}, scale).Replay(surface);
     return image;
 }
 
