@@ -12,6 +12,7 @@
 #include "widgets/vorlanelist.h"
 
 #include <optional>
+#include <vector>
 
 #include <QByteArray>
 #include <QColor>
@@ -237,10 +238,6 @@ public:
     int CountDiapoX() const;
     int CountDiapoY() const;
     int CountAffiche() const;
-    int CountSelected() const;
-    int CurrentDiapo() const;
-    bool Selected(int index) const;
-    void SetSelected(int index, bool selected);
     // The text under the name of a slide. It goes with the slide's item while rows are scrolled; a slide that takes
     // another item keeps it until the host, told by OnAdded, sets it anew.
     QString CaptionBottom(int index) const;
@@ -250,6 +247,18 @@ public:
     // The list index that a slide shows, -1 for none; and where it lies, empty for a slide that isn't shown.
     int Value(int index) const;
     QRectF DiapoRect(int index) const;
+
+    // --- Selection ---
+    void SelectAll();
+    void SelectInvert();
+    void SelectedClear(int exceptedIndex = -1);
+    int CountSelected() const;
+    // List indices, ascending.
+    std::vector<int> SelectedTableau() const;
+    int CurrentDiapo() const;
+    void SetCurrentDiapo(int index);
+    bool Selected(int index) const;
+    void SetSelected(int index, bool selected);
 
     // --- Items ---
     int Add(const QString& imageName, const QString& multipleDataSort = {}, int key = -1, int insertBefore = -1);
@@ -299,8 +308,25 @@ Q_SIGNALS:
     void OnSorted();
     void OnTraitementFeedBack(int value, int max);
     void OnOLENewFileAdded(const QString& fileName, int* key, bool* cancel);
+    // Places are the widget's.
+    void OnMouseDown(int button, int shift, const QPointF& place);
+    void OnMouseMove(int button, int shift, const QPointF& place);
+    void OnMouseUp(int button, int shift, const QPointF& place);
+    void OnMouseEnter(int index);
+    void OnMouseExit(int index);
+    void OnClick(int index, const QString& fileName, int button);
+    void OnDblClick(int index, const QString& fileName, int button);
+    void OnBackgroundClick(int button);
+    void OnBackgroundDblClick(int button);
+    // Key codes are the sheet's. A held key is told once.
+    void OnKeyDown(int* keyCode, int shift);
+    void OnKeyPress(int* keyAscii);
+    void OnKeyUp(int* keyCode, int shift);
     void OnError(int number, const QString& description, const QString& source, int lastDllError,
                  const QString& valeur) const;
+
+protected:
+    void connectNotify(const QMetaMethod& signal) override;
 
 private:
     // Runs an operation of the sheet; its failure raises OnError.
@@ -317,9 +343,12 @@ private:
     void ConnectEvents();
     void ConnectScrolling();
     void ConnectPictures();
+    void ConnectMouse();
+    void ConnectKeys();
 
     Vorlane& sheet_;
     mutable PendingError pending_;
+    bool feedBackHeard_ = false;
 };
 
 }  // namespace vorlane
