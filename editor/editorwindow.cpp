@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QIcon>
@@ -22,6 +23,7 @@
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QUrl>
 #include <QWheelEvent>
 
 namespace vorlane::editor {
@@ -51,7 +53,8 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
       show_(new Show(*sheet_, this)),
       navigator_(new Navigator(*sheet_, *show_, this)),
       provider_(new ThumbnailProvider(*sheet_, thumbnails_)),
-      status_(new StatusPanel(this)) {
+      status_(new StatusPanel(this)),
+      opener_([](const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }) {
     setWindowIcon(QIcon(QStringLiteral(":/editor/icons/vorlane.svg")));
     setAcceptDrops(true);
     pages_->addWidget(empty_);
@@ -97,6 +100,7 @@ void EditorWindow::SetSlideWidth(int width) {
 }
 
 void EditorWindow::Retranslate() {
+    sheet_->setAccessibleName(tr("Planche de diapositives"));
     NameMenus();
     ShowEmptyTexts();
     ShowStatus();
@@ -153,14 +157,11 @@ int EditorWindow::PlaceUnder(const QPoint& place) const {
     return item < 0 ? -1 : item + (behind ? 1 : 0);
 }
 
-// The wheel with Ctrl over the sheet changes the size of the slides; what the user does there may change the selection.
+// The wheel with Ctrl over the sheet changes the size of the slides.
 bool EditorWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched != sheet_) return QMainWindow::eventFilter(watched, event);
     if (event->type() == QEvent::Wheel) return Zoom(static_cast<const QWheelEvent&>(*event));
     if (event->type() == QEvent::ContextMenu) return ShowContextMenu(static_cast<const QContextMenuEvent&>(*event));
-    if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease)
-        QMetaObject::invokeMethod(
-            this, [this] { ShowStatus(); }, Qt::QueuedConnection);
     return false;
 }
 

@@ -13,6 +13,9 @@
 #include "widgets/thumbnailprovider.h"
 #include "widgets/thumbnailservice.h"
 
+#include <functional>
+#include <utility>
+
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QTimer>
@@ -48,6 +51,10 @@ public:
     int count() const;
     // Whether all that was asked for is read and all slides show what they should.
     bool isSettled() const;
+
+    // What opens a picture's file; gives false where nothing does. At first it is the system's usual program.
+    using PictureOpener = std::function<bool(const QString& path)>;
+    void setPictureOpener(PictureOpener opener) { opener_ = std::move(opener); }
 
     VorlaneWidget& sheet() const { return *sheet_; }
     Show& slides() const { return *show_; }
@@ -136,6 +143,7 @@ private:
     ThumbnailProvider* provider_;
     StatusPanel* status_;
     Menus menus_{};
+    PictureOpener opener_;
 
     QString folder_;   // the one that is open
     QString failed_;   // the last one asked for, if it could not be read

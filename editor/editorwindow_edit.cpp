@@ -9,9 +9,7 @@
 
 #include <QAction>
 #include <QContextMenuEvent>
-#include <QDesktopServices>
 #include <QMenu>
-#include <QUrl>
 
 namespace vorlane::editor {
 
@@ -28,6 +26,9 @@ void EditorWindow::ConnectShow() {
     connect(&additions_, &Additions::read, this, &EditorWindow::Added);
     connect(navigator_, &Navigator::moved, this, &EditorWindow::ShowStatus);
     connect(navigator_, &Navigator::activated, this, &EditorWindow::OpenItem);
+    connect(sheet_, &VorlaneWidget::OnDblClick, this, [this](int index, const QString&, int button) {
+        if (button == 1) OpenItem(sheet_->Value(index));
+    });
     noticeEnd_.setSingleShot(true);
     connect(&noticeEnd_, &QTimer::timeout, this, [this] { Say({}); });
 }
@@ -37,7 +38,7 @@ int EditorWindow::count() const {
 }
 
 void EditorWindow::ItemsChanged() {
-    const std::vector<int> selected = sheet_->Liste().SelItems();
+    const std::vector<int> selected = sheet_->SelectedTableau();
     if (!selected.empty()) {
         navigator_->mark(selected.front());
     } else if (navigator_->current() < 0) {
@@ -57,7 +58,7 @@ void EditorWindow::Say(const QString& notice) {
 
 // The item behind the last removed one becomes the current one, without being selected.
 void EditorWindow::removeSelected() {
-    const std::vector<int> selected = sheet_->Liste().SelItems();
+    const std::vector<int> selected = sheet_->SelectedTableau();
     const int removed = show_->removeSelected();
     if (removed == 0) return Say(tr("Aucune diapositive n'est sélectionnée"));
     const int behind = selected.back() + 1 - removed;
@@ -66,9 +67,7 @@ void EditorWindow::removeSelected() {
 }
 
 void EditorWindow::selectAll() {
-    VorlaneList list = sheet_->Liste();
-    for (int i = 0; i < list.ListCount(); ++i) list.SetSelected(i, true);
-    show_->showAgain();
+    sheet_->SelectAll();
     ShowStatus();
 }
 
@@ -87,7 +86,7 @@ void EditorWindow::Added(const std::vector<FolderItem>& items, int beforeKey) {
 
 // By so many places, as a block.
 void EditorWindow::MoveSelected(int places) {
-    const std::vector<int> selected = sheet_->Liste().SelItems();
+    const std::vector<int> selected = sheet_->SelectedTableau();
     if (selected.empty()) return Say(tr("Aucune diapositive n'est sélectionnée"));
     if (show_->order().Sorts())
         return Say(
@@ -97,8 +96,7 @@ void EditorWindow::MoveSelected(int places) {
 
 void EditorWindow::OpenItem(int listIndex) {
     const QString path = sheet_->ImageFullPath(listIndex);
-    if (!path.isEmpty() && !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
-        Say(tr("Aucun programme n'ouvre cette image"));
+    if (!path.isEmpty() && !opener_(path)) Say(tr("Aucun programme n'ouvre cette image"));
 }
 
 bool EditorWindow::ShowContextMenu(const QContextMenuEvent& event) {

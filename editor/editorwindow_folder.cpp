@@ -64,7 +64,7 @@ void EditorWindow::ShowPage() {
     QWidget* page = slides ? static_cast<QWidget*>(sheet_) : empty_;
     if (pages_->currentWidget() == page) return;
     pages_->setCurrentWidget(page);
-    if (slides) sheet_->setFocus();
+    page->setFocus();
 }
 
 // What is shown stays as it is.

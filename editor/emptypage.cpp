@@ -68,6 +68,8 @@ EmptyPage::EmptyPage(QWidget* parent)
     }
     button_->setObjectName(QStringLiteral("openFolder"));
     button_->setMinimumHeight(button_->sizeHint().height() + 6);
+    button_->setAutoDefault(true);  // Enter presses it
+    setFocusProxy(button_);
     connect(button_, &QPushButton::clicked, this, &EmptyPage::openRequested);
 
     auto* column = new QVBoxLayout(this);
@@ -87,7 +89,8 @@ EmptyPage::EmptyPage(QWidget* parent)
 void EmptyPage::setTexts(const QString& title, const QString& hint, const QString& button) {
     title_->setText(title);
     hint_->setText(hint);
-    button_->setText(QStringLiteral("  %1  ").arg(button));
+    button_->setText(button);
+    button_->setMinimumWidth(button_->sizeHint().width() + kMargin);
 }
 
 void EmptyPage::setDropping(bool dropping) {

@@ -46,6 +46,7 @@ bool IsText(const QKeyEvent& event) {
 Navigator::Navigator(VorlaneWidget& sheet, Show& show, QObject* parent)
     : QObject(parent), sheet_(sheet), show_(show), typing_(QApplication::keyboardInputInterval() * 2) {
     sheet.installEventFilter(this);
+    connect(&sheet, &VorlaneWidget::OnMouseUp, this, &Navigator::FollowMouse);
 }
 
 int Navigator::current() const {
@@ -72,22 +73,30 @@ void Navigator::mark(int listIndex) {
     Q_EMIT moved();
 }
 
+// Keys that arrive while the sheet is at work lead on from here.
 void Navigator::setCurrent(int listIndex) {
     if (listIndex < 0 || listIndex >= show_.count()) return;
-    show_.unselectAll();
-    show_.reveal(listIndex);
-    const int slide = slideOf(listIndex);
-    if (slide >= 0) sheet_.SetSelected(slide, true);  // the colour of the current one
     mark(listIndex);
+    if (bringing_) return;
+    bringing_ = true;
+    int brought = -1;
+    while (brought != current()) Bring(brought = current());
+    bringing_ = false;
+    Q_EMIT moved();
+}
+
+void Navigator::Bring(int listIndex) {
+    show_.reveal(listIndex);
+    sheet_.SelectedClear();
+    const int slide = slideOf(listIndex);
+    if (slide >= 0) sheet_.SetCurrentDiapo(slide);
 }
 
 void Navigator::Toggle() {
-    VorlaneList list = sheet_.Liste();
     const int item = current();
-    if (item < 0) return;
-    list.SetSelected(item, !list.Selected(item));
     show_.reveal(item);
-    show_.showAgain();
+    const int slide = slideOf(item);
+    if (slide >= 0) sheet_.SetSelected(slide, !sheet_.Selected(slide));
     Q_EMIT moved();
 }
 
@@ -120,16 +129,13 @@ bool Navigator::Key(const QKeyEvent& event) {
 
 bool Navigator::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) return Key(static_cast<const QKeyEvent&>(*event));
-    if (event->type() == QEvent::MouseButtonRelease)
-        QMetaObject::invokeMethod(
-            this, [this] { FollowMouse(); }, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }
 
 // What the mouse has made current is so for the keys, too.
 void Navigator::FollowMouse() {
     const int slide = sheet_.CurrentDiapo();
-    if (slide >= 0) mark(sheet_.Value(slide));
+    mark(slide < 0 ? current() : sheet_.Value(slide));
 }
 
 }  // namespace vorlane::editor

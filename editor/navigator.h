@@ -29,7 +29,8 @@ public:
     // The slide that shows an item, -1 for none.
     int slideOf(int listIndex) const;
 
-    // Selects the item alone and has it in sight.
+    // Has the item in sight and clicks on its slide: it is selected alone, or with Shift held with all up to the last
+    // one that was.
     void setCurrent(int listIndex);
     // Leaves the selection as it is.
     void mark(int listIndex);
@@ -42,6 +43,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Bring(int listIndex);
     bool Key(const QKeyEvent& event);
     bool Type(const QString& text);
     void Toggle();
@@ -51,6 +53,7 @@ private:
     Show& show_;
     TypeAhead typing_;
     int key_ = -1;  // of the current item
+    bool bringing_ = false;
 };
 
 }  // namespace vorlane::editor

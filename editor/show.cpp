@@ -49,11 +49,6 @@ void Show::showAgain() {
     }
 }
 
-void Show::unselectAll() {
-    UnselectItems();
-    showAgain();
-}
-
 // --- Without a way back ---
 
 void Show::clear() {
@@ -126,15 +121,17 @@ std::vector<Show::Placed> Show::Selected() const {
     return selected;
 }
 
-void Show::UnselectItems() {
+// Without a yield, which would let the user's next key into a change that is under way.
+void Show::Unselect() {
     VorlaneList list = sheet_.Liste();
+    if (sheet_.Value(0) >= 0) sheet_.SetSelected(0, false);  // leaves no slide current
     for (const int index : list.SelItems()) list.SetSelected(index, false);
 }
 
 // What comes is selected and in sight then.
 void Show::Apply(const Change& change) {
     VorlaneList list = sheet_.Liste();
-    UnselectItems();
+    Unselect();
     for (auto placed = change.out.rbegin(); placed != change.out.rend(); ++placed) list.RemoveItem(placed->index);
     for (const Placed& placed : change.in) {
         list.AddItem(placed.text, placed.key, placed.index);

@@ -36,7 +36,6 @@ public:
     bool reveal(int listIndex);
     // Fills the slides anew from where the sheet stands.
     void showAgain();
-    void unselectAll();
 
     // --- Without a way back: what was done before is for good ---
     void clear();
@@ -76,7 +75,7 @@ private:
     class SortCommand;
 
     std::vector<Placed> Selected() const;
-    void UnselectItems();
+    void Unselect();
     void Apply(const Change& change);
     void Push(Change change, const QString& name);
     void Order(SortOrder order);

@@ -5,8 +5,10 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QProgressBar>
 #include <QSlider>
+#include <QStyle>
 #include <QToolButton>
 
 namespace vorlane::editor {
@@ -18,11 +20,25 @@ constexpr int kProgressWidth = 140;
 constexpr int kProgressHeight = 8;
 constexpr int kMargin = 8;
 
+// A line that ends in an ellipsis where there is no room for all of it.
+class ElidedLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QString line = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), line,
+                              foregroundRole());
+    }
+};
+
 }  // namespace
 
 StatusPanel::StatusPanel(QWidget* parent)
     : QWidget(parent),
-      text_(new QLabel(this)),
+      text_(new ElidedLabel(this)),
       progress_(new QProgressBar(this)),
       smaller_(MakeButton(QStringLiteral("\u2212"))),
       slider_(new QSlider(Qt::Horizontal, this)),

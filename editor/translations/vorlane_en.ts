@@ -80,6 +80,10 @@
 <context>
     <name>vorlane::editor::EditorWindow</name>
     <message>
+        <source>Planche de diapositives</source>
+        <translation>Sheet of slides</translation>
+    </message>
+    <message>
         <source>Ouvrir un dossier</source>
         <translation>Open a Folder</translation>
     </message>

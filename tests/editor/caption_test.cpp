@@ -25,6 +25,23 @@ TEST(Caption, TellsSizeAndDayAsTheLocaleWritesThem) {
     EXPECT_EQ(english.toStdString(), "1.6 MB · 3/14/26");
 }
 
+TEST(Caption, CountsFewBytesInWords) {
+    const QTemporaryDir folder;
+    const auto sizeText = [&](int size) {
+        QFile file(folder.filePath(QStringLiteral("a.jpg")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        EXPECT_EQ(file.write(QByteArray(size, 'x')), size);
+        file.close();
+        const QString caption = CaptionOf(file.fileName(), QLocale(QLocale::French, QLocale::France));
+        return caption.section(QStringLiteral(" · "), 0, 0).toStdString();
+    };
+    EXPECT_EQ(sizeText(0), "0 octet");
+    EXPECT_EQ(sizeText(1), "1 octet");
+    EXPECT_EQ(sizeText(2), "2 octets");
+    EXPECT_EQ(sizeText(1023), "1\u202F023 octets");
+    EXPECT_EQ(sizeText(1024), "1,0 ko");
+}
+
 TEST(Caption, IsEmptyForAFileThatIsGone) {
     EXPECT_EQ(CaptionOf(QStringLiteral("/nowhere/a.jpg"), QLocale::c()).toStdString(), "");
 }

@@ -5,6 +5,8 @@
 #include "tests/editor/windowfixture.h"
 
 #include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
 #include <QSlider>
 #include <QTranslator>
 #include <QWheelEvent>
@@ -97,10 +99,10 @@ TEST_F(EditorWindowTest, TellsHowFarTheThumbnailsAre) {
 TEST_F(EditorWindowTest, TellsHowManyAreSelected) {
     pictures_.WritePictures(5);
     ASSERT_TRUE(Open(Folder()));
-    window_->sheet().SetSelected(1, true);
-    window_->sheet().SetSelected(3, true);
-    QMouseEvent release(QEvent::MouseButtonRelease, {5, 5}, {5, 5}, Qt::LeftButton, {}, {});
-    QCoreApplication::sendEvent(&window_->sheet(), &release);
+    for (const int slide : {1, 3}) {
+        const QPoint place = window_->sheet().DiapoRect(slide).center().toPoint();
+        QTest::mouseClick(&window_->sheet(), Qt::LeftButton, Qt::ControlModifier, place);
+    }
     QCoreApplication::processEvents();
     EXPECT_EQ(Status(), QString::fromUtf8("5 images — 2 sélectionnées"));
 }
@@ -283,6 +285,46 @@ TEST_F(EditorWindowTest, SpeaksEnglishToo) {
     }
     QCoreApplication::processEvents();
     EXPECT_EQ(Status(), "2 images");
+}
+
+TEST_F(EditorWindowTest, AFolderThatVanishesWhileItIsReadShowsBrokenSlides) {
+    pictures_.WritePictures(100);
+    bool gone = false;
+    window_->openFolder(Folder());
+    ASSERT_TRUE(WaitFor([&] {
+        if (!gone && window_->folder() == Folder()) gone = QDir(Folder()).removeRecursively();
+        return gone;
+    }));
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(window_->count(), 100);
+    EXPECT_EQ(Status(), "100 images");
+    EXPECT_FALSE(invalid_.isEmpty());
+    EXPECT_EQ(window_->sheet().CaptionBottom(window_->sheet().CountAffiche() - 1), "");
+}
+
+TEST_F(EditorWindowTest, RemembersTheOrderAndTheDirection) {
+    pictures_.WritePictures(3);
+    ASSERT_TRUE(Open(Folder()));
+    Action("Taille").trigger();
+    Action("Ordre décroissant").trigger();
+    Action("Horizontal").trigger();
+    window_->close();
+    Make();
+    EXPECT_TRUE(Action("Taille").isChecked());
+    EXPECT_TRUE(Action("Ordre décroissant").isChecked());
+    EXPECT_TRUE(Action("Horizontal").isChecked());
+    EXPECT_EQ(window_->sheet().SortedSens(), ui::SortSens::ssDescending);
+    EXPECT_EQ(window_->sheet().ScrollDirection(), ui::ScrollDirection::sdHorizontal);
+}
+
+TEST_F(EditorWindowTest, TheKeyboardOpensAFolderFromTheEmptyPage) {
+    auto* button = window_->findChild<QPushButton*>("openFolder");
+    window_->activateWindow();
+    ASSERT_TRUE(WaitFor([&] { return button->hasFocus(); }));
+    QSignalSpy asked(&Empty(), &EmptyPage::openRequested);
+    Empty().disconnect(window_.get());  // opens no dialog here
+    QTest::keyClick(button, Qt::Key_Return);
+    EXPECT_EQ(asked.count(), 1);
 }
 
 TEST_F(EditorWindowTest, ItMayBeClosedWhileItReads) {

@@ -5,7 +5,6 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
-#include <QSignalSpy>
 
 namespace vorlane::editor {
 namespace {
@@ -21,7 +20,7 @@ protected:
     }
     int Current() { return window_->navigator().current(); }
     bool IsInSight() { return window_->navigator().slideOf(Current()) >= 0; }
-    std::vector<int> Selection() { return window_->sheet().Liste().SelItems(); }
+    std::vector<int> Selection() { return window_->sheet().SelectedTableau(); }
     int Line() { return window_->sheet().CountDiapoX(); }
     int Lines() { return window_->sheet().CountDiapoY() - 1; }
     QMenu* ContextMenu(const QPoint& place, QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse) {
@@ -90,6 +89,43 @@ TEST_F(NavigationTest, AHeldKeyRepeats) {
     EXPECT_EQ(Current(), 5);
 }
 
+TEST_F(NavigationTest, WithShiftTheSelectionGrowsAndShrinks) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_Home);
+    Press(Qt::Key_Right);
+    Press(Qt::Key_Right, Qt::ShiftModifier);
+    Press(Qt::Key_Down, Qt::ShiftModifier);
+    std::vector<int> range;
+    for (int i = 1; i <= 2 + Line(); ++i) range.push_back(i);
+    EXPECT_EQ(Selection(), range);
+    EXPECT_EQ(Current(), 2 + Line());
+    Press(Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(Selection(), (std::vector{1, 2}));
+    Press(Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(Selection().size(), 99U);
+    Press(Qt::Key_Home);
+    EXPECT_EQ(Selection(), std::vector{0});
+}
+
+TEST_F(NavigationTest, TheKeysLeadOnFromWhereTheMouseClicked) {
+    ASSERT_TRUE(OpenMany());
+    QTest::mouseClick(&window_->sheet(), Qt::LeftButton, {}, window_->sheet().DiapoRect(3).center().toPoint());
+    EXPECT_TRUE(window_->sheet().hasFocus());
+    EXPECT_EQ(Status(), QString::fromUtf8("100 images — 1 sélectionnée"));
+    Press(Qt::Key_Right);
+    EXPECT_EQ(Current(), 4);
+    EXPECT_EQ(Selection(), std::vector{4});
+}
+
+TEST_F(NavigationTest, ADoubleClickOpensThePicture) {
+    ASSERT_TRUE(OpenMany());
+    const QPoint place = window_->sheet().DiapoRect(3).center().toPoint();
+    QTest::mouseClick(&window_->sheet(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(&window_->sheet(), Qt::LeftButton, {}, place);
+    QTest::mouseRelease(&window_->sheet(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(opened_, QStringList("p003.jpg"));
+}
+
 TEST_F(NavigationTest, SidewaysTheArrowsAllLeadAlongTheRow) {
     ASSERT_TRUE(OpenMany());
     Action("Horizontal").trigger();
@@ -126,14 +162,19 @@ TEST_F(NavigationTest, SpaceTakesTheCurrentSlideIntoTheSelectionAndOut) {
 
 TEST_F(NavigationTest, EnterOpensThePicture) {
     ASSERT_TRUE(OpenMany());
-    QSignalSpy activated(&window_->navigator(), &Navigator::activated);
     Press(Qt::Key_Return);  // there is no current one yet
-    EXPECT_EQ(activated.count(), 0);
+    EXPECT_TRUE(opened_.isEmpty());
     Press(Qt::Key_Home);
-    window_->navigator().disconnect(window_.get());  // starts no program here
     Press(Qt::Key_Return);
-    ASSERT_EQ(activated.count(), 1);
-    EXPECT_EQ(activated.first().first().toInt(), 0);
+    EXPECT_EQ(opened_, QStringList("p000.jpg"));
+}
+
+TEST_F(NavigationTest, APictureThatNoProgramOpensIsTold) {
+    ASSERT_TRUE(OpenMany());
+    window_->setPictureOpener([](const QString&) { return false; });
+    Press(Qt::Key_Home);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Status(), "Aucun programme n'ouvre cette image");
 }
 
 TEST_F(NavigationTest, AFocusedSheetShowsItsCurrentSlide) {

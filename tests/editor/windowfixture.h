@@ -42,6 +42,10 @@ protected:
                          [](int, const QString& what) { ADD_FAILURE() << what.toStdString(); });
         QObject::connect(&window_->sheet(), &VorlaneWidget::OnInvalidPicture,
                          [this](int, const QString& name) { invalid_.push_back(QFileInfo(name).fileName()); });
+        window_->setPictureOpener([this](const QString& path) {
+            opened_.push_back(QFileInfo(path).fileName());
+            return true;
+        });
         window_->resize(900, 600);
         window_->show();
     }
@@ -72,7 +76,7 @@ protected:
     }
     QString SelectedLetters() const {
         QString letters;
-        for (const int i : window_->sheet().Liste().SelItems()) letters += Letters().at(i);
+        for (const int i : window_->sheet().SelectedTableau()) letters += Letters().at(i);
         return letters;
     }
     // Pictures of those names with ".jpg" behind.
@@ -102,6 +106,7 @@ protected:
     Connection loads_;
     int readOnThisThread_ = 0;
     QStringList invalid_;
+    QStringList opened_;
     bool accepted_ = false;
 };
 
