@@ -149,8 +149,8 @@ void EditorWindow::dropEvent(QDropEvent* event) {
 
 // The list index in front of which a drop there belongs, -1 for the end.
 int EditorWindow::PlaceUnder(const QPoint& place) const {
-    if (count() == 0) return -1;
     QPointF onSheet = sheet_->mapFrom(this, place);
+    if (count() == 0 || !sheet_->rect().contains(onSheet.toPoint())) return -1;
     bool behind = false;
     const int slide = sheet_->GetDiapoFromCol(&onSheet, &behind);
     const int item = sheet_->Value(slide);

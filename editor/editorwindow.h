@@ -122,6 +122,7 @@ private:
     void ConnectReader();
     void Opened(const QString& folder, int total);
     void Failed(const QString& folder);
+    QString FailureText() const;
     void ShowPage();
     void TakeSlice();
     void ShowSheet();

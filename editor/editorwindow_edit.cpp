@@ -24,7 +24,7 @@ void EditorWindow::ConnectShow() {
     connect(show_, &Show::orderChanged, this, &EditorWindow::ShowArrangement);
     connect(&show_->undoStack(), &QUndoStack::indexChanged, this, &EditorWindow::NameUndo);
     connect(&additions_, &Additions::read, this, &EditorWindow::Added);
-    connect(navigator_, &Navigator::moved, this, &EditorWindow::ShowStatus);
+    connect(navigator_, &Navigator::moved, this, [this] { Say({}); });
     connect(navigator_, &Navigator::activated, this, &EditorWindow::OpenItem);
     connect(sheet_, &VorlaneWidget::OnDblClick, this, [this](int index, const QString&, int button) {
         if (button == 1) OpenItem(sheet_->Value(index));
@@ -49,7 +49,7 @@ void EditorWindow::ItemsChanged() {
     ShowStatus();
 }
 
-// Tells what was done, until something else is worth telling.
+// Tells what was done, for a moment or until the user does something else.
 void EditorWindow::Say(const QString& notice) {
     notice_ = notice;
     noticeEnd_.start(kNoticeTime);

@@ -67,12 +67,16 @@ void EditorWindow::ShowPage() {
     page->setFocus();
 }
 
+QString EditorWindow::FailureText() const {
+    return tr("Impossible de lire le dossier « %1 »").arg(QDir::toNativeSeparators(failed_));
+}
+
 // What is shown stays as it is.
 void EditorWindow::Failed(const QString& folder) {
     opening_ = false;
     failed_ = QDir::cleanPath(folder);
     if (!QFileInfo::exists(failed_)) recent_.remove(failed_);
-    ShowStatus();
+    Say(FailureText());
     Q_EMIT folderFailed(failed_);
     CheckSettled();
 }
@@ -105,10 +109,10 @@ void EditorWindow::ShowStatus() {
     const int missing = provider_->missing();
     waiting_ = missing == 0 ? 0 : std::max(waiting_, missing);
     const bool reading = read_ < total_;
-    if (!failed_.isEmpty()) {
-        status_->setMessage(tr("Impossible de lire le dossier « %1 »").arg(QDir::toNativeSeparators(failed_)));
-    } else if (!notice_.isEmpty()) {
+    if (!notice_.isEmpty()) {
         status_->setMessage(notice_);
+    } else if (!failed_.isEmpty() && count() == 0) {
+        status_->setMessage(FailureText());
     } else if (folder_.isEmpty() && count() == 0) {
         status_->clear();
     } else if (reading) {

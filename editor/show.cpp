@@ -62,7 +62,8 @@ void Show::append(const FolderItem& item) {
 }
 
 void Show::orderAppended() {
-    if (order_ == SortOrder{} || !order_.Sorts()) return;
+    const bool nothingElse = undo_.count() == 0;
+    if (!order_.Sorts() || (order_ == SortOrder{} && nothingElse)) return;
     undo_.clear();  // its indices would no longer be true
     Order(order_);
 }

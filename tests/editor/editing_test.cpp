@@ -221,6 +221,24 @@ TEST_F(EditingTest, WhereASortIsInForceTheyTakeTheirPlace) {
     EXPECT_EQ(Letters(), "abcde");
 }
 
+TEST_F(EditingTest, WhatIsAddedWhileAFolderIsReadTakesItsPlaceToo) {
+    for (int i = 0; i < 3000; ++i) pictures_.Write(QStringLiteral("p%1.jpg").arg(i), {});
+    test::PictureFolder other;
+    const QString added = other.Write("p1500b.jpg", {});
+    window_->openFolder(Folder());
+    ASSERT_TRUE(test::WaitFor([this] { return window_->count() > 0; }));
+    ASSERT_TRUE(Add({added}));
+    ASSERT_EQ(window_->count(), 3001);
+    EXPECT_EQ(window_->sheet().ImageFullPath(1501), added);
+}
+
+TEST_F(EditingTest, WhatIsDroppedBesideTheSheetGoesToItsEnd) {
+    ASSERT_TRUE(ByHand("abc"));
+    Drop({QUrl::fromLocalFile(pictures_.WritePicture("x.jpg"))}, {5, 2});
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(Letters(), "abcx");
+}
+
 TEST_F(EditingTest, AFolderIsAddedWithAllItsPictures) {
     ASSERT_TRUE(ByHand("ab"));
     test::PictureFolder other;
