@@ -14,6 +14,7 @@
 #include "widgets/thumbnailservice.h"
 
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include <QElapsedTimer>
@@ -120,7 +121,12 @@ private:
 
     // editorwindow_folder.cpp
     void ConnectReader();
+    struct Folder {
+        QString path;
+        int total;  // pictures
+    };
     void Opened(const QString& folder, int total);
+    void Begin(const Folder& folder);
     void Failed(const QString& folder);
     QString FailureText() const;
     void ShowPage();
@@ -145,6 +151,8 @@ private:
     StatusPanel* status_;
     Menus menus_{};
     PictureOpener opener_;
+
+    std::optional<Folder> opened_;  // has been opened and comes onto the sheet next
 
     QString folder_;   // the one that is open
     QString failed_;   // the last one asked for, if it could not be read

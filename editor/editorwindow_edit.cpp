@@ -78,6 +78,10 @@ void EditorWindow::addFiles(const QStringList& paths, int before) {
 }
 
 void EditorWindow::Added(const std::vector<FolderItem>& items, int beforeKey) {
+    if (show_->isBusy()) {
+        QTimer::singleShot(1, this, [this, items, beforeKey] { Added(items, beforeKey); });
+        return;
+    }
     const auto added = static_cast<int>(items.size());
     show_->insert(items, beforeKey < 0 ? -1 : sheet_->GetListIndexFromItemData(beforeKey));
     Say(added == 0 ? tr("Aucune image à ajouter") : tr("%Ln image(s) ajoutée(s)", nullptr, added));

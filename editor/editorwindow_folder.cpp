@@ -7,6 +7,7 @@
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QDir>
 #include <QFileInfo>
@@ -37,14 +38,20 @@ void EditorWindow::ConnectReader() {
 
 void EditorWindow::openFolder(const QString& folder) {
     opening_ = true;
+    opened_.reset();
     failed_.clear();
     reader_.start(QDir::cleanPath(QDir(folder).absolutePath()));
 }
 
+// The first of its items, or its end, brings it onto the sheet.
 void EditorWindow::Opened(const QString& folder, int total) {
+    opened_ = Folder{QDir::cleanPath(folder), total};
+}
+
+void EditorWindow::Begin(const Folder& folder) {
     opening_ = false;
-    folder_ = QDir::cleanPath(folder);
-    total_ = total;
+    folder_ = folder.path;
+    total_ = folder.total;
     read_ = 0;
     recent_.add(folder_);
     additions_.clear();
@@ -81,8 +88,10 @@ void EditorWindow::Failed(const QString& folder) {
     CheckSettled();
 }
 
-// The window stays free for the user between slices.
+// The window stays free for the user between slices. While the show is at work, the folder waits.
 void EditorWindow::TakeSlice() {
+    if (show_->isBusy()) return;
+    if (opened_) Begin(*std::exchange(opened_, std::nullopt));
     QElapsedTimer slice;
     slice.start();
     std::vector<FolderItem> items;

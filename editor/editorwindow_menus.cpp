@@ -54,8 +54,8 @@ void EditorWindow::MakeEditMenu() {
     menus_.edit->addSeparator();
     menus_.moveBack = AddAction(menus_.edit, QKeySequence(Qt::ALT | Qt::Key_Left));
     menus_.moveOn = AddAction(menus_.edit, QKeySequence(Qt::ALT | Qt::Key_Right));
-    connect(menus_.undo, &QAction::triggered, &show_->undoStack(), &QUndoStack::undo);
-    connect(menus_.redo, &QAction::triggered, &show_->undoStack(), &QUndoStack::redo);
+    connect(menus_.undo, &QAction::triggered, show_, &Show::undo);
+    connect(menus_.redo, &QAction::triggered, show_, &Show::redo);
     connect(menus_.selectAll, &QAction::triggered, this, &EditorWindow::selectAll);
     connect(menus_.show, &QAction::triggered, this, [this] { OpenItem(navigator_->current()); });
     connect(menus_.remove, &QAction::triggered, this, &EditorWindow::removeSelected);

@@ -6,14 +6,6 @@
 
 namespace vorlane::editor {
 
-namespace {
-
-QString ItemText(const FolderItem& item) {
-    return item.sortData + VorlaneWidget::SepSortWithData() + item.path;
-}
-
-}  // namespace
-
 GridView ViewOf(const VorlaneWidget& sheet) {
     const bool sideways = sheet.ScrollDirection() == ui::ScrollDirection::sdHorizontal;
     const int across = sideways ? sheet.CountDiapoY() : sheet.CountDiapoX();
@@ -70,47 +62,6 @@ void Show::orderAppended() {
 
 void Show::setOrder(SortOrder order) {
     SetOrderState(order);
-}
-
-// --- With a way back ---
-
-int Show::removeSelected() {
-    Change change{Selected(), {}};
-    const auto removed = static_cast<int>(change.out.size());
-    if (removed == 0) return 0;
-    sheet_.RemoveAllSelected();
-    Push(std::move(change), tr("le retrait"));
-    return removed;
-}
-
-void Show::insert(const std::vector<FolderItem>& items, int before) {
-    if (items.empty()) return;
-    const int end = count();
-    int place = order_.Sorts() || before < 0 ? end : std::min(before, end);
-    Change change;
-    for (const FolderItem& item : items) change.in.push_back({place++, nextKey_++, ItemText(item)});
-    Apply(change);
-    if (order_.Sorts()) {
-        Order(order_);
-        for (Placed& placed : change.in) placed.index = sheet_.GetListIndexFromItemData(placed.key);
-        std::sort(change.in.begin(), change.in.end(),
-                  [](const Placed& a, const Placed& b) { return a.index < b.index; });
-    }
-    Push(std::move(change), tr("l'ajout"));
-}
-
-bool Show::moveSelected(int before) {
-    if (order_.Sorts() || before < 0 || before > count()) return false;
-    Change change{Selected(), {}};
-    const auto staysBehind = [before](const Placed& placed) { return placed.index >= before; };
-    const auto above = std::find_if(change.out.begin(), change.out.end(), staysBehind) - change.out.begin();
-    int place = before - static_cast<int>(above);
-    for (const Placed& placed : change.out) change.in.push_back({place++, placed.key, placed.text});
-    const auto sameIndex = [](const Placed& a, const Placed& b) { return a.index == b.index; };
-    if (std::equal(change.out.begin(), change.out.end(), change.in.begin(), sameIndex)) return false;
-    Apply(change);
-    Push(std::move(change), tr("le déplacement"));
-    return true;
 }
 
 // --- Changes ---

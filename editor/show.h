@@ -1,7 +1,8 @@
 // Show: the items on a sheet's list and their order, with a way back for all that the user does to them. The list is
 // the sheet's; this knows how it came about.
 //
-// An item's key is its own for as long as the show lasts, also while it is off the list.
+// An item's key is its own for as long as the show lasts, also while it is off the list. The sheet yields to the user
+// while it works; what the user asks of a show that is at work already is passed over.
 #pragma once
 
 #include "editor/folderreader.h"
@@ -31,13 +32,14 @@ public:
 
     int count() const;
     SortOrder order() const { return order_; }
-    QUndoStack& undoStack() { return undo_; }
+    const QUndoStack& undoStack() const { return undo_; }
+    bool isBusy() const { return busy_; }
     // Scrolls as little as it takes to have the item in sight. Gives whether it scrolled.
     bool reveal(int listIndex);
     // Fills the slides anew from where the sheet stands.
     void showAgain();
 
-    // --- Without a way back: what was done before is for good ---
+    // --- Without a way back: what was done before is for good; not for a show that is at work ---
     void clear();
     // At the end; comes to the slides with the next showAgain().
     void append(const FolderItem& item);
@@ -49,11 +51,14 @@ public:
     // --- With a way back ---
     // How many have gone.
     int removeSelected();
-    // In front of a list index, or at the end for -1; where a sort is in force, in its order. They are selected then.
+    // Not for a show that is at work. In front of a list index, or at the end for -1; where a sort is in force, in its
+    // order. They are selected then.
     void insert(const std::vector<FolderItem>& items, int before);
     // To in front of a list index. False when that changes nothing, or a sort forbids it.
     bool moveSelected(int before);
     void sort(SortOrder order);
+    void undo();
+    void redo();
 
 Q_SIGNALS:
     // Items came, went or moved.
@@ -73,6 +78,7 @@ private:
     };
     class ChangeCommand;
     class SortCommand;
+    class Busy;
 
     std::vector<Placed> Selected() const;
     void Unselect();
@@ -87,6 +93,7 @@ private:
     QUndoStack undo_;
     SortOrder order_;
     int nextKey_ = 0;
+    bool busy_ = false;
 };
 
 }  // namespace vorlane::editor

@@ -2,12 +2,32 @@
 #include "editor/show.h"
 #include "widgets/vorlanewidget.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <utility>
 
 #include <QUndoCommand>
 
 namespace vorlane::editor {
+
+namespace {
+
+QString ItemText(const FolderItem& item) {
+    return item.sortData + VorlaneWidget::SepSortWithData() + item.path;
+}
+
+}  // namespace
+
+class Show::Busy {
+public:
+    explicit Busy(Show& show) : show_(show) { show_.busy_ = true; }
+    ~Busy() { show_.busy_ = false; }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+private:
+    Show& show_;
+};
 
 // A change that is done already when it is pushed.
 class Show::ChangeCommand : public QUndoCommand {
@@ -52,9 +72,70 @@ void Show::Push(Change change, const QString& name) {
     Q_EMIT changed();
 }
 
-void Show::sort(SortOrder order) {
-    if (order != order_) undo_.push(new SortCommand(*this, order, tr("le tri")));
+// --- With a way back ---
+
+int Show::removeSelected() {
+    if (busy_) return 0;
+    const Busy busy(*this);
+    Change change{Selected(), {}};
+    const auto removed = static_cast<int>(change.out.size());
+    if (removed == 0) return 0;
+    sheet_.RemoveAllSelected();
+    Push(std::move(change), tr("le retrait"));
+    return removed;
 }
+
+void Show::insert(const std::vector<FolderItem>& items, int before) {
+    if (items.empty() || busy_) return;
+    const Busy busy(*this);
+    const int end = count();
+    int place = order_.Sorts() || before < 0 ? end : std::min(before, end);
+    Change change;
+    for (const FolderItem& item : items) change.in.push_back({place++, nextKey_++, ItemText(item)});
+    Apply(change);
+    if (order_.Sorts()) {
+        Order(order_);
+        for (Placed& placed : change.in) placed.index = sheet_.GetListIndexFromItemData(placed.key);
+        std::sort(change.in.begin(), change.in.end(),
+                  [](const Placed& a, const Placed& b) { return a.index < b.index; });
+    }
+    Push(std::move(change), tr("l'ajout"));
+}
+
+bool Show::moveSelected(int before) {
+    if (busy_ || order_.Sorts() || before < 0 || before > count()) return false;
+    const Busy busy(*this);
+    Change change{Selected(), {}};
+    const auto staysBehind = [before](const Placed& placed) { return placed.index >= before; };
+    const auto above = std::find_if(change.out.begin(), change.out.end(), staysBehind) - change.out.begin();
+    int place = before - static_cast<int>(above);
+    for (const Placed& placed : change.out) change.in.push_back({place++, placed.key, placed.text});
+    const auto sameIndex = [](const Placed& a, const Placed& b) { return a.index == b.index; };
+    if (std::equal(change.out.begin(), change.out.end(), change.in.begin(), sameIndex)) return false;
+    Apply(change);
+    Push(std::move(change), tr("le déplacement"));
+    return true;
+}
+
+void Show::sort(SortOrder order) {
+    if (busy_ || order == order_) return;
+    const Busy busy(*this);
+    undo_.push(new SortCommand(*this, order, tr("le tri")));
+}
+
+void Show::undo() {
+    if (busy_) return;
+    const Busy busy(*this);
+    undo_.undo();
+}
+
+void Show::redo() {
+    if (busy_) return;
+    const Busy busy(*this);
+    undo_.redo();
+}
+
+// --- Orders ---
 
 void Show::SetOrderState(SortOrder order) {
     const auto direction = order.descending ? ui::SortSens::ssDescending : ui::SortSens::ssAscending;

@@ -184,6 +184,24 @@ TEST_F(EditingTest, AnUndoFindsItsWayThroughASort) {
     EXPECT_EQ(Letters(), "bc");
 }
 
+TEST_F(EditingTest, WhatIsAskedForWhileTheSheetIsAtWorkIsPassedOver) {
+    WriteOrders();
+    ASSERT_TRUE(Open(Folder()));
+    Select({0});
+    Press(Qt::Key_Delete);
+    int asked = 0;
+    QObject::connect(&window_->sheet(), &VorlaneWidget::OnDisplayEnd, window_.get(), [&] {
+        if (asked++ == 0) Undo();  // as a key does that comes in between
+    });
+    Action("Taille").trigger();
+    EXPECT_GT(asked, 0);
+    EXPECT_EQ(Letters(), "bc");
+    EXPECT_EQ(window_->slides().undoStack().index(), 2);
+    Undo();
+    Undo();
+    EXPECT_EQ(Letters(), "abc");
+}
+
 TEST_F(EditingTest, AnotherFolderHasNoWayBackToTheFirst) {
     ASSERT_TRUE(OpenPictures("abc"));
     Select({0});
