@@ -4,7 +4,7 @@
 
 #include "platform/headless/userdrag.h"
 #include "tests/interaction/gesturefixture.h"
-#include "tests/sheet/tempfolder.h"
+#include "tests/platform/temporaryfolder.h"
 
 #include <functional>
 #include <string>
@@ -47,7 +47,7 @@ protected:
 
     // Pictures that are really there.
     std::string RealFile(const std::string& name) {
-        std::string path = folder.File(name, 1);
+        std::string path = folder.Sparse(name, 1);
         desktop.pictures.Add(path, 60, 40);
         return path;
     }
@@ -88,7 +88,7 @@ protected:
     // What the host heard of drags and failures.
     std::string Told() { return desktop.trace.Take({"ole", "drag"}); }
 
-    TempFolder folder;
+    TemporaryFolder folder;
     std::function<void(std::string&, bool&)> onBeforeStart;
     std::function<void(DataObject&, int32_t&)> onStart;
     std::function<void(bool&)> onBeforeDrop;

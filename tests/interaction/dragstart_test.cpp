@@ -45,13 +45,13 @@ TEST_F(DragTest, FilesOfAFileListAreDraggedWithoutKeys) {
     ShowDraggable(1);
     RealFile("a.jpg");
     RealFile("b.jpg");
-    sheet->InitListe(ListeModeType::lmFileList, nullptr, folder.Path(), "*.jpg");
+    sheet->InitListe(ListeModeType::lmFileList, nullptr, folder.WithSeparator(), "*.jpg");
     sheet->StartLecture();
     std::vector<std::string> files;
     onStart = [&](DataObject& data, int32_t&) { files = data.Files(); };
     Click(0);
     DragSlide(0, {});
-    EXPECT_THAT(files, ElementsAre(folder.Path() + "a.jpg"));
+    EXPECT_THAT(files, ElementsAre(folder.WithSeparator() + "a.jpg"));
 }
 
 TEST_F(DragTest, AFailingHostIsReportedWithTheDragsName) {

@@ -149,10 +149,10 @@ TEST_F(DragTest, FilesThatAreMissingOrFitNoPatternAreSkippedSilently) {
 
 TEST_F(DragTest, AFolderBringsItsFiles) {
     ShowDraggable(2);
-    std::filesystem::create_directories(folder.Path() + "album");
+    std::filesystem::create_directories(folder.WithSeparator() + "album");
     RealFile("album/a.jpg");
     const std::string last = RealFile("z.jpg");
-    UserDrag drag(desktop, Files({folder.Path() + "album", last}));
+    UserDrag drag(desktop, Files({folder.WithSeparator() + "album", last}));
     EXPECT_EQ(sheet->CountObject(nullptr), 0);
     DropOn(drag, 1, 0.2F);
     EXPECT_EQ(Names(), "000 a z 001");
@@ -161,13 +161,13 @@ TEST_F(DragTest, AFolderBringsItsFiles) {
 
 TEST_F(DragTest, CountingTellsFilesAndTheFilesOfFolders) {
     ShowDraggable(1);
-    std::filesystem::create_directories(folder.Path() + "album");
+    std::filesystem::create_directories(folder.WithSeparator() + "album");
     RealFile("album/a.jpg");
     RealFile("album/b.jpg");
     const std::string file = RealFile("c.jpg");
-    const DataObject files = Files({file, folder.Path() + "album", "/nowhere", file + "|9"});
+    const DataObject files = Files({file, folder.WithSeparator() + "album", "/nowhere", file + "|9"});
     EXPECT_EQ(sheet->CountObject(&files), 4);
-    const DataObject text = Text(file + "\r\n" + folder.Path() + "album\r\n\r\n" + file);
+    const DataObject text = Text(file + "\r\n" + folder.WithSeparator() + "album\r\n\r\n" + file);
     EXPECT_EQ(sheet->CountObject(&text), 3);
     const DataObject nothing;
     EXPECT_EQ(sheet->CountObject(&nothing), 0);
@@ -235,7 +235,7 @@ TEST_F(DragTest, InATextABarIsAPartOfThePath) {
 TEST_F(DragTest, AFileListTakesNoDropsAndOneAllTheSameIsAnError) {
     ShowDraggable(1);
     RealFile("a.jpg");
-    sheet->InitListe(ListeModeType::lmFileList, nullptr, folder.Path(), "*.jpg");
+    sheet->InitListe(ListeModeType::lmFileList, nullptr, folder.WithSeparator(), "*.jpg");
     sheet->StartLecture();
     UserDrag drag(desktop, Files({RealFile("x.jpg")}));
     Over(drag, 0, 0.2F);

@@ -1,7 +1,7 @@
 // Renaming in place, with real files in a folder of the test's own: Zebre.jpg, Yack.jpg and Xylo.jpg.
 #include "interaction/msgboxobject.h"
 #include "tests/interaction/gesturefixture.h"
-#include "tests/sheet/tempfolder.h"
+#include "tests/platform/temporaryfolder.h"
 
 #include <fstream>
 
@@ -53,9 +53,9 @@ protected:
         desktop.trace.Clear();
     }
 
-    std::string Path(const std::string& name) const { return folder.Path() + name; }
+    std::string Path(const std::string& name) const { return folder.WithSeparator() + name; }
     std::string Local(const std::string& path) const {
-        return path.rfind(folder.Path(), 0) == 0 ? path.substr(folder.Path().size()) : path;
+        return path.rfind(folder.WithSeparator(), 0) == 0 ? path.substr(folder.WithSeparator().size()) : path;
     }
     static bool Exists(const std::string& path) { return std::filesystem::exists(path); }
 
@@ -77,7 +77,7 @@ protected:
         EXPECT_EQ(sheet->Txt.Text(), text);
     }
 
-    TempFolder folder;
+    TemporaryFolder folder;
     bool refuseEdit = false;
     std::string ownMessage;
 };
@@ -334,7 +334,7 @@ TEST_F(RenameTest, ANameThatIsNoFileNameIsRefusedBeforeTheDiskIsTouched) {
         EXPECT_EQ(Messages(), Failed(typed, 52)) << typed;
         ExpectNothingRenamed(typed);
     }
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()), {}), 3);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.WithSeparator()), {}), 3);
 }
 
 TEST_F(RenameTest, AnOverlongNameIsRefused) {

@@ -1,6 +1,5 @@
 // The sound buttons of a sheet that shows nine slides; the host offers "/s/a.mp3", two seconds long.
 #include "tests/sheet/sheetfixture.h"
-#include "tests/sheet/tempfolder.h"
 
 namespace vorlane {
 namespace {
