@@ -9,7 +9,7 @@ namespace vorlane {
 
 namespace {
 
-constexpr int32_t kDesignWidth = 200;
+constexpr int32_t kDesignWidth = 240;  // enough for the message of a zoom in one line
 constexpr int32_t kDesignHeight = 40;
 constexpr int32_t kCorner = 15;
 constexpr int32_t kMargin = 30;

@@ -53,14 +53,14 @@ protected:
     std::function<void()> onGetWindowsPos;
 };
 
-// The picture stands at 9, 16.5 of the slide, 146 x 73: the wait window of 200 x 40 in its middle.
+// The picture stands at 9, 16.5 of the slide, 146 x 73: the wait window of 240 x 40 in its middle.
 TEST_F(ZoomTest, APressTellsToWaitOverThePictureAndThenShowsTheFileOverTheSlide) {
     Press();
     EXPECT_EQ(Happened(),
               "slide ZoomMouseDown 1 0 45,60\nslide GetWindowsPos\n"
-              "form 2 open\nform 2 content\nform 2 move 0,0 200x40\nform 2 region round 0,0,200,40 15x15\n"
-              "form 2 layered 165\nform 2 top\nform 2 move 982,532 200x40\nform 2 show\n"
-              "redraw 2 0,0,200,40 257\nyield\n"
+              "form 2 open\nform 2 content\nform 2 move 0,0 240x40\nform 2 region round 0,0,240,40 15x15\n"
+              "form 2 layered 165\nform 2 top\nform 2 move 962,532 240x40\nform 2 show\n"
+              "redraw 2 0,0,240,40 257\nyield\n"
               "pointer 11\nform 3 open\nform 3 content\nform 3 move 0,0 100x76\nform 3 top\nfilm /p/a.jpg\n"
               "pointer 0\nform 2 close\nslide GetWindowsPos\nform 3 move 1000,500 160x140\nform 3 show\n");
     EXPECT_TRUE(Zoomed().Visible());

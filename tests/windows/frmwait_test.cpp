@@ -53,13 +53,13 @@ TEST_F(WaitWindow, LoadsRoundedSeenThroughAndOnTop) {
     EXPECT_EQ(Joined(Steps()),
               "open\n"
               "content\n"
-              "move 0,0 200x40\n"
-              "region round 0,0,200,40 15x15\n"
+              "move 0,0 240x40\n"
+              "region round 0,0,240,40 15x15\n"
               "layered 165\n"
               "top\n");
     EXPECT_EQ(form.Fond().ForeColor(), FromSystem(SystemColor::ButtonText));
     EXPECT_EQ(form.Fond().CornerSize(), 15);
-    EXPECT_EQ(form.Fond().Bounds(), (Box{0, 0, 200, 40}));
+    EXPECT_EQ(form.Fond().Bounds(), (Box{0, 0, 240, 40}));
     EXPECT_FALSE(State().ColorKey.has_value());
 }
 
@@ -69,8 +69,8 @@ TEST_F(WaitWindow, CanBeShownByHand) {
     form.Show();
     form.Refresh();
     EXPECT_TRUE(form.Visible());
-    EXPECT_EQ(Place(), (WinRect{100, 100, 300, 140}));
-    EXPECT_EQ(desktop.trace.Take({"redraw"}), "redraw 1 0,0,200,40 257\n");
+    EXPECT_EQ(Place(), (WinRect{100, 100, 340, 140}));
+    EXPECT_EQ(desktop.trace.Take({"redraw"}), "redraw 1 0,0,240,40 257\n");
     form.Unload();
     EXPECT_FALSE(form.Visible());
 }
@@ -323,8 +323,8 @@ TEST_F(WaitWindow, TheNextOpeningLoadsItAgain) {
     EXPECT_EQ(Joined(Steps(), 0, 6),
               "open\n"
               "content\n"
-              "move 0,0 200x40\n"
-              "region round 0,0,200,40 15x15\n"
+              "move 0,0 240x40\n"
+              "region round 0,0,240,40 15x15\n"
               "layered 165\n"
               "top\n");
 }
