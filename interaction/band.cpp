@@ -1,8 +1,8 @@
 // The rubber band: it inverts the slides that it touches, back again when it leaves them, and scrolls the sheet while
 // the mouse is at a side. It scrolls one step for each move of the mouse.
 #include "interaction/autoscroll.h"
-#include "interaction/busy.h"
 #include "platform/numbers.h"
+#include "platform/withinblock.h"
 #include "sheet/vorlane.h"
 #include "windows/frmdrag.h"
 
@@ -58,7 +58,7 @@ bool Vorlane::ScrollByBand(float x, float y) {
                         VScroll.Value() < VScroll.Max()};
     const BandSide side = SideUnder(zone, Desktop().screen.CursorPos());
     if (side == BandSide::None) return false;
-    const Busy busy(band_.AutoScrolling);
+    const WithinBlock busy(band_.AutoScrolling);
     Attempt([&] { MoveAnchor(side); });
     UpdateBand(x, y, true);
     Attempt([&] { SelectAtSide(side); });

@@ -1,8 +1,8 @@
 // The mouse on a slide: what a press, a move and a release do to the selection and to the current slide, and when a
 // drag starts. A failure leaves its part of the work undone, silently; the host's event is raised in any case.
-#include "interaction/busy.h"
 #include "platform/numbers.h"
 #include "platform/scale.h"
+#include "platform/withinblock.h"
 #include "sheet/slidemember.h"
 #include "sheet/vorlane.h"
 #include "windows/frmdrag.h"
@@ -66,7 +66,7 @@ void Vorlane::RaiseFrom(const eDiapoLight& slide, const MouseEvent& event, int16
 void Vorlane::SlideMouseDown(int16_t index, int16_t button, int16_t shift, float x, float y) {
     Attempt([&] { DropEdit(); });
     if (mouse_.InMouseDown) return;
-    const Busy busy(mouse_.InMouseDown);
+    const WithinBlock busy(mouse_.InMouseDown);
     const auto slide = Diapo.Item(index);
     Attempt([&] { PressOn(index, button, x, y); });
     Desktop().clock.DoEvents();

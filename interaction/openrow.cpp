@@ -1,8 +1,8 @@
 // The row under a drag: it opens step by step, the hovered slide gives way, and all go home again. The insertion mark
 // stands in the gap. Failures are ignored, statement by statement.
-#include "interaction/busy.h"
 #include "interaction/droprow.h"
 #include "platform/numbers.h"
+#include "platform/withinblock.h"
 #include "sheet/vorlane.h"
 
 #include <algorithm>
@@ -67,7 +67,7 @@ void Vorlane::OpenRowAt(int16_t index, bool rightPart, bool force) {
     drag_.OpenRow = RowOf(slide);
     const droprow::Range range = SlidesOfRow(drag_.OpenRow);
     if (range.First == range.Last) return;
-    const Busy busy(drag_.BusyShifting);
+    const WithinBlock busy(drag_.BusyShifting);
     if (Shift(range, static_cast<size_t>(slide - range.First + (rightPart ? 1 : 0)))) PlaceMark(slide, rightPart);
 }
 
