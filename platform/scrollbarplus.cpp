@@ -1,6 +1,9 @@
 #include "platform/scrollbarplus.h"
 
+#include "platform/numbers.h"
+
 #include <algorithm>
+#include <cmath>
 
 namespace vorlane {
 
@@ -47,6 +50,15 @@ void ScrollbarPlus::DragThumb(int32_t value) {
 
 void ScrollbarPlus::DropThumb(int32_t value) {
     SetValue(ThumbRest(value));
+}
+
+bool ScrollbarPlus::Wheel(double notches) {
+    if (!Visible() || !Enabled()) return false;
+    double whole = 0;
+    wheelRest_ = std::modf(wheelRest_ + notches, &whole);
+    const double wanted = value_ - whole * smallChange_;
+    SetValue(ToInt32(std::clamp<double>(wanted, min_, max_)));
+    return true;
 }
 
 // The nearest of the places where the thumb rests, the lower one of two as near.

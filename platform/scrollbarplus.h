@@ -40,6 +40,9 @@ public:
     void DragThumb(int32_t value);
     void DropThumb(int32_t value);
 
+    // Moves the value by SmallChange for each whole notch; what is left of a notch counts for the next turn. A bar that
+    // is hidden or disabled does not use the turn.
+    bool Wheel(double notches) override;
     void Accept(ControlVisitor& visitor) const override { visitor.Visit(*this); }
 
     Event<int32_t> Change;  // the new value
@@ -54,6 +57,7 @@ private:
     int32_t value_ = 0;
     int32_t smallChange_ = 1;
     int32_t largeChange_ = 1;
+    double wheelRest_ = 0;  // notches that do not make a whole one yet
     vorlane::Orientation orientation_ = vorlane::Orientation::Vertical;
 };
 

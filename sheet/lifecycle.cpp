@@ -1,7 +1,6 @@
 // The sheet from its making to its end.
 #include "sheet/vorlane.h"
 
-#include <cmath>
 #include <vector>
 
 namespace vorlane {
@@ -120,12 +119,7 @@ void Vorlane::Warn(std::string_view text) const {
 }
 
 bool Vorlane::Wheel(double notches) {
-    if (!VScroll.Visible()) return false;
-    double whole = 0;
-    bar_.WheelRest = std::modf(bar_.WheelRest + notches, &whole);
-    const double wanted = VScroll.Value() - whole * VScroll.SmallChange();
-    VScroll.SetValue(ToInt32(Min(Max(wanted, VScroll.Min()), VScroll.Max())));
-    return true;
+    return VScroll.Wheel(notches);
 }
 
 }  // namespace vorlane

@@ -55,7 +55,6 @@ struct Bar {
     int32_t ScrollValue = 0;        // bar value last acted on
     bool InVScrollInit = false;     // the bar is being set up: its changes are no scrolls
     bool JumpNext = false;          // the next change of the bar fills anew, however small it is
-    double WheelRest = 0;           // notches that do not make a whole one yet
     bool ScrollBarDown = false;     // the left button went down on the bar
     bool ScrollWindowOpen = false;  // the follow window was shown for this drag of the thumb
 };

@@ -123,6 +123,29 @@ TEST_F(ScrollbarPlusTest, AHandlerOfChangeMaySetTheBarAgain) {
     EXPECT_EQ(log, "change 3 change 4 ");
 }
 
+TEST_F(ScrollbarPlusTest, AWheelTurnMovesItByWholeStepsWithinItsRange) {
+    bar.SetMax(10);
+    bar.SetSmallChange(3);
+    EXPECT_TRUE(bar.Wheel(-1));
+    EXPECT_TRUE(bar.Wheel(-1.5));
+    EXPECT_EQ(bar.Value(), 6);
+    EXPECT_TRUE(bar.Wheel(-0.5));
+    EXPECT_TRUE(bar.Wheel(-1e12));
+    EXPECT_TRUE(bar.Wheel(1));
+    EXPECT_TRUE(bar.Wheel(1e12));
+    EXPECT_EQ(log, "change 3 change 6 change 9 change 10 change 7 change 0 ");
+}
+
+TEST_F(ScrollbarPlusTest, AHiddenOrDisabledBarLeavesTheWheelToOthers) {
+    bar.SetMax(10);
+    bar.SetVisible(false);
+    EXPECT_FALSE(bar.Wheel(-1));
+    bar.SetVisible(true);
+    bar.SetEnabled(false);
+    EXPECT_FALSE(bar.Wheel(-1));
+    EXPECT_EQ(log, "");
+}
+
 // --- TextBox ---
 
 class TextBoxTest : public testing::Test {
