@@ -22,8 +22,7 @@ VorlaneWidget::VorlaneWidget(QtDesktop& desktop, QWidget* parent)
     ConnectEvents();
     ConnectScrolling();
     ConnectPictures();
-    ConnectMouse();
-    ConnectKeys();
+    ConnectHand();
 }
 
 VorlaneWidget::~VorlaneWidget() {

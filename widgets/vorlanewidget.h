@@ -12,7 +12,6 @@
 #include "widgets/vorlanelist.h"
 
 #include <optional>
-#include <vector>
 
 #include <QByteArray>
 #include <QColor>
@@ -232,6 +231,14 @@ public:
     static QString SepSortArg();
     static QString SepSortWithData();
 
+    // --- Selection ---
+    int CountSelected() const;
+    // List indices of the selected items, ascending.
+    QList<int> SelectedTableau() const;
+    int CurrentDiapo() const;
+    bool Selected(int index) const;
+    void SetSelected(int index, bool selected);
+
     // --- State ---
     int Count() const;
     int CountDiapo() const;
@@ -247,18 +254,6 @@ public:
     // The list index that a slide shows, -1 for none; and where it lies, empty for a slide that isn't shown.
     int Value(int index) const;
     QRectF DiapoRect(int index) const;
-
-    // --- Selection ---
-    void SelectAll();
-    void SelectInvert();
-    void SelectedClear(int exceptedIndex = -1);
-    int CountSelected() const;
-    // List indices, ascending.
-    std::vector<int> SelectedTableau() const;
-    int CurrentDiapo() const;
-    void SetCurrentDiapo(int index);
-    bool Selected(int index) const;
-    void SetSelected(int index, bool selected);
 
     // --- Items ---
     int Add(const QString& imageName, const QString& multipleDataSort = {}, int key = -1, int insertBefore = -1);
@@ -283,6 +278,11 @@ public:
     QImage Thumb(const QImage& picture, int resolution = -1) const;
 
 public Q_SLOTS:
+    void SelectAll();
+    void SelectInvert();
+    void SelectedClear(int exceptedIndex = -1);
+    // Plays a click on the slide.
+    void SetCurrentDiapo(int index);
     void Clear();
     void Refresh();
     // Starts the sheet with its present properties, as a saved one starts: what it takes over once at its start, as the
@@ -308,17 +308,16 @@ Q_SIGNALS:
     void OnSorted();
     void OnTraitementFeedBack(int value, int max);
     void OnOLENewFileAdded(const QString& fileName, int* key, bool* cancel);
-    // Places are the widget's.
-    void OnMouseDown(int button, int shift, const QPointF& place);
-    void OnMouseMove(int button, int shift, const QPointF& place);
-    void OnMouseUp(int button, int shift, const QPointF& place);
+    // Places are pixels of the widget.
+    void OnMouseDown(int button, int shift, double x, double y);
+    void OnMouseMove(int button, int shift, double x, double y);
+    void OnMouseUp(int button, int shift, double x, double y);
     void OnMouseEnter(int index);
     void OnMouseExit(int index);
-    void OnClick(int index, const QString& fileName, int button);
-    void OnDblClick(int index, const QString& fileName, int button);
+    void OnClick(int index, const QImage& picture, const QString& fileName, int button);
+    void OnDblClick(int index, const QImage& picture, const QString& fileName, int button);
     void OnBackgroundClick(int button);
     void OnBackgroundDblClick(int button);
-    // Key codes are the sheet's. A held key is told once.
     void OnKeyDown(int* keyCode, int shift);
     void OnKeyPress(int* keyAscii);
     void OnKeyUp(int* keyCode, int shift);
@@ -327,6 +326,7 @@ Q_SIGNALS:
 
 protected:
     void connectNotify(const QMetaMethod& signal) override;
+    void disconnectNotify(const QMetaMethod& signal) override;
 
 private:
     // Runs an operation of the sheet; its failure raises OnError.
@@ -343,12 +343,11 @@ private:
     void ConnectEvents();
     void ConnectScrolling();
     void ConnectPictures();
-    void ConnectMouse();
-    void ConnectKeys();
+    void ConnectHand();
 
     Vorlane& sheet_;
     mutable PendingError pending_;
-    bool feedBackHeard_ = false;
+    ScopedConnection feedBack_;  // while somebody listens to OnTraitementFeedBack
 };
 
 }  // namespace vorlane
