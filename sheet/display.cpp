@@ -23,6 +23,18 @@ private:
     eDiapoLight& slide_;
 };
 
+// Counts what is under way while it lives.
+class Counted {
+public:
+    explicit Counted(int32_t& count) : count_(count) { ++count_; }
+    ~Counted() { --count_; }
+    Counted(const Counted&) = delete;
+    Counted& operator=(const Counted&) = delete;
+
+private:
+    int32_t& count_;
+};
+
 }  // namespace
 
 // --- Where to start ---
@@ -96,8 +108,11 @@ bool Vorlane::Lect(int32_t start, int16_t slot, int16_t count) {
         VScroll.SetVisible(ListCount() > pool - RowLength());
         pass_.FirstListIndex = start;
         pass_.FirstSlot = ToInt16(Max(slot, 0));
+        const int32_t number = ++pass_.Fills;
         Fill fill{start, slot, count, pool, pass_.FirstSlot};
         const bool complete = RunFill(fill);
+        if (number == pass_.Fills) pass_.Unfinished = !complete && pool != CountDiapo();
+        if (pass_.Unfinished && HasSlides()) TimerResize.SetEnabled(true);
         Events.DisplayEnd();
         return complete;
     };
@@ -107,13 +122,14 @@ bool Vorlane::Lect(int32_t start, int16_t slot, int16_t count) {
 // A stopped pass leaves the gauge where it is: a newer pass owns it.
 bool Vorlane::RunFill(Fill& fill) {
     const Hourglass hourglass(Desktop().screen);
+    const Counted running(pass_.Running);
     ShowGauge(true);
     if (!MayGoOn(fill)) return false;
     const int32_t listEnd = ToInt32(Min(ListCount() - 1, int64_t{fill.Start} + fill.Pool - 1));
     Jauge.SetMax(fill.Count > -1 ? fill.Start + fill.Count - 1 : listEnd);
     Jauge.SetMin(fill.Start);
     Events.DisplayStart();
-    return FillSlots(fill);
+    return MayGoOn(fill) && FillSlots(fill);
 }
 
 bool Vorlane::MayGoOn(const Fill& fill) const {
@@ -282,6 +298,7 @@ bool Vorlane::SetDiapoImage(int16_t slot, const std::string& imageName, int32_t 
 bool Vorlane::SetDiapoPicture(int16_t slot, const std::string& imageName) {
     if (Diapo.Item(slot)->ImageFullPath() == eDiapoLight::KnownPath(imageName)) return true;
     const int32_t item = Diapo.Item(slot)->Value();
+    const int32_t fills = pass_.Fills;
     vorlane::Picture picture;
     bool haveSound = false;
     bool haveComment = false;
@@ -290,6 +307,7 @@ bool Vorlane::SetDiapoPicture(int16_t slot, const std::string& imageName) {
     bool invalidCom = false;
     Events.BeforeSetPicture(slot, imageName, picture, haveSound, haveComment, haveTexte, invalidMusic, invalidCom);
     if (!Diapo.Loaded(slot) || Diapo.Item(slot)->Value() != item) return false;
+    if (fills != pass_.Fills && ItemShownBy(*Diapo.Item(slot))) return false;  // a newer fill's slide
     const auto slide = Diapo.Item(slot);
     slide->SetOnGetThumb(true);
     slide->SetHaveInvalidMusic(invalidMusic);

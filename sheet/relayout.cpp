@@ -52,8 +52,8 @@ void Vorlane::ResizeTick() {
 
 void Vorlane::UnloadTick() {
     if (layout_.Resizing) return;
+    TimerUnload.SetEnabled(false);  // first: a layout at the yield may want it again
     UnloadExtraDiapos();
-    TimerUnload.SetEnabled(false);
 }
 
 void Vorlane::UnloadExtraDiapos() {
@@ -111,7 +111,7 @@ bool Vorlane::PlaceDiapos(int16_t wanted, float token, int16_t newWidth, int16_t
     Attempt([&] { complete = PlaceAll(placement); });
     First().SetNoResize(false);  // also when it was stopped
     pass_.StopLect = pass_.StopLect || stoppedBefore;
-    if (complete && placement.AtEnd) FollowBar();
+    if (complete && (placement.AtEnd || pass_.Unfinished)) FollowBar();
     return complete;
 }
 
@@ -119,6 +119,7 @@ bool Vorlane::PlaceAll(Placement& placement) {
     if (placement.Wanted > Diapo.Count() && Diapo.Count() < ListCount()) ShowGauge(true);
     Jauge.SetMax(ToInt32(Min(ListCount() - 1, placement.Wanted) + 1));
     Events.DisplayStart();
+    if (!MayGoOn(placement)) return false;
     for (int16_t i = 0; i < placement.Wanted; ++i) {
         Jauge.SetValue(i);
         const Placed placed = PlaceSlot(i, placement);
@@ -144,7 +145,7 @@ bool Vorlane::MayGoOn(const Placement& placement) const {
 sheet::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
     std::string name;
     if (Diapo.Loaded(slot)) {
-        name = NameOn(*Diapo.Item(slot));
+        name = ItemShownBy(*Diapo.Item(slot)).value_or(Diapo.Item(slot)->ImageFullPath());
     } else {
         const Placed made = MakeMissing(slot, name);
         if (made != Placed::Yes) return made;
@@ -169,12 +170,12 @@ sheet::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
     return Placed::Yes;
 }
 
-// The file of a slide as its item spells it; a slide that shows another file, or none, tells its own.
-std::string Vorlane::NameOn(const eDiapoLight& slide) const {
+// The file of a slide's item, as that spells it, where the slide shows it.
+std::optional<std::string> Vorlane::ItemShownBy(const eDiapoLight& slide) const {
     const int32_t item = slide.Value();
-    if (item < 0 || item >= ListCount()) return slide.ImageFullPath();
+    if (item < 0 || item >= ListCount()) return std::nullopt;
     const std::string name = ItemFullPath(item);
-    return eDiapoLight::KnownPath(name) == slide.ImageFullPath() ? name : slide.ImageFullPath();
+    return eDiapoLight::KnownPath(name) == slide.ImageFullPath() ? std::optional(name) : std::nullopt;
 }
 
 // Loads a slide for the item behind the last slide's, at run time; in a designer for nothing, if the host allows it.

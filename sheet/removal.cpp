@@ -63,7 +63,7 @@ void Vorlane::Remove(int16_t index) {
         const int32_t next = Last()->Value() + 1;
         Renumber(item);
         const bool closes = Diapo.Loaded(index) && Diapo.Item(index)->Value() == item;
-        if (closes && CloseUp(index)) {
+        if (closes && pass_.Running == 0 && CloseUp(index)) {
             RefillEnd(next);
         } else if (First().Value() >= 0) {
             FillFrom(ToInt32(Min(VScroll.Value(), ListCount() - 1)));

@@ -5,8 +5,26 @@
 #include "sheet/vorlane.h"
 
 #include <cstdlib>
+#include <utility>
 
 namespace vorlane {
+
+namespace {
+
+// Sets a flag while it lives.
+class Within {
+public:
+    explicit Within(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
+    ~Within() { flag_ = before_; }
+    Within(const Within&) = delete;
+    Within& operator=(const Within&) = delete;
+
+private:
+    bool& flag_;
+    bool before_;
+};
+
+}  // namespace
 
 // The last value shows the list's end in the rows that fit, with the extra row empty. After a failure the bar stays
 // dead until this succeeds.
@@ -31,7 +49,9 @@ void Vorlane::InitVScroll(bool reset) {
 void Vorlane::BarChanged(int32_t value) {
     const auto change = [&] {
         if (bar_.InVScrollInit) return;
-        const bool jump = std::exchange(bar_.JumpNext, false);
+        // Half a fill is nothing to copy looks from.
+        const bool jump = std::exchange(bar_.JumpNext, false) || bar_.Changing || pass_.Running > 0;
+        const Within changing(bar_.Changing);
         if (!jump && value == bar_.ScrollValue) return;
         const int64_t distance = int64_t{value} - bar_.ScrollValue;
         MoveCurrentSlot(distance);
@@ -66,7 +86,7 @@ bool Vorlane::IsWholeRow(int64_t distance) const {
 // Shows what the bar stands for, where a layout has left the slides behind it.
 void Vorlane::FollowBar() {
     const int32_t shown = First().Value();
-    if (shown < 0 || shown == VScroll.Value()) return;
+    if (!pass_.Unfinished && (shown < 0 || shown == VScroll.Value())) return;
     if (StartLect(VScroll.Value(), -1, -1)) bar_.ScrollValue = VScroll.Value();
 }
 

@@ -45,6 +45,9 @@ struct Pass {
     int16_t FirstSlot = 0;       // and the slide that it begins at
     float LectToken = 0;         // mark of the last started fill or layout
     bool StopLect = false;       // a running fill or layout has to stop
+    int32_t Fills = 0;           // counts the fills that were started
+    int32_t Running = 0;         // fills under way, one inside another
+    bool Unfinished = false;     // the newest fill was stopped by another grid: slides may show what stood before
 };
 
 struct Bar {
@@ -54,6 +57,7 @@ struct Bar {
     OLE_COLOR ScrollWindowBackColor = 0;
     int32_t ScrollValue = 0;        // bar value last acted on
     bool InVScrollInit = false;     // the bar is being set up: its changes are no scrolls
+    bool Changing = false;          // a change of the bar is being acted on
     bool JumpNext = false;          // the next change of the bar fills anew, however small it is
     bool ScrollBarDown = false;     // the left button went down on the bar
     bool ScrollWindowOpen = false;  // the follow window was shown for this drag of the thumb

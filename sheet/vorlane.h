@@ -654,7 +654,7 @@ private:
     float FreshToken();
     bool PlaceDiapos(int16_t wanted, float token, int16_t newWidth, int16_t newHeight);
     void HideFrom(int32_t first);
-    std::string NameOn(const eDiapoLight& slide) const;
+    std::optional<std::string> ItemShownBy(const eDiapoLight& slide) const;
     bool PlaceAll(Placement& placement);
     Placed PlaceSlot(int16_t slot, Placement& placement);
     Placed MakeMissing(int16_t slot, std::string& name);

@@ -224,12 +224,13 @@ TEST_F(ReentranceTest, AStartElsewhereInBeforeSetPictureStopsTheOlderFillBehindI
     ExpectAtRest();
 }
 
-TEST_F(ReentranceTest, AStartInDisplayStartStopsTheOlderFillAtItsFirstSlide) {
+TEST_F(ReentranceTest, AStartInDisplayStartStopsTheOlderFillBeforeItsFirstSlide) {
     Show(40);
     onDisplayStart = Once([this] { sheet->StartLecture("", 1005); });
     sheet->StartLecture();
-    EXPECT_EQ(sheet->Diapo.Item(1)->Value(), 6);
-    EXPECT_THAT(Heard(), testing::EndsWith("host Added 0 000.jpg\nhost DisplayEnd\n"));
+    EXPECT_EQ(Slides(), "5 6 7 8 9 10 11 12 13");
+    EXPECT_THAT(Heard(),
+                testing::EndsWith("host Added 8 013.jpg\nhost DisplayEnd\nhost Scroll 5 from 0\nhost DisplayEnd\n"));
 }
 
 TEST_F(ReentranceTest, RefreshInDisplayEndShowsAHostsListAnew) {

@@ -66,7 +66,7 @@ TEST_F(VorlaneWidgetTest, ADamagedTextChangesNothingAndIsReported) {
     EXPECT_FALSE(widget.RestoreProperties("{\"Marges\": 12,"));
     EXPECT_EQ(widget.Marges(), 33);
     EXPECT_TRUE(errors.contains("VorlaneWidget RestoreProperties"));
-    EXPECT_TRUE(errors.contains("ligne 1, colonne 16"));
+    EXPECT_TRUE(errors.contains("ligne 1, colonne 15"));
 }
 
 TEST_F(VorlaneWidgetTest, AValueThatTheSheetCannotHoldIsPassedOver) {
