@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <string>
 #include <variant>
 
@@ -133,22 +134,33 @@ BENCHMARK(SoundOfASlide)->Arg(100)->Arg(kLongShow);
 void RemoveAllSounds(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
-        Bench bench(10, kLongWidth, static_cast<int32_t>(state.range(0)), 0);
+        auto bench = std::make_unique<Bench>(10, kLongWidth, static_cast<int32_t>(state.range(0)), 0);
         state.ResumeTiming();
-        for (int32_t n = 0; n < state.range(0); ++n) bench.line.Musiques()->Remove(1000 + n);
+        for (int32_t n = 0; n < state.range(0); ++n) bench->line.Musiques()->Remove(1000 + n);
         state.PauseTiming();
+        bench.reset();
+        state.ResumeTiming();
     }
 }
 BENCHMARK(RemoveAllSounds)->Arg(100)->Arg(kLongShow)->Unit(benchmark::kMillisecond)->Iterations(3);
 
-// Asks for the slides' numbers as often as the sounds' contract says: half the square of their count.
 void SortSounds(benchmark::State& state) {
     const auto count = static_cast<int32_t>(state.range(0));
     Bench bench(count, kLongWidth, count, 0);
     for (auto _ : state) bench.line.Musiques()->Sort();
-    state.counters["questions"] = static_cast<double>(count) * (count + 1) / 2;
 }
-BENCHMARK(SortSounds)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(SortSounds)->Arg(100)->Arg(kLongShow)->Unit(benchmark::kMillisecond);
+
+// The same with a host that hears the questions: half the square of the sounds' count.
+void SortSoundsHeard(benchmark::State& state) {
+    const auto count = static_cast<int32_t>(state.range(0));
+    Bench bench(count, kLongWidth, count, 0);
+    int64_t questions = 0;
+    bench.line.Musiques()->Events.csGetNumDiapo.connect([&](int32_t, int32_t&) { ++questions; });
+    for (auto _ : state) bench.line.Musiques()->Sort();
+    state.counters["questions"] = static_cast<double>(questions) / static_cast<double>(state.iterations());
+}
+BENCHMARK(SortSoundsHeard)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -2,7 +2,9 @@
 
 #include "platform/failure.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace vorlane {
 
@@ -17,6 +19,7 @@ std::string KeyText(int32_t diapoKey) {
 // --- What the owner answers ---
 
 int32_t ClsSon::NumDiapo(int32_t key) {
+    if (answer_) numDiapo_ = answer_(key);
     Events.csGetNumDiapo(key, numDiapo_);
     return numDiapo_;
 }
@@ -70,9 +73,32 @@ std::optional<int32_t> ClsSon::FirstBehind(int32_t diapoKey, int32_t diapoValue)
 
 void ClsSon::Sort() {
     const auto old = std::exchange(sounds_, std::make_shared<SonCollection>());
-    for (const tSon& son : Enumerator(old)) {
+    const bool heard = !answer_ || Events.csGetNumDiapo.connected();
+    heard ? SortByEvents(*old) : SortByAnswers(*old);
+}
+
+void ClsSon::SortByEvents(const SonCollection& old) {
+    for (int32_t i = 1; i <= old.Count(); ++i) {
+        const tSon son = old.Item(i);
         const int32_t number = NumDiapo(son.DiapoKey);
         if (number >= 0) Place(son, number);
+    }
+}
+
+// The same order and the same end at a failure: each sound goes behind those whose numbers are not above its own.
+void ClsSon::SortByAnswers(const SonCollection& old) {
+    std::vector<int32_t> numbers;
+    for (int32_t i = 1; i <= old.Count(); ++i) {
+        const tSon& son = old.Item(i);
+        const int32_t number = NumDiapo(son.DiapoKey);
+        if (number < 0) continue;
+        const auto behind = std::upper_bound(numbers.begin(), numbers.end(), number);
+        if (behind == numbers.end()) {
+            sounds_->Add(son, KeyText(son.DiapoKey));
+        } else {
+            sounds_->Add(son, KeyText(son.DiapoKey), static_cast<int32_t>(behind - numbers.begin()) + 1);
+        }
+        numbers.insert(behind, number);
     }
 }
 

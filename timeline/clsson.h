@@ -2,7 +2,8 @@
 // nothing of a sheet nor of a screen: it asks its owner through events where a slide stands and whether the display
 // follows, and the owner answers before the event returns. What the owner leaves unanswered keeps the last answer.
 //
-// Add and Sort ask for the numbers of slides at each step of their scans, so the owner's answers should be quick.
+// Add and Sort ask for the numbers of slides at each step of their scans. A sort whose questions only the owner
+// answers, by AnswerNumDiapo, comes to the same order with one question for each sound.
 #pragma once
 
 #include "platform/event.h"
@@ -11,6 +12,7 @@
 #include "timeline/tson.h"
 
 #include <cstdint>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <optional>
@@ -88,17 +90,22 @@ public:
     // The list itself. Clear and Sort leave it to its holders and begin another one.
     const std::shared_ptr<SonCollection>& CollectItem() const { return sounds_; }
     void SetTypeSon(int32_t type) { typeSon_ = type; }
+    // The owner's own answer to csGetNumDiapo, ahead of the event's handlers. It must not change the list.
+    void AnswerNumDiapo(std::function<int32_t(int32_t key)> answer) { answer_ = std::move(answer); }
 
     ClsSonEvents Events;
 
 private:
     int32_t NumDiapo(int32_t key);
+    void SortByEvents(const SonCollection& old);
+    void SortByAnswers(const SonCollection& old);
     void Place(const tSon& son, int32_t diapoValue);
     std::optional<int32_t> FirstBehind(int32_t diapoKey, int32_t diapoValue);
     void FollowDisplay();
 
     Trelmic6 utilities_;
     std::shared_ptr<SonCollection> sounds_ = std::make_shared<SonCollection>();
+    std::function<int32_t(int32_t key)> answer_;
     int32_t typeSon_ = 0;
     bool redraw_ = false;  // last answers of the owner
     int32_t numDiapo_ = 0;

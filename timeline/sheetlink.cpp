@@ -21,14 +21,14 @@ constexpr eMnuTimeLineID kCommands[] = {emnutlPreviousSound, emnutlPreviousMusic
 
 void eTimeLine::Follow(Row& row, SonType type, std::shared_ptr<ClsSon> sounds) {
     row.Heard.clear();
+    if (row.Sounds) row.Sounds->AnswerNumDiapo({});
     row.Sounds = std::move(sounds);
     if (!row.Sounds) return;
     ClsSonEvents& events = row.Sounds->Events;
     row.Heard.emplace_back(events.csGetDiapoIndex.connect([this](int32_t key, int16_t& diapoIndex) {
         diapoIndex = link_.Sheet == nullptr ? int16_t{-1} : link_.Sheet->GetIndexFromKey(key);
     }));
-    row.Heard.emplace_back(
-        events.csGetNumDiapo.connect([this](int32_t key, int32_t& numDiapo) { numDiapo = PositionOf(key); }));
+    row.Sounds->AnswerNumDiapo([this](int32_t key) { return PositionOf(key); });
     row.Heard.emplace_back(events.csGetRedraw.connect([this](bool& redraw) { redraw = redraw_; }));
     row.Heard.emplace_back(events.csRemoveSound.connect(
         [this, type](int32_t key, int16_t diapoIndex) { Events.RemovedSound(type, key, diapoIndex); }));

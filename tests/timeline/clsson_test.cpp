@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <map>
+#include <random>
 
 namespace vorlane {
 namespace {
@@ -46,9 +47,10 @@ protected:
         numbers[key] = number;
         sounds.Add(File(name), key);
     }
-    std::string Keys() const {
+    std::string Keys() const { return Keys(sounds); }
+    static std::string Keys(const ClsSon& list) {
         std::string text;
-        for (const tSon& son : sounds.NewEnum()) text += (text.empty() ? "" : " ") + std::to_string(son.DiapoKey);
+        for (const tSon& son : list.NewEnum()) text += (text.empty() ? "" : " ") + std::to_string(son.DiapoKey);
         return text;
     }
 
@@ -191,6 +193,44 @@ TEST_F(ClsSonTest, SortKeepsTheOldOrderOfSlidesWithTheSameNumber) {
     numbers = {{1, 7}, {2, 7}, {3, 4}, {4, 7}, {5, 4}};
     sounds.Sort();
     EXPECT_EQ(Keys(), "3 5 1 2 4");
+}
+
+// Against the scan that asks at each step, which an owner without a quick answer gets.
+TEST_F(ClsSonTest, ASortByQuickAnswersGivesTheOrderOfTheScan) {
+    std::mt19937 random(4);
+    for (int round = 0; round < 200; ++round) {
+        ClsSon scanned{desktop.Roles()};
+        ClsSon quick{desktop.Roles()};
+        const auto number = [&](int32_t key) { return numbers.at(key); };
+        int32_t questions = 0;
+        scanned.Events.csGetNumDiapo.connect([&](int32_t key, int32_t& answer) { answer = number(key); });
+        quick.AnswerNumDiapo([&](int32_t key) {
+            ++questions;
+            return number(key);
+        });
+        const auto count = static_cast<int32_t>(random() % 20);
+        for (int32_t key = 0; key < count; ++key) {
+            numbers[key] = 0;
+            for (ClsSon* list : {&scanned, &quick}) list->Add(File(), key);
+        }
+        for (int32_t key = 0; key < count; ++key) numbers[key] = static_cast<int32_t>(random() % 8) - 1;
+        questions = 0;
+        scanned.Sort();
+        quick.Sort();
+        EXPECT_EQ(questions, count);
+        ASSERT_EQ(Keys(quick), Keys(scanned));
+    }
+}
+
+TEST_F(ClsSonTest, AQuickAnswerComesAheadOfTheHandlersAndTheyAreStillAskedAtEachStep) {
+    Put(1, 1);
+    Put(2, 2);
+    sounds.AnswerNumDiapo([](int32_t key) { return 100 - key; });
+    sounds.Events.csGetNumDiapo.connect([](int32_t key, int32_t& number) { number = 100 - key; });
+    Heard();
+    sounds.Sort();
+    EXPECT_EQ(Keys(), "2 1");
+    EXPECT_EQ(Heard(), "son number of 1: 1\nson number of 2: 2\nson number of 1: 1\n");
 }
 
 TEST_F(ClsSonTest, AFailureOfTheOwnerReachesTheCallerOfSort) {

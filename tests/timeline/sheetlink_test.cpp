@@ -113,6 +113,16 @@ TEST_F(SheetLinkTest, AfterSortedASoundOfASlideThatLeftIsDropped) {
     EXPECT_EQ(Heard(), "") << "and nothing tells of it";
 }
 
+TEST_F(SheetLinkTest, AHostThatListensIsAskedAtEachStepOfASort) {
+    Start();
+    for (const int32_t n : {1, 2, 3}) Music(n, 2);
+    std::string asked;
+    line->Musiques()->Events.csGetNumDiapo.connect(
+        [&](int32_t key, int32_t& number) { asked += std::to_string(key) + ":" + std::to_string(number) + " "; });
+    line->Musiques()->Sort();
+    EXPECT_EQ(asked, "101:1 102:2 101:1 103:3 101:1 102:2 ");
+}
+
 TEST_F(SheetLinkTest, ARealSortOfTheSheetMovesTheBars) {
     Start();
     sheet.SetSorted(true);
