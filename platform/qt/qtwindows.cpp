@@ -87,12 +87,12 @@ void QtWindows::RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) {
 void QtWindows::SetWindowRgn(Hwnd window, const Region& region, bool redraw) {
     QWidget* widget = WidgetOf(window);
     if (widget == nullptr) return;
-    const QRegion shape = ToQRegion(region);
+    QRegion shape = ToQRegion(region);
+    if (shape.isEmpty()) shape = QRegion(-1, -1, 1, 1);  // an empty mask would mean the whole window
     if (shape == QRegion(widget->rect())) {
         if (!widget->mask().isEmpty()) widget->clearMask();
     } else if (shape != widget->mask()) {
-        // An empty mask would mean the whole window.
-        widget->setMask(shape.isEmpty() ? QRegion(-1, -1, 1, 1) : shape);
+        widget->setMask(shape);
     }
     if (redraw) widget->update();
 }
