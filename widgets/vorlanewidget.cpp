@@ -23,6 +23,7 @@ VorlaneWidget::VorlaneWidget(QtDesktop& desktop, QWidget* parent)
     ConnectScrolling();
     ConnectPictures();
     ConnectHand();
+    ConnectDrags();
 }
 
 VorlaneWidget::~VorlaneWidget() {
@@ -54,9 +55,6 @@ void VorlaneWidget::ConnectEvents() {
     events.Removed.connect([this](int16_t index, int32_t& key) { Q_EMIT OnRemoved(index, &key); });
     events.TLRefresh.connect([this] { Q_EMIT OnTLRefresh(); });
     events.Sorted.connect([this] { Q_EMIT OnSorted(); });
-    events.OLENewFileAdded.connect([this](const std::string& fileName, int32_t& key, bool& cancel) {
-        Q_EMIT OnOLENewFileAdded(FromText(fileName), &key, &cancel);
-    });
     events.Error.connect([this](int32_t number, const std::string& description, const std::string& source,
                                 int32_t lastDllError, const std::string& valeur) {
         Q_EMIT OnError(number, FromText(description), FromText(source), lastDllError, FromText(valeur));

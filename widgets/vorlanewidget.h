@@ -6,6 +6,7 @@
 // member throws: what the sheet refuses leaves it as it was, gives 0, false or -1, and raises OnError.
 #pragma once
 
+#include "platform/dataobject.h"
 #include "platform/failure.h"
 #include "platform/qt/controlhost.h"
 #include "widgets/enums.h"
@@ -277,12 +278,20 @@ public:
     // A reduced copy, as the first slide makes it; null when it can't be made.
     QImage Thumb(const QImage& picture, int resolution = -1) const;
 
+    // --- Drags ---
+    // How many files dragged data brings, those of its folders included.
+    int CountObject(const DataObject* dragged);
+
 public Q_SLOTS:
     void SelectAll();
     void SelectInvert();
     void SelectedClear(int exceptedIndex = -1);
     // Plays a click on the slide.
     void SetCurrentDiapo(int index);
+    // Lets the user drag from the sheet as a whole: OnOLEStartDrag gives the data. Returns when that has ended.
+    void OLEDrag();
+    // Ends what a drag shows on the sheet, and leaves nothing selected.
+    void OleResetDrag();
     void Clear();
     void Refresh();
     // Starts the sheet with its present properties, as a saved one starts: what it takes over once at its start, as the
@@ -307,7 +316,18 @@ Q_SIGNALS:
     void OnTLRefresh();
     void OnSorted();
     void OnTraitementFeedBack(int value, int max);
+    void OnOLEBeforeStartDrag(int nbObject, QString* displayText, bool* cancel);
+    void OnOLEStartDrag(vorlane::DataObject* dragged, int* allowedEffects);
+    void OnOLEDragOver(vorlane::DataObject* dragged, int* effect, int button, int shift, double x, double y, int state);
+    void OnOLEDragDrop(vorlane::DataObject* dragged, int* effect, int button, int shift, double x, double y);
+    void OnOLEGiveFeedback(int* effect, bool* defaultCursors);
+    void OnOLESetData(vorlane::DataObject* dragged, int* dataFormat);
+    void OnOLECompleteDrag(int* effect);
+    void OnOLEBeforeDropStart(int numberOfFilesRep, bool* cancel);
     void OnOLENewFileAdded(const QString& fileName, int* key, bool* cancel);
+    void OnOLESortChanged();
+    void OnOLEDragError();
+    void OnAfterDropAdd(int numberOfFilesAdded);
     // Places are pixels of the widget.
     void OnMouseDown(int button, int shift, double x, double y);
     void OnMouseMove(int button, int shift, double x, double y);
@@ -344,6 +364,7 @@ private:
     void ConnectScrolling();
     void ConnectPictures();
     void ConnectHand();
+    void ConnectDrags();
 
     Vorlane& sheet_;
     mutable PendingError pending_;
