@@ -1,12 +1,12 @@
 // Moving selected items by a drag inside the sheet, from the end of 1,000,000 to their start: what it reads and binds,
 // then what it takes of time, from the drop to its end. The row is open by then; its animation is not measured.
 #include "bench/countinglist.h"
+#include "bench/running.h"
 #include "platform/headless/userdrag.h"
 #include "sheet/vorlane.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdio>
-#include <ctime>
 #include <string>
 
 namespace {
@@ -55,9 +55,7 @@ struct Bench {
             sheet.VScroll.SetValue(0);
             drag.Over(window, sheet.Diapo.Item(0)->Col() + 20, 40);
             Begin();
-            const std::clock_t start = std::clock();
-            drag.Drop();
-            seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+            seconds = Seconds([&] { drag.Drop(); });
         });
         desktop.clock.Advance(1000);
         window.Press(x, y);
@@ -108,8 +106,5 @@ BENCHMARK(Move)->Arg(1)->Arg(100)->Arg(1'000)->UseManualTime()->Unit(benchmark::
 }  // namespace
 
 int main(int argc, char** argv) {
-    PrintCounts();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return vorlane::RunBenchmarks(argc, argv, PrintCounts);
 }

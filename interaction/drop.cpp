@@ -181,9 +181,6 @@ void Vorlane::ShowDropped() {
     InitVScroll(false);
     bar_.ScrollValue = VScroll.Value();
     StartLect(VScroll.Value(), -1, -1);
-    ForEachSlide([this](eDiapoLight& slide) {
-        if (slide.Selected()) Select(slide, selection_.SelectedColor, true);
-    });
 }
 
 void Vorlane::ShowSorted() {
