@@ -24,6 +24,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QUrl>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 namespace vorlane::editor {
@@ -49,6 +50,7 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
       thumbnails_(std::move(thumbnails)),
       pages_(new QStackedWidget(this)),
       empty_(new EmptyPage(this)),
+      sheetPage_(new QWidget(this)),
       sheet_(new VorlaneWidget(this)),
       show_(new Show(*sheet_, this)),
       navigator_(new Navigator(*sheet_, *show_, this)),
@@ -58,7 +60,10 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
     setWindowIcon(QIcon(QStringLiteral(":/editor/icons/vorlane.svg")));
     setAcceptDrops(true);
     pages_->addWidget(empty_);
-    pages_->addWidget(sheet_);
+    pages_->addWidget(sheetPage_);
+    auto* column = new QVBoxLayout(sheetPage_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(sheet_);
     setCentralWidget(pages_);
     statusBar()->addWidget(status_, 1);
     statusBar()->setSizeGripEnabled(false);
@@ -96,6 +101,7 @@ void EditorWindow::RestoreState() {
 
 void EditorWindow::SetSlideWidth(int width) {
     const QSize size = slidesize::Of(width);
+    FitRow();
     sheet_->DiapoSizeChange(true, size.width(), size.height());
 }
 

@@ -116,6 +116,7 @@ private:
     void Sort(SortBy by);
     void SetDescending(bool descending);
     void SetSideways(bool sideways);
+    void FitRow();
     void ShowArrangement();
     QString SortName() const;
 
@@ -144,6 +145,7 @@ private:
 
     QStackedWidget* pages_;
     EmptyPage* empty_;
+    QWidget* sheetPage_;
     VorlaneWidget* sheet_;
     Show* show_;
     Navigator* navigator_;

@@ -2,9 +2,11 @@
 #include "editor/editorwindow.h"
 #include "editor/navigator.h"
 #include "editor/show.h"
+#include "editor/statuspanel.h"
 #include "widgets/vorlanewidget.h"
 
 #include <QAction>
+#include <QStyle>
 
 namespace vorlane::editor {
 
@@ -20,10 +22,19 @@ void EditorWindow::SetSideways(bool sideways) {
     const auto direction = sideways ? ui::ScrollDirection::sdHorizontal : ui::ScrollDirection::sdVertical;
     if (sheet_->ScrollDirection() != direction) {
         sheet_->SetScrollDirection(direction);
+        FitRow();
         show_->showAgain();
         show_->reveal(navigator_->current());
     }
     (sideways ? menus_.sideways : menus_.down)->setChecked(true);
+}
+
+// Sideways there is one row: the sheet is no higher than that, and lies in the middle.
+void EditorWindow::FitRow() {
+    const bool sideways = sheet_->ScrollDirection() == ui::ScrollDirection::sdHorizontal;
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int row = slidesize::Of(status_->slideWidth()).height() + 2 * sheet_->Marges() + bar;
+    sheet_->setMaximumHeight(sideways ? row : QWIDGETSIZE_MAX);
 }
 
 void EditorWindow::ShowArrangement() {

@@ -68,10 +68,10 @@ void EditorWindow::Begin(const Folder& folder) {
 
 void EditorWindow::ShowPage() {
     const bool slides = count() > 0 || read_ < total_;
-    QWidget* page = slides ? static_cast<QWidget*>(sheet_) : empty_;
+    QWidget* page = slides ? sheetPage_ : empty_;
     if (pages_->currentWidget() == page) return;
     pages_->setCurrentWidget(page);
-    page->setFocus();
+    (slides ? static_cast<QWidget*>(sheet_) : empty_)->setFocus();
 }
 
 QString EditorWindow::FailureText() const {

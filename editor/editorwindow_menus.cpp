@@ -49,7 +49,8 @@ void EditorWindow::MakeEditMenu() {
     menus_.edit->addSeparator();
     menus_.selectAll = AddAction(menus_.edit, QKeySequence::SelectAll);
     menus_.edit->addSeparator();
-    menus_.show = AddAction(menus_.edit, {});
+    menus_.show = AddAction(menus_.edit, QKeySequence(Qt::Key_Return));
+    menus_.show->setShortcutContext(Qt::WidgetShortcut);  // told here; the sheet's keys see to it
     menus_.remove = AddAction(menus_.edit, QKeySequence::Delete);
     menus_.edit->addSeparator();
     menus_.moveBack = AddAction(menus_.edit, QKeySequence(Qt::ALT | Qt::Key_Left));

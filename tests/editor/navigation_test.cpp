@@ -138,6 +138,21 @@ TEST_F(NavigationTest, SidewaysTheArrowsAllLeadAlongTheRow) {
     EXPECT_EQ(Slide(0).Top(), Slide(1).Top());
 }
 
+TEST_F(NavigationTest, SidewaysTheRowLiesInTheMiddleOfTheWindow) {
+    ASSERT_TRUE(OpenMany());
+    const int height = window_->sheet().height();
+    Action("Horizontal").trigger();
+    ASSERT_TRUE(test::WaitFor([&] { return window_->sheet().height() < height; }));
+    EXPECT_NEAR(window_->sheet().geometry().center().y(), height / 2, 2);
+    EXPECT_LE(window_->sheet().DiapoRect(0).bottom(), window_->sheet().height());
+    window_->status().setSlideWidth(320);
+    ASSERT_TRUE(Settle());
+    EXPECT_LE(window_->sheet().DiapoRect(0).bottom(), window_->sheet().height());
+    Action("Vertical").trigger();
+    ASSERT_TRUE(test::WaitFor([&] { return window_->sheet().height() == height; }));
+    EXPECT_GT(window_->sheet().CountDiapoY(), 1);
+}
+
 TEST_F(NavigationTest, TypingANameComesToIt) {
     for (const char* name : {"aube.jpg", "brume.jpg", "bruyere.jpg", "mer 2.jpg"}) pictures_.WritePicture(name);
     ASSERT_TRUE(Open(Folder()));
