@@ -63,7 +63,9 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
     pages_->addWidget(sheetPage_);
     auto* column = new QVBoxLayout(sheetPage_);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(sheet_);
+    column->addStretch();  // take what the sheet can't
+    column->addWidget(sheet_, 1);
+    column->addStretch();
     setCentralWidget(pages_);
     statusBar()->addWidget(status_, 1);
     statusBar()->setSizeGripEnabled(false);

@@ -132,6 +132,7 @@ private:
     QString FailureText() const;
     void ShowPage();
     void TakeSlice();
+    void Complete();
     void ShowSheet();
     void ShowStatus();
     void ShowEmptyTexts();
@@ -156,13 +157,14 @@ private:
 
     std::optional<Folder> opened_;  // has been opened and comes onto the sheet next
 
-    QString folder_;   // the one that is open
-    QString failed_;   // the last one asked for, if it could not be read
-    QString notice_;   // what was done last, for a moment
-    int total_ = 0;    // pictures in the folder
-    int read_ = 0;     // those of them that have come onto the list
-    int waiting_ = 0;  // the most slides that waited for their thumbnail since all had it
-    bool opening_ = false;
+    QString folder_;        // the one that is open
+    QString failed_;        // the last one asked for, if it could not be read
+    QString notice_;        // what was done last, for a moment
+    int total_ = 0;         // pictures in the folder
+    int read_ = 0;          // those of them that have come onto the list
+    int waiting_ = 0;       // the most slides that waited for their thumbnail since all had it
+    int deferred_ = 0;      // lots that were added and wait for the show to finish its work
+    bool complete_ = true;  // all of the folder that was asked for last is on the list, or none of it will be
     QTimer slices_;
     QTimer noticeEnd_;
     QElapsedTimer sinceShown_;

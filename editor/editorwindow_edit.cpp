@@ -79,7 +79,11 @@ void EditorWindow::addFiles(const QStringList& paths, int before) {
 
 void EditorWindow::Added(const std::vector<FolderItem>& items, int beforeKey) {
     if (show_->isBusy()) {
-        QTimer::singleShot(1, this, [this, items, beforeKey] { Added(items, beforeKey); });
+        ++deferred_;
+        QTimer::singleShot(1, this, [this, items, beforeKey] {
+            --deferred_;
+            Added(items, beforeKey);
+        });
         return;
     }
     const auto added = static_cast<int>(items.size());

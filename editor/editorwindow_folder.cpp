@@ -37,7 +37,7 @@ void EditorWindow::ConnectReader() {
 }
 
 void EditorWindow::openFolder(const QString& folder) {
-    opening_ = true;
+    complete_ = false;
     opened_.reset();
     failed_.clear();
     reader_.start(QDir::cleanPath(QDir(folder).absolutePath()));
@@ -49,7 +49,6 @@ void EditorWindow::Opened(const QString& folder, int total) {
 }
 
 void EditorWindow::Begin(const Folder& folder) {
-    opening_ = false;
     folder_ = folder.path;
     total_ = folder.total;
     read_ = 0;
@@ -80,12 +79,12 @@ QString EditorWindow::FailureText() const {
 
 // What is shown stays as it is.
 void EditorWindow::Failed(const QString& folder) {
-    opening_ = false;
     failed_ = QDir::cleanPath(folder);
     if (!QFileInfo::exists(failed_)) recent_.remove(failed_);
+    total_ = read_;  // if another folder was being read, that has ended
+    Complete();
     Say(FailureText());
     Q_EMIT folderFailed(failed_);
-    CheckSettled();
 }
 
 // The window stays free for the user between slices. While the show is at work, the folder waits.
@@ -103,9 +102,15 @@ void EditorWindow::TakeSlice() {
     const bool all = !reader_.isRunning();
     if (items.empty()) slices_.stop();
     if (all || !sinceShown_.isValid() || sinceShown_.elapsed() >= kShowAgain) ShowSheet();
-    if (all) show_->orderAppended();
+    if (all) Complete();
     ShowStatus();
-    if (all) CheckSettled();
+}
+
+void EditorWindow::Complete() {
+    show_->orderAppended();
+    complete_ = true;
+    ShowPage();
+    CheckSettled();
 }
 
 void EditorWindow::ShowSheet() {
@@ -152,7 +157,7 @@ void EditorWindow::ShowEmptyTexts() {
 }
 
 bool EditorWindow::isSettled() const {
-    const bool read = !opening_ && !reader_.isRunning() && read_ == total_ && !additions_.isRunning();
+    const bool read = complete_ && !additions_.isRunning() && deferred_ == 0;
     return read && provider_->missing() == 0;
 }
 

@@ -153,6 +153,16 @@ TEST_F(EditorWindowTest, OpeningAnotherFolderEndsTheReadingOfTheFirst) {
     EXPECT_EQ(window_->sheet().Count(), 1);
 }
 
+TEST_F(EditorWindowTest, AFolderThatFailsEndsTheReadingOfTheFirst) {
+    for (int i = 0; i < 3000; ++i) pictures_.Write(QStringLiteral("p%1.jpg").arg(i), {});
+    window_->openFolder(Folder());
+    ASSERT_TRUE(WaitFor([this] { return window_->count() > 0; }));
+    ASSERT_TRUE(Open(pictures_.Path("missing")));
+    Press(Qt::Key_Home);
+    EXPECT_TRUE(Status().startsWith(QString("%L1 images").arg(window_->count()))) << Status().toStdString();
+    EXPECT_FALSE(window_->status().isProgressShown());
+}
+
 TEST_F(EditorWindowTest, AManyFileFolderComesInSlicesAndCanBeScrolledMeanwhile) {
     for (int i = 0; i < 5000; ++i) pictures_.Write(QStringLiteral("p%1.jpg").arg(i), {});
     window_->openFolder(Folder());
