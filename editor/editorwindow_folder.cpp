@@ -79,6 +79,10 @@ QString EditorWindow::FailureText() const {
 
 // What is shown stays as it is.
 void EditorWindow::Failed(const QString& folder) {
+    if (show_->isBusy()) {
+        QTimer::singleShot(1, this, [this, folder] { Failed(folder); });
+        return;
+    }
     failed_ = QDir::cleanPath(folder);
     if (!QFileInfo::exists(failed_)) recent_.remove(failed_);
     total_ = read_;  // if another folder was being read, that has ended
