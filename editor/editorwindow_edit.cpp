@@ -26,7 +26,7 @@ void EditorWindow::ConnectShow() {
     connect(&additions_, &Additions::read, this, &EditorWindow::Added);
     connect(navigator_, &Navigator::moved, this, [this] { Say({}); });
     connect(navigator_, &Navigator::activated, this, &EditorWindow::OpenItem);
-    connect(sheet_, &VorlaneWidget::OnDblClick, this, [this](int index, const QString&, int button) {
+    connect(sheet_, &VorlaneWidget::OnDblClick, this, [this](int index, const QImage&, const QString&, int button) {
         if (button == 1) OpenItem(sheet_->Value(index));
     });
     noticeEnd_.setSingleShot(true);
@@ -38,7 +38,7 @@ int EditorWindow::count() const {
 }
 
 void EditorWindow::ItemsChanged() {
-    const std::vector<int> selected = sheet_->SelectedTableau();
+    const QList<int> selected = sheet_->SelectedTableau();
     if (!selected.empty()) {
         navigator_->mark(selected.front());
     } else if (navigator_->current() < 0) {
@@ -58,7 +58,7 @@ void EditorWindow::Say(const QString& notice) {
 
 // The item behind the last removed one becomes the current one, without being selected.
 void EditorWindow::removeSelected() {
-    const std::vector<int> selected = sheet_->SelectedTableau();
+    const QList<int> selected = sheet_->SelectedTableau();
     const int removed = show_->removeSelected();
     if (removed == 0) return Say(tr("Aucune diapositive n'est sélectionnée"));
     const int behind = selected.back() + 1 - removed;
@@ -94,7 +94,7 @@ void EditorWindow::Added(const std::vector<FolderItem>& items, int beforeKey) {
 
 // By so many places, as a block.
 void EditorWindow::MoveSelected(int places) {
-    const std::vector<int> selected = sheet_->SelectedTableau();
+    const QList<int> selected = sheet_->SelectedTableau();
     if (selected.empty()) return Say(tr("Aucune diapositive n'est sélectionnée"));
     if (show_->order().Sorts())
         return Say(

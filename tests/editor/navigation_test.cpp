@@ -22,7 +22,10 @@ protected:
     }
     int Current() { return window_->navigator().current(); }
     bool IsInSight() { return window_->navigator().slideOf(Current()) >= 0; }
-    std::vector<int> Selection() { return window_->sheet().SelectedTableau(); }
+    std::vector<int> Selection() {
+        const QList<int> items = window_->sheet().SelectedTableau();
+        return {items.begin(), items.end()};
+    }
     int Line() { return window_->sheet().CountDiapoX(); }
     int Lines() { return window_->sheet().CountDiapoY() - 1; }
     QMenu* ContextMenu(const QPoint& place, QContextMenuEvent::Reason reason = QContextMenuEvent::Mouse) {
