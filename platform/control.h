@@ -95,6 +95,11 @@ public:
     int16_t OLEDropMode() const { return oleDropMode_; }
     void SetOLEDropMode(int16_t mode) { oleDropMode_ = mode; }
 
+    // Lets the user drag from here: OLEStartDrag gives the data and what may be done with it (at first 1, copying),
+    // then OLESetData what it has declared and not given, OLEGiveFeedback tells how it goes, and OLECompleteDrag how it
+    // has ended. Returns behind that. Data of no format at all is not dragged.
+    void OLEDrag();
+
     // Puts the control in front of, or behind, its siblings of the same layer.
     void ZOrder(ZOrderPosition position = ZOrderPosition::Front);
 

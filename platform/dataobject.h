@@ -19,6 +19,8 @@ public:
         return (format == kFormatText && hasText_) || (format == kFormatFiles && hasFiles_);
     }
 
+    bool Empty() const { return !hasText_ && !hasFiles_; }
+
     // Declares the format, with no content yet.
     void SetData(int16_t format) {
         hasText_ = hasText_ || format == kFormatText;

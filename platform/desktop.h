@@ -17,6 +17,7 @@
 
 namespace vorlane {
 
+class DataObject;
 class Region;
 
 // Names a window of the desktop, 0 for none.
@@ -90,11 +91,25 @@ public:
     // Its inside, from (0, 0).
     virtual WinRect GetClientRect(Hwnd window) const = 0;
     virtual Point ClientToScreen(Hwnd window, Point place) const = 0;
+    // What is to be seen in part of the window, in its own pixels; what lies over the window is left out.
+    virtual Picture Grab(Hwnd window, const WinRect& part) = 0;
     // Repaints part of the window, in its own pixels, before returning when flags say so (256: update now; 64: not
     // its children; 1: count it as changed).
     virtual void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) = 0;
     // The part of the window that there is, in its pixels. It replaces the former one and stays through later moves.
     virtual void SetWindowRgn(Hwnd window, const Region& region, bool redraw) = 0;
+};
+
+// Drags that start in the program.
+class Drags {
+public:
+    virtual ~Drags() = default;
+
+    // Lets the user drag data out of a window, and returns when that has ended: what was done with it, 1 copied,
+    // 2 moved, 0 nothing. allowed: what may be done with it, a sum; with 0 the drag runs, and can be dropped nowhere.
+    // feedback hears every change of what a drop would do. One drag runs at a time; a second one ends at once.
+    virtual int32_t DoDrag(Hwnd window, DataObject& data, int32_t allowed,
+                           const std::function<void(int32_t effect)>& feedback) = 0;
 };
 
 // Messages to the user.
@@ -166,6 +181,7 @@ struct Desktop {
     Keyboard& keyboard;
     TextMetrics& metrics;
     Windows& windows;
+    Drags& drags;
     Dialogs& dialogs;
     Pictures& pictures;
     Sounds& sounds;

@@ -135,20 +135,25 @@ void InputRouter::DragTo(const Target& target, DataObject& data, int32_t& effect
     Attempt([&] { target.control->Input.OLEDragOver(data, effect, button, shift, place.x, place.y, state); });
 }
 
+InputRouter::Target InputRouter::DropTarget(float x, float y) const {
+    Control* control = Answering(x, y).control;
+    while (control != nullptr && control->OLEDropMode() == 0) control = control->Container();
+    return Pin(control);
+}
+
 void InputRouter::DragOver(DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y) {
-    const Target target = Answering(x, y);
+    effect = 0;
+    const Target target = DropTarget(x, y);
     const bool entered = target.control != dragged_.control;
-    if (entered) DragLeave(data);
+    if (entered) LeaveDragged(data);
     dragged_ = target;
-    if (!target) {
-        effect = 0;
-        return;
-    }
+    if (!target) return;
     if (entered) DragTo(target, data, effect, button, shift, x, y, kEnter);
+    effect = 0;
     DragTo(target, data, effect, button, shift, x, y, kOver);
 }
 
-void InputRouter::DragLeave(DataObject& data) {
+void InputRouter::LeaveDragged(DataObject& data) {
     const Target left = std::exchange(dragged_, {});
     if (!left) return;
     int32_t effect = 0;
@@ -156,15 +161,28 @@ void InputRouter::DragLeave(DataObject& data) {
     DragTo(left, data, effect, 0, 0, box.Left, box.Top, kLeave);
 }
 
+void InputRouter::DragLeave(DataObject& data) {
+    if (!dragged_) return;
+    const bool hearsAnyway = dragged_.control == &root_ || root_.OLEDropMode() == 0;
+    LeaveDragged(data);
+    int32_t effect = 0;
+    if (!hearsAnyway) DragTo({&root_}, data, effect, 0, 0, 0, 0, kLeave);
+}
+
 void InputRouter::DragDrop(DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y) {
     dragged_ = {};
-    const Target target = Answering(x, y);
+    const Target target = DropTarget(x, y);
     if (!target) {
         effect = 0;
         return;
     }
     const Place place = InUnitsOf(*target.control, x, y);
     Attempt([&] { target.control->Input.OLEDragDrop(data, effect, button, shift, place.x, place.y); });
+}
+
+void InputRouter::ForgetButtons() {
+    held_ = 0;
+    pressed_ = {};
 }
 
 }  // namespace vorlane

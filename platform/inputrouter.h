@@ -38,10 +38,15 @@ public:
     void SetFocus(Control* control);
     Control* Focus() const { return focus_.control; }
 
-    // A drag over the root: the control under it hears of enter, over and leave. effect is the answer.
+    // A drag over the root: the control under it hears of enter, over and leave. Of those that lie there, it is the
+    // innermost one that takes drops, by its OLEDropMode. effect is the answer: 0 where nothing takes drops, and before
+    // anything has answered. A drag that leaves the root is told to the root too.
     void DragOver(DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y);
     void DragLeave(DataObject& data);
     void DragDrop(DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y);
+
+    // A drag has taken the release of the buttons that were down: nobody hears of it.
+    void ForgetButtons();
 
     // The frontmost visible control at a point of the root; the root itself where it has no child, nullptr outside.
     Control* At(float x, float y) const;
@@ -70,8 +75,10 @@ private:
     // The control that answers at a point: the innermost enabled one.
     Target Answering(float x, float y) const;
     Target MouseTarget(float x, float y) const;
+    Target DropTarget(float x, float y) const;
     void Raise(const Target& target, MouseEvent InputEvents::*event, int16_t button, int16_t shift, float x, float y);
     bool IsDoubleClick(const Target& target, int16_t button, float x, float y) const;
+    void LeaveDragged(DataObject& data);
     void DragTo(const Target& target, DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x,
                 float y, int16_t state);
 

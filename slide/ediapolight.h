@@ -87,6 +87,8 @@ public:
     void Refresh();
     // Places the tools row.
     void PlaceButtons();
+    // Lets the user drag the picture; returns when that has ended. A failure is ignored.
+    void OLEDrag();
 
     // --- Picture and file ---
     const vorlane::Picture& Picture() const { return Img.Picture(); }
@@ -246,6 +248,10 @@ public:
     int32_t Value() const { return settings_.Value; }
     void SetValue(int32_t value);
 
+    // The unit of the position in the event of a drag that is being raised: a drag over the bare ground is told in
+    // pixels, any other in the container's scale.
+    ScaleMode DragScale() const { return dragScale_; }
+
     DiapoEvents Events;
 
 private:
@@ -392,6 +398,7 @@ private:
     ImageState image_;
     Place place_;
     ButtonPress press_;
+    ScaleMode dragScale_ = ScaleMode::Pixels;
     int16_t lastButton_ = 0;  // Button of the last press on the slide or a child, which Click and DblClick tell
     PendingError pending_;
 };

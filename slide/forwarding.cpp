@@ -35,6 +35,10 @@ float eDiapoLight::ForwardedY(const Control& child, float twips) const {
     return ToContainer(child.Top() + Pixels(twips));
 }
 
+void eDiapoLight::OLEDrag() {
+    Attempt([this] { Img.OLEDrag(); });
+}
+
 void eDiapoLight::ForwardMouse(Control& child) {
     child.Input.MouseDown.connect([this, &child](int16_t button, int16_t shift, float x, float y) {
         lastButton_ = button;
@@ -51,10 +55,12 @@ void eDiapoLight::ForwardMouse(Control& child) {
 void eDiapoLight::ForwardDrag(Control& child) {
     child.Input.OLEDragOver.connect([this, &child](DataObject& data, int32_t& effect, int16_t button, int16_t shift,
                                                    float x, float y, int16_t state) {
+        dragScale_ = Ambient().ContainerScale;
         Events.OLEDragOver(data, effect, button, shift, ForwardedX(child, x), ForwardedY(child, y), state);
     });
     child.Input.OLEDragDrop.connect(
         [this, &child](DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y) {
+            dragScale_ = Ambient().ContainerScale;
             Events.OLEDragDrop(data, effect, button, shift, ForwardedX(child, x), ForwardedY(child, y));
         });
     ForwardDragState(child);
@@ -86,10 +92,16 @@ void eDiapoLight::ConnectGround() {
     Input.KeyDown.connect([this](int16_t& code, int16_t shift) { Events.KeyDown(code, shift); });
     Input.KeyPress.connect([this](int16_t& ascii) { Events.KeyPress(ascii); });
     Input.KeyUp.connect([this](int16_t& code, int16_t shift) { Events.KeyUp(code, shift); });
-    Input.OLEDragOver.connect([this](DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y,
-                                     int16_t state) { Events.OLEDragOver(data, effect, button, shift, x, y, state); });
-    Input.OLEDragDrop.connect([this](DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x,
-                                     float y) { Events.OLEDragDrop(data, effect, button, shift, x, y); });
+    Input.OLEDragOver.connect(
+        [this](DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y, int16_t state) {
+            dragScale_ = ScaleMode::Pixels;
+            Events.OLEDragOver(data, effect, button, shift, x, y, state);
+        });
+    Input.OLEDragDrop.connect(
+        [this](DataObject& data, int32_t& effect, int16_t button, int16_t shift, float x, float y) {
+            dragScale_ = ScaleMode::Pixels;
+            Events.OLEDragDrop(data, effect, button, shift, x, y);
+        });
     ForwardDragState(*this);
 }
 

@@ -3,6 +3,7 @@
 // unless a test says otherwise.
 #pragma once
 
+#include "platform/headless/fakedrags.h"
 #include "platform/headless/fakeforms.h"
 #include "platform/headless/fakemenus.h"
 #include "platform/headless/faketooltips.h"
@@ -22,8 +23,8 @@ public:
     Desktop& operator=(const Desktop&) = delete;
 
     vorlane::Desktop Roles() {
-        return {clock,  screen, keyboard, metrics, windows,  dialogs, pictures,
-                sounds, texts,  forms,    films,   tooltips, menus,   shared};
+        return {clock,  screen, keyboard, metrics, windows,  drags, dialogs, pictures,
+                sounds, texts,  forms,    films,   tooltips, menus, shared};
     }
 
     // What is still running, one line each; empty when all is released.
@@ -35,6 +36,7 @@ public:
     FakeKeyboard keyboard;
     FakeTextMetrics metrics;
     FakeWindows windows{trace};
+    FakeDrags drags{*this};
     FakeDialogs dialogs{trace};
     FakePictures pictures{trace};
     FakeSounds sounds;

@@ -168,6 +168,11 @@ Point FakeWindows::ClientToScreen(Hwnd window, Point place) const {
     return {place.X + rect.Left, place.Y + rect.Top};
 }
 
+Picture FakeWindows::Grab(Hwnd window, const WinRect& part) {
+    return FakePictures::Make("window " + std::to_string(window) + " at " + Spelled(part), part.Right - part.Left,
+                              part.Bottom - part.Top);
+}
+
 void FakeWindows::RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) {
     trace_.Add("redraw " + std::to_string(window) + " " + Spelled(part) + " " + std::to_string(flags));
 }

@@ -102,6 +102,8 @@ public:
     WinRect GetWindowRect(Hwnd window) const override;
     WinRect GetClientRect(Hwnd window) const override;
     Point ClientToScreen(Hwnd window, Point place) const override;
+    // A picture by the name of "window 1 at 5,5,105,81".
+    Picture Grab(Hwnd window, const WinRect& part) override;
     void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) override;
     // "region <window> <shape>", with " redraw" behind.
     void SetWindowRgn(Hwnd window, const Region& region, bool redraw) override;

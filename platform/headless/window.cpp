@@ -12,7 +12,11 @@ constexpr int32_t kAltKey = 18;
 
 }  // namespace
 
-Window::Window(Desktop& desktop, const WinRect& place) : desktop_(desktop), handle_(desktop.windows.Open(place)) {}
+Window::Window(Desktop& desktop, const WinRect& place) : desktop_(desktop), handle_(desktop.windows.Open(place)) {
+    dragEnded_ = desktop.drags.Ended.connect([this] {
+        if (router_) router_->ForgetButtons();
+    });
+}
 
 Window::~Window() {
     desktop_.windows.Close(handle_);
@@ -55,11 +59,13 @@ void Window::MoveTo(int32_t left, int32_t top) {
     desktop_.windows.Place(handle_, {left, top, left + inside.Right, top + inside.Bottom});
 }
 
-void Window::PointAt(float x, float y, int16_t shift) {
+bool Window::PointAt(float x, float y, int16_t shift) {
     desktop_.screen.SetCursorPos(desktop_.windows.ClientToScreen(handle_, {ToInt32(x), ToInt32(y)}));
     desktop_.keyboard.Set(kShiftKey, (shift & kShift) != 0);
     desktop_.keyboard.Set(kCtrlKey, (shift & kCtrl) != 0);
     desktop_.keyboard.Set(kAltKey, (shift & kAlt) != 0);
+    const WinRect inside = desktop_.windows.GetClientRect(handle_);
+    return x >= 0 && y >= 0 && x < static_cast<float>(inside.Right) && y < static_cast<float>(inside.Bottom);
 }
 
 void Window::Press(float x, float y, int16_t button, int16_t shift) {

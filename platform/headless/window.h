@@ -47,16 +47,19 @@ public:
     void HoldKey(int16_t keyCode, int16_t shift = 0);
     void ReleaseKey(int16_t keyCode, int16_t shift = 0);
 
+    // Puts the pointer to a place, with these modifier keys held. Whether the place is inside the window.
+    bool PointAt(float x, float y, int16_t shift);
+
     InputRouter& Router() { return *router_; }
 
 private:
     void Attach(UserControl& control);
-    void PointAt(float x, float y, int16_t shift);
 
     Desktop& desktop_;
     Hwnd handle_;
     UserControl* control_ = nullptr;
     std::unique_ptr<InputRouter> router_;
+    ScopedConnection dragEnded_;
 };
 
 }  // namespace vorlane::headless

@@ -61,6 +61,7 @@ ControlHost::ControlHost(QtDesktop& desktop, QWidget* parent) : QWidget(parent),
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setAcceptDrops(true);
 }
 
 ControlHost::~ControlHost() {

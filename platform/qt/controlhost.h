@@ -6,6 +6,7 @@
 #pragma once
 
 #include "platform/ambient.h"
+#include "platform/dataobject.h"
 #include "platform/inputrouter.h"
 
 #include <memory>
@@ -29,6 +30,8 @@ public:
     QtDesktop& Desktop() const { return desktop_; }
     InputRouter& Router() { return *router_; }
 
+    // A drag has taken the release of the buttons.
+    void ForgetButtons();
     // Keys on their way to the control that has the focus. Return whether a handler swallowed the key.
     bool FeedKeyDown(const QKeyEvent& event);
     bool FeedKeyUp(const QKeyEvent& event);
@@ -50,6 +53,10 @@ protected:
 
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -75,6 +82,7 @@ private:
     std::unique_ptr<InputRouter> router_;
     std::vector<std::unique_ptr<QWidget>> peers_;
     ScopedConnection damaged_;
+    std::shared_ptr<DataObject> dragged_;  // what the drag over the widget carries
     bool shown_ = false;
     int16_t pointer_ = 0;
     Picture pointerIcon_;

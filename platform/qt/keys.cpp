@@ -56,4 +56,23 @@ int16_t ShiftOf(Qt::KeyboardModifiers modifiers) {
     return static_cast<int16_t>(shift + ctrl + alt);
 }
 
+int16_t ButtonsOf(Qt::MouseButtons buttons) {
+    int sum = 0;
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        if (buttons.testFlag(button)) sum += ButtonOf(button);
+    }
+    return static_cast<int16_t>(sum);
+}
+
+int32_t EffectsOf(Qt::DropActions actions) {
+    return (actions.testFlag(Qt::CopyAction) ? 1 : 0) + (actions.testFlag(Qt::MoveAction) ? 2 : 0);
+}
+
+Qt::DropActions ActionsOf(int32_t effects) {
+    Qt::DropActions actions = Qt::IgnoreAction;
+    actions.setFlag(Qt::CopyAction, (effects & 1) != 0);
+    actions.setFlag(Qt::MoveAction, (effects & 2) != 0);
+    return actions;
+}
+
 }  // namespace vorlane

@@ -1,4 +1,4 @@
-// Keys, buttons and modifiers by the numbers of the public surface.
+// Keys, buttons, modifiers and drop actions by the numbers of the public surface.
 #pragma once
 
 #include <cstdint>
@@ -15,5 +15,11 @@ int16_t VirtualKeyOf(int qtKey);
 int16_t ButtonOf(Qt::MouseButton button);
 // Sum of 1 Shift, 2 Ctrl, 4 Alt.
 int16_t ShiftOf(Qt::KeyboardModifiers modifiers);
+// Sum of the three buttons' numbers.
+int16_t ButtonsOf(Qt::MouseButtons buttons);
+
+// What a drop may do, a sum of 1 copy, 2 move, and back. Other actions have no number.
+int32_t EffectsOf(Qt::DropActions actions);
+Qt::DropActions ActionsOf(int32_t effects);
 
 }  // namespace vorlane

@@ -5,6 +5,7 @@
 #include "platform/qt/painttools.h"
 #include "platform/qt/qtclock.h"
 #include "platform/qt/qtdialogs.h"
+#include "platform/qt/qtdrags.h"
 #include "platform/qt/qtfilms.h"
 #include "platform/qt/qtforms.h"
 #include "platform/qt/qtkeyboard.h"
@@ -36,8 +37,8 @@ public:
     static QtDesktop& Of(QCoreApplication& application);
 
     Desktop Roles() {
-        return {clock,  screen, keyboard, metrics, windows,  dialogs, pictures,
-                sounds, texts,  forms,    films,   tooltips, menus,   shared};
+        return {clock,  screen, keyboard, metrics, windows,  drags, dialogs, pictures,
+                sounds, texts,  forms,    films,   tooltips, menus, shared};
     }
     PaintTools Tools() { return {screen, metrics, scaled}; }
 
@@ -46,6 +47,7 @@ public:
     QtScreen screen{windows};
     QtKeyboard keyboard;
     QtTextMetrics metrics;
+    QtDrags drags{windows};
     QtDialogs dialogs;
     QtPictures pictures;
     QtSounds sounds;

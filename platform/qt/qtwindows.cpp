@@ -1,5 +1,6 @@
 #include "platform/qt/qtwindows.h"
 
+#include "platform/qt/qtpicturedata.h"
 #include "platform/qt/regions.h"
 
 #include <QCoreApplication>
@@ -49,6 +50,13 @@ Point QtWindows::ClientToScreen(Hwnd window, Point place) const {
     if (widget == nullptr) return place;
     const QPoint global = widget->mapToGlobal(QPoint(place.X, place.Y));
     return {global.x(), global.y()};
+}
+
+Picture QtWindows::Grab(Hwnd window, const WinRect& part) {
+    QWidget* widget = WidgetOf(window);
+    if (widget == nullptr) return {};
+    const QRect rect(part.Left, part.Top, part.Right - part.Left, part.Bottom - part.Top);
+    return PictureFromImage(widget->grab(rect).toImage());
 }
 
 void QtWindows::RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) {

@@ -20,6 +20,8 @@ public:
     WinRect GetWindowRect(Hwnd window) const override;
     WinRect GetClientRect(Hwnd window) const override;
     Point ClientToScreen(Hwnd window, Point place) const override;
+    // The widget's own pixels, as dense as the screen's.
+    Picture Grab(Hwnd window, const WinRect& part) override;
     // At once: all that has changed in the widget's window, wherever it is.
     void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) override;
     void SetWindowRgn(Hwnd window, const Region& region, bool redraw) override;

@@ -5,6 +5,7 @@
 #include "platform/image.h"
 
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <stdexcept>
 
 namespace vorlane::headless {
@@ -22,6 +23,12 @@ protected:
         Listen(desktop, inner, "inner");
         Listen(desktop, nested, "nested");
         desktop.trace.Clear();
+    }
+
+    void TakeDrops() {
+        for (Control* control : std::initializer_list<Control*>{&root, &image, &inner, &nested}) {
+            control->SetOLEDropMode(1);
+        }
     }
 
     std::string Inputs() { return desktop.trace.Take({"input"}); }
@@ -172,6 +179,7 @@ TEST_F(InputRouterTest, AHandlerSwallowsACharacterByWritingZero) {
 }
 
 TEST_F(InputRouterTest, ADragEntersIsOverAndLeavesEachControl) {
+    TakeDrops();
     DataObject data;
     data.SetText("text");
     int32_t effect = 1;
@@ -192,6 +200,7 @@ TEST_F(InputRouterTest, ADragEntersIsOverAndLeavesEachControl) {
 }
 
 TEST_F(InputRouterTest, ADropReachesTheControlAndLeavesNoDragBehind) {
+    TakeDrops();
     DataObject data;
     data.SetText("text");
     int32_t effect = 1;
@@ -200,6 +209,56 @@ TEST_F(InputRouterTest, ADropReachesTheControlAndLeavesNoDragBehind) {
     window.Router().DragDrop(data, effect, 1, 0, 12, 25);
     window.Router().DragLeave(data);
     EXPECT_EQ(Inputs(), "input image OLEDragDrop 30,75 text\n");
+}
+
+TEST_F(InputRouterTest, AControlThatTakesNoDropsLetsItsContainerAnswer) {
+    TakeDrops();
+    image.SetOLEDropMode(0);
+    nested.SetOLEDropMode(0);
+    inner.SetOLEDropMode(0);
+    DataObject data;
+    data.SetText("text");
+    int32_t effect = 0;
+    window.Router().DragOver(data, effect, 1, 0, 12, 25);
+    EXPECT_EQ(effect, 2);
+    window.Router().DragOver(data, effect, 1, 0, 107, 57);
+    window.Router().DragDrop(data, effect, 1, 0, 107, 57);
+    EXPECT_EQ(Inputs(),
+              "input root OLEDragOver 12,25 0\n"
+              "input root OLEDragOver 12,25 2\n"
+              "input root OLEDragOver 107,57 2\n"
+              "input root OLEDragDrop 107,57 text\n");
+}
+
+TEST_F(InputRouterTest, WhereNothingTakesDropsADragHasNoEffectAndIsNotHeard) {
+    DataObject data;
+    int32_t effect = 3;
+    window.Router().DragOver(data, effect, 1, 0, 12, 25);
+    EXPECT_EQ(effect, 0);
+    effect = 3;
+    window.Router().DragDrop(data, effect, 1, 0, 12, 25);
+    EXPECT_EQ(effect, 0);
+    window.Router().DragLeave(data);
+    EXPECT_EQ(Inputs(), "");
+}
+
+TEST_F(InputRouterTest, ADragThatLeavesTheWindowIsToldToTheRootToo) {
+    TakeDrops();
+    DataObject data;
+    int32_t effect = 0;
+    window.Router().DragOver(data, effect, 1, 0, 12, 25);
+    desktop.trace.Clear();
+    window.Router().DragLeave(data);
+    EXPECT_EQ(Inputs(), "input image OLEDragOver 0,0 1\ninput root OLEDragOver 0,0 1\n");
+}
+
+TEST_F(InputRouterTest, ButtonsThatADragHasReleasedAreUp) {
+    window.Press(12, 25);
+    window.Router().ForgetButtons();
+    desktop.trace.Clear();
+    window.MouseTo(60, 25);
+    EXPECT_EQ(Inputs(), "input root MouseMove 0 0 60,25\n");
+    window.Release(60, 25);
 }
 
 TEST_F(InputRouterTest, ADragOutsideTheRootHasNoEffect) {
