@@ -78,7 +78,8 @@ void Vorlane::PressOn(int16_t index, int16_t button, float x, float y) {
     const auto slide = Diapo.Item(index);
     mouse_.KeptSelection = false;
     if (slide->Value() < 0) return;  // no item to select
-    const bool plain = slide->Selected() && !CtrlDown() && !ShiftDown();
+    const bool ranges = ShiftDown() && selection_.SelectionMultiple;
+    const bool plain = slide->Selected() && !CtrlDown() && !ranges;
     if (plain && (button == kRight || (button == kLeft && !internalDrag_))) {
         mouse_.KeptSelection = true;
         if (button == kRight) return;
@@ -87,7 +88,7 @@ void Vorlane::PressOn(int16_t index, int16_t button, float x, float y) {
         SetCurrent(index);
         return Arm(x, y);
     }
-    if (ShiftDown() && selection_.SelectionMultiple) {
+    if (ranges) {
         SelectRange(index);
     } else {
         LeaveOthers(index);
@@ -101,7 +102,8 @@ void Vorlane::SelectRange(int16_t index) {
     TakeMarkFromOthers(index);
     SetCurrent(index);
     const auto [first, last] = std::minmax(selection_.AnchorListIndex, selection_.CurrentListIndex);
-    for (int32_t i = first; i <= last; ++i) SelectItem(i, true);
+    const int64_t end = Min(last, ListCount() - 1);
+    for (int32_t i = first; i <= end; ++i) SelectItem(i, true);
     ForEachSlide([this, from = first, to = last](eDiapoLight& slide) {
         if (slide.Value() >= from && slide.Value() <= to) Select(slide, GroundOf(slide.Value()), true);
     });

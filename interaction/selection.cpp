@@ -72,14 +72,27 @@ MemoryListBox* Vorlane::UnwatchedList() const {
     return dynamic_cast<MemoryListBox*>(&Bound());
 }
 
+// What has come in at a yield may have left slides behind: they follow the list.
+void Vorlane::ShowSelection() {
+    ForEachSlide([this](eDiapoLight& slide) {
+        if (slide.Value() < 0) return;
+        const bool selected = Bound().Selected(slide.Value());
+        if (slide.Selected() != selected) Select(slide, GroundOf(slide.Value()), selected);
+    });
+}
+
 void Vorlane::SelectAll() {
     const auto select = [&] {
         ForEachSlide([&](eDiapoLight& slide) { Select(slide, selection_.SelectedColor, slide.Value() >= 0); });
         SetCurrent(-1);
         Desktop().clock.DoEvents();
         const Hourglass hourglass(Desktop().screen);
-        if (MemoryListBox* list = UnwatchedList()) return list->SelectAll();
-        SelectItems([](bool) { return true; });
+        if (MemoryListBox* list = UnwatchedList()) {
+            list->SelectAll();
+        } else {
+            SelectItems([](bool) { return true; });
+        }
+        ShowSelection();
     };
     GuardVoid(select, "SelectAll");
 }
@@ -92,8 +105,12 @@ void Vorlane::SelectInvert() {
         SetCurrent(-1);
         Desktop().clock.DoEvents();
         const Hourglass hourglass(Desktop().screen);
-        if (MemoryListBox* list = UnwatchedList()) return list->InvertSelection();
-        SelectItems([](bool selected) { return !selected; });
+        if (MemoryListBox* list = UnwatchedList()) {
+            list->InvertSelection();
+        } else {
+            SelectItems([](bool selected) { return !selected; });
+        }
+        ShowSelection();
     };
     GuardVoid(invert, "SelectInvert");
 }
@@ -109,6 +126,7 @@ void Vorlane::SelectedClear(int16_t exceptedIndex) {
         SetCurrent(-1);
         Desktop().clock.DoEvents();
         ClearItems(exceptedIndex);
+        ShowSelection();
     };
     GuardVoid(clear, "SelectedClear", exceptedIndex);
 }

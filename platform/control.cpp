@@ -38,7 +38,7 @@ void Control::Move(double left, double top, double width, double height) {
     if (next == box_) return;
     const Box before = box_;
     box_ = next;
-    if (visible_) InvalidateOuter(before);
+    if (visible_) InvalidatePlace(before);
     Invalidate();
     if (before.Width != next.Width || before.Height != next.Height) OnResize();
 }
@@ -52,7 +52,7 @@ void Control::SetAlign(vorlane::Align align) {
 void Control::SetVisible(bool visible) {
     if (visible == visible_) return;
     visible_ = visible;
-    InvalidateOuter(box_);
+    InvalidatePlace(box_);
     Changed();
     OnVisibleChanged();
 }
@@ -75,8 +75,7 @@ void Control::SetMouseIcon(Picture icon) {
 
 void Control::ZOrder(ZOrderPosition position) {
     if (container_ == nullptr) return;
-    container_->Restack(*this, position);
-    Invalidate();
+    if (container_->Restack(*this, position)) Invalidate();
 }
 
 Control& Control::Root() {
@@ -105,7 +104,7 @@ bool Control::Wheel(double) {
 }
 
 void Control::Invalidate() {
-    if (visible_) InvalidateOuter(box_);
+    if (visible_) InvalidatePlace(box_);
     Changed();
 }
 

@@ -131,6 +131,10 @@ protected:
     // The size has changed.
     virtual void OnResize() {}
     virtual void OnVisibleChanged() {}
+    // A part of the container, in its pixels, wants painting.
+    void InvalidateOuter(const Box& part);
+    // What the control covers at a place wants painting: the whole of it, unless a class shows less.
+    virtual void InvalidatePlace(const Box& place) { InvalidateOuter(place); }
 
     // The body of a plain setter: stores value and invalidates when it differs. Returns whether it did.
     template <class T>
@@ -145,8 +149,6 @@ private:
     template <class>
     friend class ControlArray;
     friend class UserControl;
-
-    void InvalidateOuter(const Box& part);
 
     UserControl* container_;
     Layer layer_;

@@ -20,6 +20,16 @@ public:
     bool HitTest(float, float) const override { return false; }
     void Accept(ControlVisitor& visitor) const override { visitor.Visit(*this); }
 
+protected:
+    // Its inside shows what stands behind.
+    void InvalidatePlace(const Box& place) override {
+        const auto line = static_cast<float>(borderWidth_);
+        InvalidateOuter({place.Left, place.Top, place.Width, line});
+        InvalidateOuter({place.Left, place.Bottom() - line, place.Width, line});
+        InvalidateOuter({place.Left, place.Top, line, place.Height});
+        InvalidateOuter({place.Right() - line, place.Top, line, place.Height});
+    }
+
 private:
     OLE_COLOR borderColor_ = FromSystem(SystemColor::Highlight);
     int16_t borderWidth_ = 1;

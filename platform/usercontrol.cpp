@@ -67,13 +67,15 @@ void UserControl::RemoveChild(Control& child) {
     std::erase(children_, &child);
 }
 
-void UserControl::Restack(Control& child, ZOrderPosition position) {
+bool UserControl::Restack(Control& child, ZOrderPosition position) {
+    const std::vector<Control*> before = children_;
     std::erase(children_, &child);
     const bool front = position == ZOrderPosition::Front;
     const auto place = std::find_if(children_.begin(), children_.end(), [&](const Control* other) {
         return front ? other->StackingLayer() <= child.StackingLayer() : other->StackingLayer() < child.StackingLayer();
     });
     children_.insert(place, &child);
+    return children_ != before;
 }
 
 Box UserControl::Aligned(vorlane::Align align, const Box& box) const {

@@ -68,7 +68,8 @@ private:
 
     void AddChild(Control& child);
     void RemoveChild(Control& child);
-    void Restack(Control& child, ZOrderPosition position);
+    // Gives whether the order has changed.
+    bool Restack(Control& child, ZOrderPosition position);
     // The place of a child of that size that sticks to a side.
     Box Aligned(vorlane::Align align, const Box& box) const;
     void ChildChanged(const Box& part);

@@ -465,6 +465,7 @@ private:
     void TakeMarkFromOthers(int16_t index);
     template <class Wanted>
     void SelectItems(Wanted&& wanted);
+    void ShowSelection();
     void ClearItems(int16_t exceptedIndex);
     MemoryListBox* UnwatchedList() const;
 

@@ -1,5 +1,5 @@
-// GestureTest: a sheet under the scripted user's hand. Slides are pressed inside their picture, the ground beside the
-// last column. A slide's state is told by one letter: "." not selected, "s" selected, "C" selected and current, "!"
+// GestureTest: a sheet under the scripted user's hand. Slides are pressed near their upper edge, the ground
+// in the margin. A slide's state is told by one letter: "." not selected, "s" selected, "C" selected and current, "!"
 // where slide and item disagree or the ground is none that fits.
 #pragma once
 
@@ -13,10 +13,10 @@ protected:
     static constexpr float kGroundX = 2;  // in the margin at the left
     static constexpr float kGroundY = 2;
 
-    // A point of slide k, beside its picture's middle so that no corner is hit.
+    // A point of slide k near its upper edge, which shows of the third row too, and beside the corners.
     Point InSlide(int32_t k) const {
         const auto slide = sheet->Diapo.Item(k);
-        return {ToInt32(slide->Left() + slide->Width() / 2), ToInt32(slide->Top() + slide->Height() / 2)};
+        return {ToInt32(slide->Left() + slide->Width() / 2), ToInt32(slide->Top() + 10)};
     }
 
     void Press(int32_t k, int16_t keys = kNoKeys, int16_t button = headless::kLeftButton) {
@@ -37,7 +37,7 @@ protected:
         const auto slide = sheet->Diapo.Item(k);
         if (slide->Value() < 0) return slide->Selected() ? '!' : '-';
         if (slide->Selected() != sheet->Liste()->Selected(slide->Value())) return '!';
-        if (!slide->Selected()) return slide->BackColor() == sheet->BackColorDiapo() ? '.' : '!';
+        if (!slide->Selected()) return slide->BackColor() == window.Ambient().BackColor ? '.' : '!';
         if (slide->BackColor() == sheet->BackColorCurrent()) return 'C';
         return slide->BackColor() == kSelectedColor ? 's' : '!';
     }

@@ -1,0 +1,136 @@
+// Where the mouse is, when a press may become a drag, and the keyboard.
+#include "tests/interaction/gesturefixture.h"
+#include "windows/frmdrag.h"
+
+namespace vorlane {
+namespace {
+
+using headless::kCtrl;
+
+class MouseTest : public GestureTest {
+protected:
+    // Presses slide 4 and moves by that many pixels.
+    void PressAndMove(float dx, float dy, int16_t keys = kNoKeys) {
+        Press(4, keys);
+        const Point place = InSlide(4);
+        window.MouseTo(static_cast<float>(place.X) + dx, static_cast<float>(place.Y) + dy, keys);
+    }
+    // A drag sets the hot spot of its ghost.
+    bool Dragged() { return SharedFrmDrag(desktop.Roles()).HotX != 0; }
+};
+
+TEST_F(MouseTest, EnteringAndLeavingSlidesIsTold) {
+    Show(40);
+    window.MouseTo(50, 50);
+    window.MouseTo(51, 50);
+    window.MouseTo(160, 50);
+    window.MouseTo(108, 50);
+    window.MouseTo(108, 51);
+    EXPECT_EQ(Heard(),
+              "host MouseEnter 0\n"
+              "host MouseMove 0 at 50,50\n"
+              "host MouseMove 0 at 51,50\n"
+              "host MouseExit 0\n"
+              "host MouseEnter 1\n"
+              "host MouseMove 0 at 160,50\n"
+              "host MouseExit 1\n"
+              "host MouseMove 0 at 108,50\n"
+              "host MouseMove 0 at 108,51\n");
+}
+
+// --- Drags ---
+
+TEST_F(MouseTest, AMoveOfMoreThanFiftyTwipsStartsADrag) {
+    Show(40);
+    sheet->SetOLEDragMode(1);
+    PressAndMove(2, 1);
+    EXPECT_FALSE(Dragged()) << "45 twips on both axes together";
+    Release(4);
+    PressAndMove(2, 2);
+    EXPECT_TRUE(Dragged()) << "60 twips";
+    const FrmDrag& ghost = SharedFrmDrag(desktop.Roles());
+    EXPECT_EQ(ghost.HotX, 52);
+    EXPECT_EQ(ghost.HotY, 12);
+    EXPECT_FALSE(ghost.StartRightPart);
+    Release(4);
+}
+
+TEST_F(MouseTest, WithOLEDragModeNotOneAPressNeverArmsADrag) {
+    Show(40);
+    PressAndMove(20, 0);
+    Release(4);
+    Click(4);
+    PressAndMove(20, 0);
+    EXPECT_FALSE(Dragged());
+    Release(4);
+}
+
+TEST_F(MouseTest, WithCtrlNoDragStarts) {
+    Show(40);
+    sheet->SetOLEDragMode(1);
+    PressAndMove(20, 0, kCtrl);
+    EXPECT_FALSE(Dragged());
+    Release(4, kCtrl);
+}
+
+// --- Keys ---
+
+TEST_F(MouseTest, PageDownScrollsByAPageAndTellsTheHostBehindIt) {
+    Show(40);
+    window.HoldKey(34);
+    EXPECT_EQ(sheet->VScroll.Value(), 6);
+    EXPECT_THAT(Heard(), testing::EndsWith("host Scroll 6 from 0\nhost KeyDown 34\n"));
+    window.ReleaseKey(34);
+    EXPECT_EQ(Heard(), "host KeyUp 34\n");
+}
+
+TEST_F(MouseTest, HoldingPageDownScrollsOnePageOnly) {
+    Show(40);
+    window.HoldKey(34);
+    window.HoldKey(34);
+    window.HoldKey(34);
+    EXPECT_EQ(sheet->VScroll.Value(), 6);
+    window.ReleaseKey(34);
+    window.HoldKey(34);
+    EXPECT_EQ(sheet->VScroll.Value(), 12);
+    window.ReleaseKey(34);
+}
+
+TEST_F(MouseTest, PagesEndAtTheBarsEnds) {
+    Show(12);
+    window.Key(34);
+    EXPECT_EQ(sheet->VScroll.Value(), sheet->VScroll.Max());
+    window.Key(33);
+    window.Key(33);
+    EXPECT_EQ(sheet->VScroll.Value(), 0);
+}
+
+TEST_F(MouseTest, TheCharactersOfTheRowsScroll) {
+    Show(40);
+    window.Key(57, '(');
+    EXPECT_EQ(sheet->VScroll.Value(), 3);
+    EXPECT_THAT(Heard(), testing::HasSubstr("host Scroll 3 from 0\nhost KeyPress 40\nhost KeyUp 57\n"));
+    window.Key(49, '!');
+    EXPECT_EQ(sheet->VScroll.Value(), 0);
+    window.Key(49, '!');
+    EXPECT_EQ(sheet->VScroll.Value(), 0);
+}
+
+TEST_F(MouseTest, TheArrowKeysAreTheHosts) {
+    Show(40);
+    window.Key(40);
+    window.Key(38);
+    EXPECT_EQ(sheet->VScroll.Value(), 0);
+    EXPECT_EQ(Heard(), "host KeyDown 40\nhost KeyUp 40\nhost KeyDown 38\nhost KeyUp 38\n");
+}
+
+TEST_F(MouseTest, AHostMaySwallowAKey) {
+    Show(40);
+    sheet->Events.KeyDown.connect([](int16_t& code, int16_t) { code = 0; });
+    int16_t code = 65;
+    window.Router().KeyDown(code, 0);
+    EXPECT_EQ(code, 0);
+}
+
+}  // namespace
+}  // namespace vorlane
