@@ -164,17 +164,8 @@ sheet::Filled Vorlane::FillSlot(const Fill& fill, int32_t listIndex) {
 
 void Vorlane::Rebind(int16_t cursor, const std::string& name, int32_t listIndex) {
     const auto slide = Diapo.Item(cursor);
-    if (listIndex != selection_.CurrentListIndex) {
-        slide->SetBackColorSelected(selection_.SelectedColor);
-    } else {
-        if (slide->Selected()) {
-            slide->SetBackColorSelectedChange(selection_.BackColorCurrent);
-        } else {
-            slide->SetBackColorSelected(selection_.BackColorCurrent);
-        }
-        selection_.CurrentSlot = cursor;
-    }
-    slide->SetSelected(Bound().Selected(listIndex));
+    if (listIndex == selection_.CurrentListIndex) selection_.CurrentSlot = cursor;
+    Select(*slide, GroundOf(listIndex), Bound().Selected(listIndex));
     slide->SetNoResize(false);
     slide->SetVisible(true);
     slide->SetValue(listIndex);

@@ -188,7 +188,7 @@ sheet::Placed Vorlane::MakeMissing(int16_t slot, std::string& name) {
     if (!running) return Placed::Yes;
     const auto slide = Diapo.Item(slot);
     slide->SetValue(item->ListIndex);
-    slide->SetBackColorSelected(selection_.SelectedColor);
+    slide->SetBackColorSelected(GroundOf(item->ListIndex));
     slide->SetSelected(Bound().Selected(item->ListIndex));
     return Placed::Yes;
 }

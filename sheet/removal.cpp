@@ -68,6 +68,7 @@ void Vorlane::Remove(int16_t index) {
         } else if (First().Value() >= 0) {
             FillFrom(ToInt32(Min(VScroll.Value(), ListCount() - 1)));
         }
+        ShowSelection();  // a yield may have changed it
         Events.TLRefresh();
     };
     GuardVoid(remove, "Remove", index);

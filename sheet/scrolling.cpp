@@ -48,10 +48,12 @@ void Vorlane::BarChanged(int32_t value) {
     GuardVoid(change, "VScroll_Change", value);
 }
 
-// The current slide moves with the list; outside the pool it drops off.
+// The current slide moves with the list; outside the pool it drops off, and where there is none, none comes.
 void Vorlane::MoveCurrentSlot(int64_t distance) {
-    const int64_t slot = CurrentDiapo() - distance;
-    selection_.CurrentSlot = slot >= 0 && slot < CountDiapo() ? ToInt16(slot) : int16_t{-1};
+    const int16_t current = CurrentDiapo();
+    const int64_t slot = current - distance;
+    const bool stays = current >= 0 && slot >= 0 && slot < CountDiapo();
+    selection_.CurrentSlot = stays ? ToInt16(slot) : int16_t{-1};
 }
 
 // Whether copied looks come to stand on the right slides: the slides stand where the bar stood, and move by one row.

@@ -68,8 +68,7 @@ void Vorlane::CopyDiapo(int16_t from, int16_t to) {
         target->SetImageFullPath(source->ImageFullPath());
         target->TakePicture(*source);
         target->SetCaptionBottom(source->CaptionBottom());
-        target->SetSelected(source->Selected());
-        if (source->Selected()) RecolourCopy(*target, to);
+        Select(*target, GroundOf(source->Value()), source->Selected());
         target->SetSelectedTmp(source->SelectedTmp());
         target->SetTag(source->Tag());
         target->SetToolTipText(source->ToolTipText());
@@ -86,15 +85,6 @@ void Vorlane::CopyDiapo(int16_t from, int16_t to) {
         target->PlaceButtons();
     };
     GuardVoid(copy, "CopyDiapo", from, to);
-}
-
-// The ground of a slide that has got a selected look: the current slide's, or any selected one's.
-void Vorlane::RecolourCopy(eDiapoLight& slide, int16_t index) {
-    if (index == selection_.CurrentSlot) {
-        slide.SetBackColorSelectedChange(selection_.BackColorCurrent);
-    } else if (slide.BackColorSelected() != selection_.SelectedColor) {
-        slide.SetBackColorSelectedChange(selection_.SelectedColor);
-    }
 }
 
 // --- What a slide asks and tells ---

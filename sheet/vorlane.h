@@ -394,7 +394,6 @@ private:
     void UnloadDiapo(int32_t index);
     void ResetDiapo(int32_t index);
     void CopyDiapo(int16_t from, int16_t to);
-    void RecolourCopy(eDiapoLight& slide, int16_t index);
     std::optional<int32_t> KeyOf(const eDiapoLight& slide) const;
     WinRect ScreenRectOf(const eDiapoLight& slide) const;
 
