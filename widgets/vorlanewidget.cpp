@@ -20,6 +20,7 @@ VorlaneWidget::VorlaneWidget(QtDesktop& desktop, QWidget* parent)
     });
     ConnectEvents();
     ConnectPictures();
+    ConnectHand();
 }
 
 VorlaneWidget::~VorlaneWidget() {
@@ -52,7 +53,6 @@ void VorlaneWidget::ConnectEvents() {
     events.Removed.connect([this](int16_t index, int32_t& key) { Q_EMIT OnRemoved(index, &key); });
     events.TLRefresh.connect([this] { Q_EMIT OnTLRefresh(); });
     events.Sorted.connect([this] { Q_EMIT OnSorted(); });
-    events.TraitementFeedBack.connect([this](int32_t value, int32_t max) { Q_EMIT OnTraitementFeedBack(value, max); });
     events.OLENewFileAdded.connect([this](const std::string& fileName, int32_t& key, bool& cancel) {
         Q_EMIT OnOLENewFileAdded(FromText(fileName), &key, &cancel);
     });

@@ -225,16 +225,20 @@ public:
     static QString SepSortArg();
     static QString SepSortWithData();
 
+    // --- Selection ---
+    int CountSelected() const;
+    // List indices of the selected items, ascending.
+    QList<int> SelectedTableau() const;
+    int CurrentDiapo() const;
+    bool Selected(int index) const;
+    void SetSelected(int index, bool selected);
+
     // --- State ---
     int Count() const;
     int CountDiapo() const;
     int CountDiapoX() const;
     int CountDiapoY() const;
     int CountAffiche() const;
-    int CountSelected() const;
-    int CurrentDiapo() const;
-    bool Selected(int index) const;
-    void SetSelected(int index, bool selected);
     // The text under the name of a slide. It goes with the slide's item while rows are scrolled; a slide that takes
     // another item keeps it until the host, told by OnAdded, sets it anew.
     QString CaptionBottom(int index) const;
@@ -268,6 +272,11 @@ public:
     QImage Thumb(const QImage& picture, int resolution = -1) const;
 
 public Q_SLOTS:
+    void SelectAll();
+    void SelectInvert();
+    void SelectedClear(int exceptedIndex = -1);
+    // Plays a click on the slide.
+    void SetCurrentDiapo(int index);
     void Clear();
     void Refresh();
     // Starts the sheet with its present properties, as a saved one starts: what it takes over once at its start, as the
@@ -290,8 +299,25 @@ Q_SIGNALS:
     void OnSorted();
     void OnTraitementFeedBack(int value, int max);
     void OnOLENewFileAdded(const QString& fileName, int* key, bool* cancel);
+    // Places are pixels of the widget.
+    void OnMouseDown(int button, int shift, double x, double y);
+    void OnMouseMove(int button, int shift, double x, double y);
+    void OnMouseUp(int button, int shift, double x, double y);
+    void OnMouseEnter(int index);
+    void OnMouseExit(int index);
+    void OnClick(int index, const QImage& picture, const QString& fileName, int button);
+    void OnDblClick(int index, const QImage& picture, const QString& fileName, int button);
+    void OnBackgroundClick(int button);
+    void OnBackgroundDblClick(int button);
+    void OnKeyDown(int* keyCode, int shift);
+    void OnKeyPress(int* keyAscii);
+    void OnKeyUp(int* keyCode, int shift);
     void OnError(int number, const QString& description, const QString& source, int lastDllError,
                  const QString& valeur) const;
+
+protected:
+    void connectNotify(const QMetaMethod& signal) override;
+    void disconnectNotify(const QMetaMethod& signal) override;
 
 private:
     // Runs an operation of the sheet; its failure raises OnError.
@@ -307,9 +333,11 @@ private:
     void Report(const Failure& failure, const char* name) const;
     void ConnectEvents();
     void ConnectPictures();
+    void ConnectHand();
 
     Vorlane& sheet_;
     mutable PendingError pending_;
+    ScopedConnection feedBack_;  // while somebody listens to OnTraitementFeedBack
 };
 
 }  // namespace vorlane

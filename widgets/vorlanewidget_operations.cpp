@@ -115,22 +115,6 @@ int VorlaneWidget::CountAffiche() const {
     return Ask("CountAffiche", 0, [&] { return sheet_.CountAffiché(); });
 }
 
-int VorlaneWidget::CountSelected() const {
-    return Ask("CountSelected", 0, [&] { return sheet_.CountSelected(); });
-}
-
-int VorlaneWidget::CurrentDiapo() const {
-    return Ask("CurrentDiapo", -1, [&] { return sheet_.CurrentDiapo(); });
-}
-
-bool VorlaneWidget::Selected(int index) const {
-    return Ask("Selected", false, [&] { return sheet_.Selected(ToInt16(index)); });
-}
-
-void VorlaneWidget::SetSelected(int index, bool selected) {
-    Do("SetSelected", [&] { sheet_.SetSelected(ToInt16(index), selected); });
-}
-
 QString VorlaneWidget::CaptionBottom(int index) const {
     return Ask("CaptionBottom", QString(), [&] { return FromText(sheet_.Diapo.Item(index)->CaptionBottom()); });
 }
