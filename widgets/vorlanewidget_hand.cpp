@@ -64,8 +64,12 @@ void VorlaneWidget::connectNotify(const QMetaMethod& signal) {
         [this](int32_t value, int32_t max) { Q_EMIT OnTraitementFeedBack(value, max); });
 }
 
+// Qt may hold its own lock here, under which it can't be asked: the sheet is looked after from the event loop.
 void VorlaneWidget::disconnectNotify(const QMetaMethod&) {
-    if (!isSignalConnected(QMetaMethod::fromSignal(&VorlaneWidget::OnTraitementFeedBack))) feedBack_ = {};
+    const auto forget = [this] {
+        if (!isSignalConnected(QMetaMethod::fromSignal(&VorlaneWidget::OnTraitementFeedBack))) feedBack_ = {};
+    };
+    if (feedBack_.connected()) QMetaObject::invokeMethod(this, forget, Qt::QueuedConnection);
 }
 
 // --- Selection ---

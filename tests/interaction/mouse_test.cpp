@@ -11,12 +11,26 @@ class MouseTest : public GestureTest {
 protected:
     // Presses slide 4 and moves by that many pixels.
     void PressAndMove(float dx, float dy, int16_t keys = kNoKeys) {
+        dragStarts_ = sheet->Events.OLEStartDrag.connect([this](DataObject&, int32_t&) {
+            const FrmDrag& ghost = SharedFrmDrag(desktop.Roles());
+            hotX = ghost.HotX;
+            hotY = ghost.HotY;
+            startRightPart = ghost.StartRightPart;
+            ++drags;
+        });
         Press(4, keys);
         const Point place = InSlide(4);
         window.MouseTo(static_cast<float>(place.X) + dx, static_cast<float>(place.Y) + dy, keys);
     }
-    // A drag sets the hot spot of its ghost.
-    bool Dragged() { return SharedFrmDrag(desktop.Roles()).HotX != 0; }
+    bool Dragged() const { return drags > 0; }
+
+    int32_t drags = 0;
+    int32_t hotX = 0;  // as the ghost had it when the drag started
+    int32_t hotY = 0;
+    bool startRightPart = true;
+
+private:
+    ScopedConnection dragStarts_;
 };
 
 TEST_F(MouseTest, EnteringAndLeavingSlidesIsTold) {
@@ -48,10 +62,9 @@ TEST_F(MouseTest, AMoveOfMoreThanFiftyTwipsStartsADrag) {
     Release(4);
     PressAndMove(2, 2);
     EXPECT_TRUE(Dragged()) << "60 twips";
-    const FrmDrag& ghost = SharedFrmDrag(desktop.Roles());
-    EXPECT_EQ(ghost.HotX, 52);
-    EXPECT_EQ(ghost.HotY, 12);
-    EXPECT_FALSE(ghost.StartRightPart);
+    EXPECT_EQ(hotX, 52);
+    EXPECT_EQ(hotY, 12);
+    EXPECT_FALSE(startRightPart);
     Release(4);
 }
 

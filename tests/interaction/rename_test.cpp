@@ -141,7 +141,7 @@ TEST_F(RenameTest, TheBoxTakesNoCharacterThatAFileNameCannotHold) {
 TEST_F(RenameTest, EnterRenamesTheFileTheItemAndTheSlide) {
     Type("Aube");
     Enter();
-    EXPECT_EQ(Heard(), "host AfterEdit [Aube.jpg] [Zebre.jpg]\n");
+    EXPECT_EQ(Heard(), "host AfterEdit [Aube.jpg] [Zebre.jpg]\nhost KeyUp 13\n");
     EXPECT_TRUE(Exists(Path("Aube.jpg")));
     EXPECT_FALSE(Exists(Path("Zebre.jpg")));
     EXPECT_EQ(sheet->ImageFullPath(0), Path("Aube.jpg"));
@@ -178,7 +178,7 @@ TEST_F(RenameTest, AFileWithoutExtensionIsRenamedLikeAnyOther) {
     sheet->StartLecture();
     Type("Ville", 3);
     Enter();
-    EXPECT_EQ(Heard(), "host AfterEdit [Ville] [Wagon]\n");
+    EXPECT_EQ(Heard(), "host AfterEdit [Ville] [Wagon]\nhost KeyUp 13\n");
     EXPECT_TRUE(Exists(Path("Ville")));
     EXPECT_EQ(sheet->ImageFullPath(3), Path("Ville"));
     EXPECT_EQ(sheet->Diapo.Item(3)->ImageFullPath(), Path("Ville."));
@@ -187,7 +187,7 @@ TEST_F(RenameTest, AFileWithoutExtensionIsRenamedLikeAnyOther) {
 TEST_F(RenameTest, ANameLeftUnchangedClosesTheBoxWithoutAnEvent) {
     Type("Zebre");
     Enter();
-    EXPECT_EQ(Heard(), "");
+    EXPECT_EQ(Heard(), "host KeyUp 13\n");
     EXPECT_FALSE(sheet->Txt.Visible());
     EXPECT_TRUE(Exists(Path("Zebre.jpg")));
 }
@@ -195,7 +195,7 @@ TEST_F(RenameTest, ANameLeftUnchangedClosesTheBoxWithoutAnEvent) {
 TEST_F(RenameTest, AnEmptiedTextClosesTheBoxAsCancelledAndKeepsTheFile) {
     Type("");
     Enter();
-    EXPECT_EQ(Heard(), "host AfterEdit [] [] canceled\n");
+    EXPECT_EQ(Heard(), "host AfterEdit [] [] canceled\nhost KeyUp 13\n");
     EXPECT_FALSE(sheet->Txt.Visible());
     EXPECT_TRUE(Exists(Path("Zebre.jpg")));
 }
@@ -203,7 +203,7 @@ TEST_F(RenameTest, AnEmptiedTextClosesTheBoxAsCancelledAndKeepsTheFile) {
 TEST_F(RenameTest, EscapeDiscardsTheTypedName) {
     Type("Aube");
     Escape();
-    EXPECT_EQ(Heard(), "host AfterEdit [] [] canceled\n");
+    EXPECT_EQ(Heard(), "host AfterEdit [] [] canceled\nhost KeyUp 27\n");
     EXPECT_FALSE(sheet->Txt.Visible());
     EXPECT_TRUE(Exists(Path("Zebre.jpg")));
 }
@@ -235,7 +235,7 @@ TEST_F(RenameTest, AnEndInsideItsOwnEventsIsPassedOver) {
     sheet->Events.AfterEdit.connect([this](const std::string&, const std::string&, bool) { sheet->EndEdit(); });
     Type("Aube");
     Escape();
-    EXPECT_EQ(Heard(), "host AfterEdit [] [] canceled\n");
+    EXPECT_EQ(Heard(), "host AfterEdit [] [] canceled\nhost KeyUp 27\n");
     EXPECT_FALSE(sheet->Txt.Visible());
 }
 

@@ -148,6 +148,7 @@ TEST_F(WidgetGestures, ProgressIsNoLongerToldOnceItsReceiverIsDisconnected) {
     const auto receiver = QObject::connect(&widget, &VorlaneWidget::OnTraitementFeedBack, &widget, [](int, int) {});
     EXPECT_TRUE(widget.sheet().Events.TraitementFeedBack.connected());
     QObject::disconnect(receiver);
+    QCoreApplication::processEvents();
     EXPECT_FALSE(widget.sheet().Events.TraitementFeedBack.connected());
 }
 
