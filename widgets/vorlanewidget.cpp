@@ -3,6 +3,7 @@
 #include "platform/qt/qtdesktop.h"
 #include "platform/qt/qtpicturedata.h"
 #include "sheet/vorlane.h"
+#include "widgets/accessiblesheet.h"
 #include "widgets/conversions.h"
 #include "widgets/savedtext.h"
 
@@ -24,6 +25,7 @@ VorlaneWidget::VorlaneWidget(QtDesktop& desktop, QWidget* parent)
     ConnectPictures();
     ConnectHand();
     ConnectDrags();
+    AccessibleSheet::Attach(*this);
 }
 
 VorlaneWidget::~VorlaneWidget() {

@@ -1,6 +1,7 @@
 // The user's hand on the sheet's widget: the events of mouse and keyboard as signals, and the selection.
 #include "platform/numbers.h"
 #include "sheet/vorlane.h"
+#include "widgets/accessiblesheet.h"
 #include "widgets/conversions.h"
 #include "widgets/vorlanewidget.h"
 
@@ -76,14 +77,17 @@ void VorlaneWidget::disconnectNotify(const QMetaMethod&) {
 
 void VorlaneWidget::SelectAll() {
     Do("SelectAll", [&] { sheet_.SelectAll(); });
+    AccessibleSheet::TellSelection(*this);
 }
 
 void VorlaneWidget::SelectInvert() {
     Do("SelectInvert", [&] { sheet_.SelectInvert(); });
+    AccessibleSheet::TellSelection(*this);
 }
 
 void VorlaneWidget::SelectedClear(int exceptedIndex) {
     Do("SelectedClear", [&] { sheet_.SelectedClear(ToInt16(exceptedIndex)); });
+    AccessibleSheet::TellSelection(*this);
 }
 
 QList<int> VorlaneWidget::SelectedTableau() const {
@@ -111,6 +115,7 @@ bool VorlaneWidget::Selected(int index) const {
 
 void VorlaneWidget::SetSelected(int index, bool selected) {
     Do("SetSelected", [&] { sheet_.SetSelected(ToInt16(index), selected); });
+    AccessibleSheet::TellSelection(*this);
 }
 
 }  // namespace vorlane
