@@ -1,6 +1,7 @@
 #include "platform/qt/qtdesktop.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 
 namespace vorlane {
 
@@ -22,7 +23,13 @@ void EndDesktop() {
 }  // namespace
 
 QtDesktop::QtDesktop(QObject* parent)
-    : QObject(parent), scaled(kScaledBytes), looks(kLookBytes), replays(kReplayBytes) {}
+    : QObject(parent), scaled(kScaledBytes), looks(kLookBytes), replays(kReplayBytes) {
+    connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, this, [this] {
+        metrics.ForgetFonts();
+        looks.Clear();
+        replays.Clear();
+    });
+}
 
 QtDesktop& QtDesktop::Of(QCoreApplication& application) {
     if (QtDesktop* desktop = Known(application)) return *desktop;

@@ -21,7 +21,7 @@ public:
 
     // The answer stays good until ForgetFonts, or until very many other fonts have been asked for.
     const Resolved& Resolve(const Font& font) const;
-    // The system's fonts have changed.
+    // For when the program's fonts have changed.
     void ForgetFonts() { fonts_.clear(); }
 
     // The widest line.

@@ -264,6 +264,14 @@ TEST_F(InnerControlTest, EachDensityHasItsOwnLook) {
     EXPECT_EQ(Drawn(), 6);
 }
 
+TEST_F(InnerControlTest, OtherFontsOfTheProgramAreAReasonToDrawAgain) {
+    Paint();
+    Q_EMIT qGuiApp->fontDatabaseChanged();
+    EXPECT_EQ(desktop.looks.Bytes(), 0);
+    Paint();
+    EXPECT_EQ(Drawn(), 2);
+}
+
 TEST_F(InnerControlTest, AFrameIsPartOfTheLook) {
     pair.first.SetBorderStyle(1);
     pair.first.Surface().SetPixel(0, 0, RGB(255, 0, 0));
