@@ -1,6 +1,6 @@
 // The headless desktop: the roles together, for tests and servers. What was asked of it stands in one trace. Its end
-// checks for leaks: a timer, a window, a form that shows, an attached window message or a capture that is still there, or
-// an action whose yield has never come, calls OnLeak, which aborts unless a test says otherwise.
+// checks for leaks: a timer, a window, a form that shows, an attached window message or a capture that is still there,
+// or an action whose yield has never come, calls OnLeak, which aborts unless a test says otherwise.
 #pragma once
 
 #include "platform/headless/fakedrags.h"
