@@ -164,7 +164,7 @@ void Vorlane::DragTick() {
     const int way = droprow::EdgeScroll(Desktop().windows.GetWindowRect(Hwnd()), pointer, grid_.Marges, First().Width(),
                                         First().Height(), bar_.ScrollDirection);
     if (way == 0) return;
-    const int64_t wanted = int64_t{VScroll.Value()} + way * VScroll.SmallChange();
+    const int64_t wanted = int64_t{VScroll.Value()} + int64_t{way} * VScroll.SmallChange();
     VScroll.SetValue(ToInt32(Min(VScroll.Max(), wanted)));
 }
 

@@ -68,7 +68,8 @@ void Vorlane::OpenRowAt(int16_t index, bool rightPart, bool force) {
     const droprow::Range range = SlidesOfRow(drag_.OpenRow);
     if (range.First == range.Last) return;
     const WithinBlock busy(drag_.BusyShifting);
-    if (Shift(range, static_cast<size_t>(slide - range.First + (rightPart ? 1 : 0)))) PlaceMark(slide, rightPart);
+    const int32_t before = slide - range.First + (rightPart ? 1 : 0);
+    if (Shift(range, static_cast<size_t>(before))) PlaceMark(slide, rightPart);
 }
 
 // Moves the first count slides of a row to the left and the others to the right. Whether the drag goes on.

@@ -45,7 +45,7 @@ void Vorlane::SetCurrent(int16_t index) {
 
 // Before a slide becomes current: whichever has the mark so far looks like any other selected slide.
 void Vorlane::TakeMarkFromOthers(int16_t index) {
-    for (int16_t k = 0; k < Diapo.Count(); ++k) {
+    for (int32_t k = 0; k < Diapo.Count(); ++k) {
         if (k == index || !Diapo.Loaded(k)) continue;
         const auto slide = Diapo.Item(k);
         const bool marked = k == selection_.CurrentSlot || slide->BackColor() == selection_.BackColorCurrent;
@@ -117,7 +117,7 @@ void Vorlane::SelectInvert() {
 
 void Vorlane::SelectedClear(int16_t exceptedIndex) {
     const auto clear = [&] {
-        for (int16_t k = 0; k < Diapo.Count(); ++k) {
+        for (int32_t k = 0; k < Diapo.Count(); ++k) {
             if (k == exceptedIndex) continue;
             const auto slide = Diapo.Item(k);
             if (exceptedIndex < 0) slide->SetBackColorSelected(selection_.SelectedColor);

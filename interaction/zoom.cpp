@@ -39,6 +39,7 @@ WinRect Vorlane::ScreenRectOf(const eDiapoLight& slide) const {
 
 void Vorlane::OpenInfo(int16_t index, const eDiapoLight& slide) {
     DropEdit();
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a handler may give the slide another file
     const std::string file = slide.ImageFullPath();
     std::string title;
     std::string text;

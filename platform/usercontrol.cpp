@@ -56,7 +56,8 @@ void UserControl::SetBorderStyle(int32_t style) {
 }
 
 void UserControl::OnResize() {
-    for (size_t i = 0; i < children_.size(); ++i) {  // what a child tells of its move may end others
+    // What a child tells of its move may end others.
+    for (size_t i = 0; i < children_.size(); ++i) {  // NOLINT(modernize-loop-convert)
         Control& child = *children_[i];
         if (child.Align() != Align::None) child.Move(child.Left(), child.Top());
     }

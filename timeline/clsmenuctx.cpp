@@ -71,13 +71,14 @@ void ClsMenuCtx::AppendCommand(Hmenu popup, const Command& command) const {
 
 void ClsMenuCtx::AppendSounds(Hmenu popup, const SonCollection& sounds) const {
     for (int32_t i = 1; i <= sounds.Count(); ++i) {
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a handler may change the list
         const tSon son = sounds.Item(i);
         int32_t secStart = 0;
         std::string nomImage;
         Events.GetSecond(son.DiapoKey, secStart, nomImage);
-        const std::string start = Trelmic6::SecondsToText(secStart, false);
-        desktop_.menus.AppendMenuA(popup, MF_STRING, ToInt32(int64_t{son.DiapoKey} + 1),
-                                   start + " " + son.Nom + "\t(" + nomImage + ")");
+        std::string text = Trelmic6::SecondsToText(secStart, false);
+        text.append(" ").append(son.Nom).append("\t(").append(nomImage).append(")");
+        desktop_.menus.AppendMenuA(popup, MF_STRING, ToInt32(int64_t{son.DiapoKey} + 1), text);
     }
 }
 

@@ -79,6 +79,7 @@ void ClsSon::Sort() {
 
 void ClsSon::SortByEvents(const SonCollection& old) {
     for (int32_t i = 1; i <= old.Count(); ++i) {
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a handler may change the list
         const tSon son = old.Item(i);
         const int32_t number = NumDiapo(son.DiapoKey);
         if (number >= 0) Place(son, number);

@@ -25,7 +25,7 @@ double FakeSounds::SoundSeconds(const std::string& path) {
 std::string FakeSounds::Play(const std::string& path, int32_t canal, int32_t volume) {
     if (failPlaying_) throw failures::InvalidCall();
     const int64_t end = clock_.Now() + ToInt32(1000 * SoundSeconds(path));
-    const std::string alias = "son" + std::to_string(++played_);
+    std::string alias = "son" + std::to_string(++played_);
     open_[alias] = {played_, path, end};
     trace_.Add("sound play " + path + " on " + std::to_string(canal) + " at " + std::to_string(volume) + " as " +
                alias);
