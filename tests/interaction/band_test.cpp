@@ -77,6 +77,18 @@ TEST_F(BandTest, ABandWhoseCornersAllLieInsideOneSlideSelectsNothing) {
     EXPECT_TRUE(grid::BandTouches({slide.Left - 10, slide.Top - 10, 10, 10}, slide)) << "a corner just met";
 }
 
+TEST_F(BandTest, ABandWhollyInsideOneSlideSelectsNothingAndOneThatCrossesItsEdgesDoes) {
+    Show(40);
+    sheet->Diapo.Item(4)->SetVisible(false);  // so that a press at its place is one on the ground
+    window.Press(130, 100);
+    window.MouseTo(160, 130);
+    EXPECT_EQ(sheet->SelRect.Bounds(), (Box{130, 100, 30, 30}));
+    EXPECT_EQ(States(), ".........");
+    window.MouseTo(214, 164);
+    EXPECT_EQ(States(), "....s....");
+    LetGo(214, 164);
+}
+
 TEST_F(BandTest, ABandIsDrawnInFrontFromItsAnchorInBothDirections) {
     Show(40);
     window.Press(108, 80);

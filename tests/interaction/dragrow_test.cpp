@@ -70,6 +70,16 @@ TEST_F(DragTest, ARowThatIsOpenElsewhereOpensAnewUnderThePointer) {
     });
 }
 
+TEST_F(DragTest, ThePlaceThatASlideIsToldFollowsItInTheOpenRow) {
+    ShowDraggable(7);
+    DragSlide(1, [&](UserDrag&) {
+        WinRect place;
+        std::string text;
+        sheet->Diapo.Item(1)->Events.GetWindowsPos(place, text);
+        EXPECT_EQ(place, (WinRect{100 + 117, 205, 100 + 217, 280}));
+    });
+}
+
 TEST_F(DragTest, ADragOutOfTheWindowClosesTheRow) {
     ShowDraggable(7);
     DragSlide(1, [&](UserDrag& drag) {

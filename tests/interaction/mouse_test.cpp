@@ -78,12 +78,39 @@ TEST_F(MouseTest, WithOLEDragModeNotOneAPressNeverArmsADrag) {
     Release(4);
 }
 
-TEST_F(MouseTest, WithCtrlNoDragStarts) {
+TEST_F(MouseTest, ExactlyFiftyTwipsStartNoDrag) {
+    Show(40);
+    sheet->SetOLEDragMode(1);
+    PressAndMove(0, 0);
+    const auto slide = sheet->Diapo.Item(4);
+    const Point place = InSlide(4);
+    const float x = (static_cast<float>(place.X) - slide->Left()) * 15;
+    const float y = (static_cast<float>(place.Y) - slide->Top()) * 15;
+    slide->Events.MouseMove(1, 0, x + 30, y - 20);
+    EXPECT_FALSE(Dragged());
+    slide->Events.MouseMove(1, 0, x + 31, y - 20);
+    EXPECT_TRUE(Dragged());
+    Release(4);
+}
+
+TEST_F(MouseTest, ADragToTheLeftStartsWithTheMarkOnTheRight) {
+    Show(40);
+    sheet->SetOLEDragMode(1);
+    PressAndMove(-4, 0);
+    EXPECT_TRUE(Dragged());
+    EXPECT_TRUE(startRightPart);
+    Release(4);
+}
+
+TEST_F(MouseTest, WithCtrlOrShiftNoDragStarts) {
     Show(40);
     sheet->SetOLEDragMode(1);
     PressAndMove(20, 0, kCtrl);
     EXPECT_FALSE(Dragged());
     Release(4, kCtrl);
+    PressAndMove(20, 0, headless::kShift);
+    EXPECT_FALSE(Dragged());
+    Release(4, headless::kShift);
 }
 
 // --- Keys ---

@@ -1,4 +1,5 @@
 // The sound buttons of a sheet that shows nine slides; the host offers "/s/a.mp3", two seconds long.
+#include "tests/platform/temporaryfolder.h"
 #include "tests/sheet/sheetfixture.h"
 
 namespace vorlane {
@@ -244,6 +245,12 @@ TEST_F(SoundTest, InAToolsRowTheStoppedMusicTellsWhetherThePictureIsThere) {
     sheet->SetShowDiapoTools(true);
     sheet->BtState(1, 0, false);
     EXPECT_EQ(Music(1), "play-music");
+    const TemporaryFolder folder;
+    sheet->Liste()->AsListBox()->SetList(1, "\t" + folder.File("here.jpg"));
+    sheet->BtState(1, 0, false);
+    EXPECT_EQ(Music(1), "play");
+    sheet->BtState(2, 0, false);
+    EXPECT_EQ(Music(2), "play-music");
     sheet->SetShowDiapoTools(false);
     sheet->BtState(1, 0, false);
     EXPECT_EQ(Music(1), "play");
