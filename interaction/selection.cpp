@@ -179,10 +179,10 @@ void Vorlane::SetCurrentDiapo(int16_t index) {
 
 void Vorlane::SetSelected(int16_t index, bool selected) {
     const auto slide = Diapo.Item(index);
+    Bound().SetSelected(slide->Value(), selected);  // fails for a slide without an item, and nothing changes
     TakeMarkFromOthers(index);
     Select(*slide, selection_.BackColorCurrent, selected);
     SetCurrent(selected ? index : int16_t{-1});
-    Bound().SetSelected(slide->Value(), selected);
 }
 
 }  // namespace vorlane

@@ -245,6 +245,13 @@ TEST_F(SelectionTest, SettingSelectedTakesTheMarkFromAnother) {
     EXPECT_EQ(States(), "....s....") << "no slide is current then";
 }
 
+TEST_F(SelectionTest, SettingSelectedOfASlideWithoutAnItemFailsAndChangesNothing) {
+    Start();
+    EXPECT_THROW(sheet->SetSelected(0, true), Failure);
+    EXPECT_EQ(States(), "-");
+    EXPECT_EQ(sheet->CurrentDiapo(), -1);
+}
+
 // --- The whole list ---
 
 TEST_F(SelectionTest, SelectAllTellsItsProgress) {
