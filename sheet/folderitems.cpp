@@ -19,7 +19,7 @@ int32_t AddFolderItems(ListBox& list, FileListBox& reader, const std::string& fo
         if (rules.Offer) rules.Offer(path + name, key, cancel);
         if (cancel) continue;
         const std::string text = ItemText(rules.SortKey(path + name), path + name);
-        insertBefore >= 0 ? list.AddItem(text, insertBefore) : list.AddItem(text);
+        insertBefore >= 0 ? list.AddItem(text, insertBefore++) : list.AddItem(text);
         ++added;
         if (key == -1) key = list.NewIndex();
         list.SetItemData(list.NewIndex(), key);

@@ -19,9 +19,9 @@ struct FolderRules {
     std::function<void(const std::string& fileName, int32_t& key, bool& cancel)> Offer;
 };
 
-// Adds the files of folder that match the pattern, each in front of insertBefore when that is 0 or more, else at the
-// end. A key of -1 becomes the index of the first item that is added with it. Gives the number of items added; 0 when
-// there is no such folder.
+// Adds the files of folder that match the pattern, in its order, in front of insertBefore when that is 0 or more, else
+// at the end. A key of -1 becomes the index of the first item that is added with it. Gives the number of items added; 0
+// when there is no such folder.
 int32_t AddFolderItems(ListBox& list, FileListBox& reader, const std::string& folder, int32_t insertBefore,
                        const FolderRules& rules);
 

@@ -63,11 +63,11 @@ TEST_F(FolderItemsTest, TheFirstIndexBecomesTheKeyAndStandsForTheOthers) {
     EXPECT_EQ(Items(), "z.jpg=0 a.jpg=1 b.jpg=1 ");
 }
 
-TEST_F(FolderItemsTest, EachFileGoesInFrontOfTheSamePlace) {
+TEST_F(FolderItemsTest, FilesKeepTheirOrderInFrontOfAPlace) {
     list.AddItem("\t/p/z.jpg");
-    for (const char* name : {"a.jpg", "b.jpg"}) folder.File(name);
+    for (const char* name : {"a.jpg", "b.jpg", "c.jpg"}) folder.File(name);
     AddFolder(0);
-    EXPECT_EQ(Items(), "b.jpg=0 a.jpg=0 z.jpg=0 ");
+    EXPECT_EQ(Items(), "a.jpg=0 b.jpg=0 c.jpg=0 z.jpg=0 ");
 }
 
 TEST_F(FolderItemsTest, WhatTheHostLeftStandsForTheNextFile) {
