@@ -51,18 +51,29 @@ void Vorlane::ConnectSlideDrags(const sheet::SlideMember& member) {
 }
 
 void Vorlane::ConnectGroundDrags() {
-    ConnectDropsOn(*this);
-    ConnectDropsOn(ImgDrag);
-    Input.OLEStartDrag.connect([this](DataObject& data, int32_t& effects) { Events.OLEStartDrag(data, effects); });
-    Input.OLEGiveFeedback.connect([this](int32_t& effect, bool& cursors) { Events.OLEGiveFeedback(effect, cursors); });
-    Input.OLESetData.connect([this](DataObject& data, int16_t& format) {
+    for (Control* ground : {static_cast<Control*>(this), static_cast<Control*>(&ImgDrag)}) {
+        ConnectDropsOn(*ground);
+        ConnectDragsFrom(*ground);
+    }
+    TimerDrag.Tick.connect([this] { Attempt([this] { DragTick(); }); });
+}
+
+// A drag that starts on the mark is one from the ground, but counts for nothing while one from a slide runs.
+void Vorlane::ConnectDragsFrom(Control& ground) {
+    const auto counts = [this, isMark = &ground == &ImgDrag] { return !isMark || !internalDrag_; };
+    ground.Input.OLEStartDrag.connect([this, counts](DataObject& data, int32_t& effects) {
+        if (counts()) Events.OLEStartDrag(data, effects);
+    });
+    ground.Input.OLEGiveFeedback.connect([this, counts](int32_t& effect, bool& cursors) {
+        if (counts()) Events.OLEGiveFeedback(effect, cursors);
+    });
+    ground.Input.OLESetData.connect([this](DataObject& data, int16_t& format) {
         if (!internalDrag_) Events.OLESetData(data, format);
     });
-    Input.OLECompleteDrag.connect([this](int32_t& effect) {
-        if (oleDragMode_ == kGroundCompletes) SlideCompleteDrag(effect);
+    ground.Input.OLECompleteDrag.connect([this, counts](int32_t& effect) {
+        if (counts() && oleDragMode_ == kGroundCompletes) SlideCompleteDrag(effect);
         if (!internalDrag_) Events.OLECompleteDrag(effect);
     });
-    TimerDrag.Tick.connect([this] { Attempt([this] { DragTick(); }); });
 }
 
 // The mark lies over the ground, and a drag over it is one over the ground behind it.
@@ -172,18 +183,16 @@ void Vorlane::DragTick() {
 
 // What the user sees of a drag goes away.
 void Vorlane::HideDrag() {
-    ++drag_.Ends;
     TimerDrag.SetEnabled(false);
     SharedFrmDrag(Desktop()).Unload();
-    ImgDrag.SetVisible(false);
-    DragRestoreLig(drag_.OpenRow);
+    CloseRow();
 }
 
 void Vorlane::EndDrag() {
     HideDrag();
     internalDrag_ = false;
     mouse_.DragArmed = false;
-    drag_.OpenRow = droprow::kNoRow;
+    drag_.Cancel = false;
     drag_.DropSlot = 0;
     drag_.DropRightPart = false;
 }

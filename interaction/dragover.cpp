@@ -122,11 +122,9 @@ void Vorlane::LeaveGround(const DragEvent& drag) {
     const bool inside =
         pointer.X >= sheet.Left && pointer.X < right && pointer.Y >= sheet.Top && pointer.Y < sheet.Bottom;
     if (inside && drag.X >= 0) return;
-    ++drag_.Ends;
-    ImgDrag.SetVisible(false);
-    DragRestoreLig(drag_.OpenRow);
-    drag_.OpenRow = droprow::kNoRow;
+    CloseRow();
     drag_.DropSlot = 0;
+    if (!internalDrag_) drag_.Cancel = false;
 }
 
 // --- Counting ---

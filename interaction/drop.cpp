@@ -1,5 +1,4 @@
 // Drops: where the items go, moves, files and folders from outside, and showing the list anew.
-#include "interaction/droprow.h"
 #include "interaction/droptext.h"
 #include "platform/dataobject.h"
 #include "platform/draggedfile.h"
@@ -36,8 +35,7 @@ using sheet::DragEvent;
 
 void Vorlane::DropOnGround(const DragEvent& drop) {
     if (oleDropMode_ != kAutomaticDrop) {
-        ImgDrag.SetVisible(false);
-        DragRestoreLig(drag_.OpenRow);
+        CloseRow();
         if (!internalDrag_) RaiseDrop(drop);
         return;
     }
@@ -88,7 +86,6 @@ void Vorlane::TakeDrop(const DragEvent& drop) {
     } else if (!own) {
         Events.AfterDropAdd(0);
     }
-    drag_.OpenRow = droprow::kNoRow;
     drag_.DropSlot = 0;
     drag_.DropRightPart = false;
     RaiseDrop(drop);
@@ -99,8 +96,9 @@ void Vorlane::TakeDrop(const DragEvent& drop) {
 
 // The selected items go to the mark, with their keys, and stay selected. All of them come back, whatever has become of
 // their files, and also where a handler fails meanwhile; that failure is the drop's in the end.
-int32_t Vorlane::MoveFiles(ListBox& list, std::vector<DraggedFile> files) {
+int32_t Vorlane::MoveFiles(ListBox& list, const std::vector<DraggedFile>& files) {
     const std::vector<int32_t> items = SelectedTableau();
+    const std::vector<std::string> texts = MovedTexts(list, items, files);
     const int32_t place = DropPlace();
     const int32_t top = First().Value();
     const auto before = [&](int32_t index) {
@@ -110,31 +108,47 @@ int32_t Vorlane::MoveFiles(ListBox& list, std::vector<DraggedFile> files) {
     selection_.CurrentSlot = -1;
     RemoveAllSelected();
     const auto gone = static_cast<size_t>(count - list.ListCount());
-    if (files.size() == items.size()) files.erase(files.begin(), files.end() - static_cast<std::ptrdiff_t>(gone));
+    const size_t first = files.size() == items.size() ? files.size() - gone : 0;
     drag_.Moved = true;
     std::exception_ptr failed;
     int32_t next = ToInt32(Max(0, place - before(place)));
-    for (const DraggedFile& file : files) {
+    for (size_t i = first; i < files.size(); ++i) {
         try {
             Events.OLESortChanged();
         } catch (...) {
             if (!failed) failed = std::current_exception();
         }
-        PutItem(list, file, next);
+        PutItem(list, texts[i], files[i].Key, next);
         list.SetSelected(next, true);
         ++next;
     }
     ShowMoved(before(top));
     if (failed) std::rethrow_exception(failed);
-    return static_cast<int32_t>(files.size());
+    return static_cast<int32_t>(files.size() - first);
 }
 
-// Puts a file into the list, in front of index or, with -1, where the list takes it; a key of -1 becomes its index.
-void Vorlane::PutItem(ListBox& list, const DraggedFile& file, int32_t index) {
-    const std::string text = ItemText(SortKey(file.Path, items_.StdSortArgs), file.Path);
+// A moved item keeps its text, and with it the sort data that the host gave it. Only an entry that is another file by
+// now has new data.
+std::vector<std::string> Vorlane::MovedTexts(const ListBox& list, const std::vector<int32_t>& items,
+                                             const std::vector<DraggedFile>& files) const {
+    std::vector<std::string> texts;
+    texts.reserve(files.size());
+    for (size_t i = 0; i < files.size(); ++i) {
+        const bool same = files.size() == items.size() && ItemFullPath(items[i]) == files[i].Path;
+        texts.push_back(same ? list.List(items[i]) : TextOf(files[i]));
+    }
+    return texts;
+}
+
+std::string Vorlane::TextOf(const DraggedFile& file) const {
+    return ItemText(SortKey(file.Path, items_.StdSortArgs), file.Path);
+}
+
+// Puts an item into the list, in front of index or, with -1, where the list takes it; a key of -1 becomes its index.
+void Vorlane::PutItem(ListBox& list, const std::string& text, int32_t key, int32_t index) {
     index >= 0 ? list.AddItem(text, index) : list.AddItem(text);
     const int32_t at = list.NewIndex();
-    list.SetItemData(at, file.Key == -1 ? at : file.Key);
+    list.SetItemData(at, key == -1 ? at : key);
 }
 
 // Slide 0 shows the same item as before, unless it has moved itself.
@@ -169,7 +183,7 @@ int32_t Vorlane::AddFile(ListBox& list, DraggedFile file, int32_t place) {
     if (!internalDrag_) Events.OLENewFileAdded(file.Path, file.Key, cancel);
     if (cancel) return 0;
     if (place >= 0) Events.OLESortChanged();
-    PutItem(list, file, place);
+    PutItem(list, TextOf(file), file.Key, place);
     return 1;
 }
 

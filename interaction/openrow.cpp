@@ -104,6 +104,14 @@ void Vorlane::DragRestoreLig(int16_t row) {
     GuardVoid(restore, "DragRestoreLig", row);
 }
 
+// The mark goes, and all slides of the open row go home, also where it is still opening.
+void Vorlane::CloseRow() {
+    ++drag_.Ends;
+    ImgDrag.SetVisible(false);
+    DragRestoreLig(drag_.OpenRow);
+    drag_.OpenRow = droprow::kNoRow;
+}
+
 // The hovered slide makes room on the side of the pointer, and the mark goes there.
 void Vorlane::GiveWay(int16_t index, bool rightPart) {
     const auto slide = Diapo.Item(index);

@@ -597,6 +597,7 @@ private:
     void ConnectSlideDrags(const sheet::SlideMember& member);
     void ConnectGroundDrags();
     void ConnectDropsOn(Control& ground);
+    void ConnectDragsFrom(Control& ground);
     void SlideStartDrag(int16_t index, DataObject& data, int32_t& effects);
     void PutSelectionInto(DataObject& data) const;
     void ShowGhost(int16_t index);
@@ -628,6 +629,7 @@ private:
     void OpenRowAt(int16_t index, bool rightPart, bool force);
     bool Shift(const droprow::Range& range, size_t count);
     void DragRestoreLig(int16_t row);
+    void CloseRow();
     void GiveWay(int16_t index, bool rightPart);
     std::optional<droprow::Standing> Neighbour(int16_t index, int32_t neighbour) const;
     float MarkHeight() const;
@@ -639,8 +641,11 @@ private:
     void RaiseDrop(const sheet::DragEvent& drop);
     void TakeDrop(const sheet::DragEvent& drop);
     int32_t DropPlace() const;
-    int32_t MoveFiles(ListBox& list, std::vector<DraggedFile> files);
-    void PutItem(ListBox& list, const DraggedFile& file, int32_t index);
+    int32_t MoveFiles(ListBox& list, const std::vector<DraggedFile>& files);
+    std::vector<std::string> MovedTexts(const ListBox& list, const std::vector<int32_t>& items,
+                                        const std::vector<DraggedFile>& files) const;
+    std::string TextOf(const DraggedFile& file) const;
+    void PutItem(ListBox& list, const std::string& text, int32_t key, int32_t index);
     void ShowMoved(int32_t movedAbove);
     int32_t AddFiles(ListBox& list, const std::vector<DraggedFile>& files);
     int32_t AddFile(ListBox& list, DraggedFile file, int32_t place);

@@ -155,6 +155,55 @@ TEST_F(DragTest, ADragThatIsTakenElsewhereIsCompletedWithItsEffect) {
     EXPECT_EQ(Order(), "0 1 2 3 4 5 6");
 }
 
+// --- Drags of the ground ---
+
+TEST_F(DragTest, ADragOfTheSheetItselfIsToldToTheHost) {
+    ShowDraggable(7);
+    sheet->OLEDrag();
+    EXPECT_EQ(Told(), "ole StartDrag 1\nole CompleteDrag 0\n");
+    sheet->ImgDrag.OLEDrag();
+    EXPECT_EQ(Told(), "ole StartDrag 1\nole CompleteDrag 0\n") << "from the mark, too";
+}
+
+TEST_F(DragTest, WithOLEDragModeTwoTheGroundEndsADragAsASlideDoesAndTellsItTwice) {
+    ShowDraggable(7);
+    Click(1);
+    sheet->SetOLEDragMode(2);
+    sheet->OLEDrag();
+    EXPECT_EQ(Told(), "ole StartDrag 1\nole CompleteDrag 0\nole CompleteDrag 0\n");
+    EXPECT_EQ(sheet->CountSelected(), 0);
+}
+
+TEST_F(DragTest, FeedbackIsAlwaysToldAndDataAreAskedForOutsideOwnDragsOnly) {
+    ShowDraggable(7);
+    int32_t feedback = 0;
+    int32_t asked = 0;
+    sheet->Events.OLEGiveFeedback.connect([&](int32_t&, bool&) { ++feedback; });
+    sheet->Events.OLESetData.connect([&](DataObject&, int16_t&) { ++asked; });
+    bool cursors = true;
+    int32_t effect = 2;
+    int16_t format = 15;
+    DataObject data;
+    const auto tellAll = [&] {
+        sheet->Diapo.Item(0)->Events.OLEGiveFeedback(effect, cursors);
+        sheet->Input.OLEGiveFeedback(effect, cursors);
+        sheet->Diapo.Item(0)->Events.OLESetData(data, format);
+        sheet->Input.OLESetData(data, format);
+        sheet->ImgDrag.Input.OLESetData(data, format);
+    };
+    tellAll();
+    EXPECT_EQ(feedback, 2);
+    EXPECT_EQ(asked, 3);
+    DragSlide(1, [&](UserDrag&) {
+        feedback = 0;
+        asked = 0;
+        tellAll();
+        sheet->ImgDrag.Input.OLEGiveFeedback(effect, cursors);
+        EXPECT_EQ(feedback, 2);
+        EXPECT_EQ(asked, 0);
+    });
+}
+
 TEST_F(DragTest, AnotherDragCanFollow) {
     ShowDraggable(7);
     DragSlide(1, {});

@@ -50,6 +50,23 @@ TEST_F(DragTest, AHostThatCancelsADragFromOutsideKeepsItOffTheSheetAndIsAskedAga
     EXPECT_EQ(drag.Effect(), 1);
 }
 
+TEST_F(DragTest, ADragThatTheHostHasCancelledKeepsNoLaterOneOffTheSlides) {
+    ShowDraggable(7);
+    onBeforeStart = [](std::string&, bool& cancel) { cancel = true; };
+    DragSlide(1, {});
+    {
+        UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+        Over(drag, 4, 0.2F);
+        EXPECT_EQ(drag.Effect(), 1) << "after one from here";
+        drag.Over(window, kGroundX, kGroundY);
+        EXPECT_EQ(drag.Effect(), 0);
+        drag.Over(window, -20, 40);
+    }
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    Over(drag, 4, 0.2F);
+    EXPECT_EQ(drag.Effect(), 1) << "after one from outside";
+}
+
 TEST_F(DragTest, DataOfNoUseHasNoEffect) {
     ShowDraggable(7);
     UserDrag drag(desktop, DataObject{});
@@ -151,12 +168,14 @@ TEST_F(DragTest, AFolderBringsItsFiles) {
     ShowDraggable(2);
     std::filesystem::create_directories(folder.WithSeparator() + "album");
     RealFile("album/a.jpg");
+    RealFile("album/b.jpg");
+    RealFile("album/c.jpg");
     const std::string last = RealFile("z.jpg");
     UserDrag drag(desktop, Files({folder.WithSeparator() + "album", last}));
     EXPECT_EQ(sheet->CountObject(nullptr), 0);
     DropOn(drag, 1, 0.2F);
-    EXPECT_EQ(Names(), "000 a z 001");
-    EXPECT_THAT(Told(), HasSubstr("AfterDropAdd 2\n"));
+    EXPECT_EQ(Names(), "000 a b c z 001") << "in the folder's order";
+    EXPECT_THAT(Told(), HasSubstr("AfterDropAdd 4\n"));
 }
 
 TEST_F(DragTest, CountingTellsFilesAndTheFilesOfFolders) {
@@ -190,6 +209,30 @@ TEST_F(DragTest, ACancelBeforeADropFromOutsideChangesNothing) {
     EXPECT_EQ(Names(), "000 001");
     EXPECT_EQ(Mark(), "hidden");
     EXPECT_THAT(Told(), Not(HasSubstr("AfterDropAdd")));
+}
+
+TEST_F(DragTest, ARowOpensAnewForTheDragAfterADropThatWasNotTaken) {
+    ShowDraggable(7);
+    std::string opened;
+    {
+        UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+        onBeforeDrop = [](bool& cancel) { cancel = true; };
+        Over(drag, 4, 0.2F);
+        opened = Lefts(3, 5);
+        drag.Drop();
+        EXPECT_EQ(Lefts(3, 5), "5 111 217");
+    }
+    {
+        UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+        Over(drag, 4, 0.2F);
+        EXPECT_EQ(Lefts(3, 5), opened);
+        sheet->SetOLEDropMode(1);
+        drag.Drop(window, kGroundX, 120);
+        EXPECT_EQ(Lefts(3, 5), "5 111 217");
+    }
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    Over(drag, 4, 0.2F);
+    EXPECT_EQ(Lefts(3, 5), opened);
 }
 
 TEST_F(DragTest, WithASortInForceADropAddsAndSortsAgain) {

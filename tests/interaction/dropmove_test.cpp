@@ -43,6 +43,25 @@ TEST_F(DragTest, AMovedItemKeepsItsKeyAndStaysSelectedAlone) {
     EXPECT_EQ(States(), ".s.....");
 }
 
+TEST_F(DragTest, AMovedItemKeepsTheSortDataThatItsHostGave) {
+    ShowDraggable(3);
+    sheet->Add(File(3), "neuf\v1", 1003);
+    sheet->StartLecture();
+    DragSlide(3, [&](UserDrag& drag) { DropOn(drag, 0, 0.2F); });
+    EXPECT_EQ(Order(), "3 0 1 2");
+    EXPECT_EQ(sheet->Liste()->List(0), "neuf\v1\t" + File(3));
+}
+
+TEST_F(DragTest, AnEntryThatTheHostHasReplacedComesWithSortDataOfItsOwn) {
+    ShowDraggable(3);
+    const std::string other = RealFile("x.jpg");
+    onStart = [&](DataObject& data, int32_t&) { data.SetFiles({other + "|2000"}); };
+    DragSlide(2, [&](UserDrag& drag) { DropOn(drag, 0, 0.2F); });
+    EXPECT_EQ(Names(), "x 000 001");
+    EXPECT_EQ(sheet->Key(0), 2000);
+    EXPECT_THAT(sheet->Liste()->List(0), testing::StartsWith("x.jpg\v"));
+}
+
 TEST_F(DragTest, AMultipleSelectionClosesUpAtTheTargetInTheOrderOfTheList) {
     ShowDraggable(9);
     Click(0);
