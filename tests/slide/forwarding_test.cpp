@@ -34,10 +34,12 @@ TEST_F(ForwardingTest, AClickTellsTheButtonOfItsPress) {
     window.Click(50, 60);
     window.Click(20, 105, kRightButton, kCtrl);
     window.Click(4, 139, kMiddleButton);
+    window.Click(20, 120);
     EXPECT_EQ(Slide(),
               "slide MouseDown 1 0 50,60\nslide MouseUp 1 0 50,60\nslide Click 1\n"
               "slide MouseDown 2 2 20,105\nslide MouseUp 2 2 20,105\nslide Click 2\n"
-              "slide MouseDown 4 0 4,139\nslide MouseUp 4 0 4,139\nslide Click 4\n");
+              "slide MouseDown 4 0 4,139\nslide MouseUp 4 0 4,139\nslide Click 4\n"
+              "slide MouseDown 1 0 20,120\nslide MouseUp 1 0 20,120\nslide Click 1\n");
 }
 
 TEST_F(ForwardingTest, ADoubleClickTellsTheButtonOfItsFirstPress) {

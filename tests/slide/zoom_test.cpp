@@ -191,6 +191,20 @@ TEST_F(ZoomTest, AReleaseWhenThePlaceIsAskedForAgainLeavesNoWindowBehind) {
     EXPECT_EQ(desktop.forms.OpenForms(), 0);
 }
 
+TEST_F(ZoomTest, AMoveBeforeTheWindowShowsPullsItAndTheOpeningPutsItOverTheSlide) {
+    int32_t asked = 0;
+    onGetWindowsPos = [&] {
+        if (++asked == 2) window.MouseTo(33, 14);
+    };
+    Press();
+    const std::string happened = Happened();
+    EXPECT_NE(happened.find("slide GetWindowsPos\nform 3 show\nform 3 move 1000,500 190x150\n"
+                            "slide MouseMove 1 0 495,210\nform 3 move 1000,500 160x140\nform 3 show\n"),
+              std::string::npos)
+        << happened;
+    window.Release(33, 14);
+}
+
 TEST_F(ZoomTest, AFailureIsReportedAndTheNextPressIsHeard) {
     int32_t asked = 0;
     onGetWindowsPos = [&] {

@@ -169,6 +169,15 @@ TEST_F(WaitWindow, ANumberThatIsNoPlaceLeavesItWhereItStands) {
     EXPECT_TRUE(form.Visible());
 }
 
+TEST_F(WaitWindow, ANumberThatIsNoPlaceHasNoPassesEitherWay) {
+    form.Load();
+    Steps();
+    Open(static_cast<WaitPlace>(10), false);
+    EXPECT_EQ(Joined(Steps()), "move 0,0 30x40\nregion round 0,0,0,0 15x15\nshow\nregion round 0,0,30,40 15x15\n");
+    form.CloseWindow(false);
+    EXPECT_EQ(Joined(Steps()), "hide\nregion rect 0,0,30,40\nclose\n");
+}
+
 // --- Effects ---
 
 struct Sliding {
