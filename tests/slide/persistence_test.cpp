@@ -120,6 +120,16 @@ TEST_F(PersistenceTest, ANewSlideHasFlatFramesAndTheGroundOfItsContainer) {
     EXPECT_EQ(Persisted(slide), expected);
 }
 
+TEST_F(PersistenceTest, ANewSlideIsNotLaidOutBeforeItsFirstShow) {
+    Ambient designer;
+    designer.UserMode = false;
+    eDiapoLight designed{desktop.Roles(), designer};
+    designed.InitProperties();
+    EXPECT_TRUE(designed.Surface().Commands().empty());
+    designed.Show();
+    EXPECT_FALSE(designed.Surface().Commands().empty());
+}
+
 TEST_F(PersistenceTest, ANewSlideIsWhiteOnceItHasBeenSelected) {
     slide.InitProperties();
     slide.SetSelected(true);

@@ -220,6 +220,16 @@ TEST_F(PictureTest, WithoutAutoAdjustTheAreasFarCornerSetsThePlaceUntilTheNextLa
     EXPECT_EQ(Place(slide.Img), "9,16.5 146x73");
 }
 
+TEST_F(PictureTest, WithoutAutoAdjustASizeInAnAreaTurnedInsideOutStaysNegativeUntilTheNextLayout) {
+    slide.SetAutoAdjust(false);
+    slide.Move(0, 0, 1, 1);
+    slide.SetPicture(Bitmap(300, 150));
+    EXPECT_EQ(Place(slide.Img), "49.5,15 -106x-53");  // the area is -13 x -53, from 2, 10 to -11, -43
+    slide.Refresh();
+    EXPECT_EQ(slide.Img.Width(), 0);
+    EXPECT_EQ(slide.Img.Height(), 0);
+}
+
 TEST_F(PictureTest, NothingAtAllShowsTheSubstituteAndIsReportedOnce) {
     OwnAnswers();
     slide.SetPicture(Bitmap(300, 150));
