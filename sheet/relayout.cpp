@@ -95,7 +95,8 @@ void Vorlane::HideFrom(int32_t first) {
 // --- The layout ---
 
 // Lays out the first wanted slides and makes those that are missing. A failure behind the computing of the gaps ends
-// it silently. Only a stop that comes while it runs stops it. Gives whether it ran to its end.
+// it silently. Only a stop that comes while it runs stops it; the timer then lays out what is left of the slides,
+// unless another layout has done so. Gives whether it ran to its end.
 bool Vorlane::PlaceDiapos(int16_t wanted, float token, int16_t newWidth, int16_t newHeight) {
     const bool asIs = newWidth + newHeight == 0;
     Placement placement{};
@@ -108,9 +109,13 @@ bool Vorlane::PlaceDiapos(int16_t wanted, float token, int16_t newWidth, int16_t
     placement.Y = spread.FirstTop;
     bool complete = false;
     const bool stoppedBefore = std::exchange(pass_.StopLect, false);
-    Attempt([&] { complete = PlaceAll(placement); });
+    layout_.Stale = true;
+    const bool failed = !Attempt([&] { complete = PlaceAll(placement); });
     First().SetNoResize(false);  // also when it was stopped
     pass_.StopLect = pass_.StopLect || stoppedBefore;
+    const bool alive = items_.Liste != nullptr && HasSlides();
+    const bool stopped = !complete && (!failed || placement.Token != pass_.LectToken);
+    if (stopped && layout_.Stale && alive) TimerResize.SetEnabled(true);
     if (complete && (placement.AtEnd || pass_.Unfinished)) FollowBar();
     return complete;
 }
@@ -131,7 +136,7 @@ bool Vorlane::PlaceAll(Placement& placement) {
     HideFrom(ToInt32(Max(CountDiapo(), 1)));
     ShowGauge(false);
     InitVScroll(false);
-    layout_.Resizing = false;
+    layout_.Resizing = layout_.Stale = false;
     First().SetNoResize(false);
     Events.DisplayEnd();
     return true;

@@ -67,6 +67,7 @@ struct Layout {
     bool Ready = false;     // the properties are there; no resize counts before
     bool NotShown = true;   // the control has not come to the screen yet
     bool Resizing = false;  // a resize or a layout is under way
+    bool Stale = false;     // no layout has come to its end since the last one began
 };
 
 struct Selection {

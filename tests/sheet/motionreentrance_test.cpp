@@ -95,6 +95,22 @@ protected:
             EXPECT_TRUE(sheet->Diapo.Item(k)->Visible()) << "slide " << k;
         }
         ExpectSlidesAgreeWithList();
+        ExpectGrid();
+    }
+    // All slides have one size, and stand in rows and columns that do not overlap.
+    void ExpectGrid() {
+        const auto first = sheet->Diapo.Item(0);
+        for (int32_t k = 0; k < sheet->Diapo.Count(); ++k) {
+            const auto slide = sheet->Diapo.Item(k);
+            const int32_t column = k % sheet->CountDiapoX();
+            const int32_t row = k / sheet->CountDiapoX();
+            const float stepX = sheet->DiapoWidth(true);
+            const float stepY = sheet->DiapoHeight(true);
+            EXPECT_EQ(slide->Width(), first->Width()) << "slide " << k;
+            EXPECT_EQ(slide->Height(), first->Height()) << "slide " << k;
+            EXPECT_EQ(slide->Left(), first->Left() + static_cast<float>(column) * stepX) << "slide " << k;
+            EXPECT_EQ(slide->Top(), first->Top() + static_cast<float>(row) * stepY) << "slide " << k;
+        }
     }
     // The slides of a removal that passes an item over are in order but for the last one.
     void ExpectEachItemOnce() {

@@ -84,6 +84,20 @@ TEST_F(RelayoutTest, AnEmptySheetTakesAResizeWithoutATimer) {
     EXPECT_EQ(Heard(), "");
 }
 
+TEST_F(RelayoutTest, BeforeTheSheetComesToTheScreenAResizeOnlyCounts) {
+    sheet->ReadProperties({});
+    sheet->Move(0, 0, kWidth, kHeight);
+    AddItems(0, 39);
+    sheet->StartLecture();
+    sheet->Move(0, 0, 450, kHeight);
+    EXPECT_EQ(sheet->CountDiapo(), 12);
+    EXPECT_FALSE(sheet->TimerResize.Enabled());
+    sheet->Show();
+    sheet->Move(0, 0, kWidth, kHeight);
+    EXPECT_TRUE(sheet->TimerResize.Enabled());
+    desktop.clock.Advance(200);
+}
+
 TEST_F(RelayoutTest, TheListFollowsTheSheetsWidth) {
     Start();
     EXPECT_EQ(sheet->LstInterne.Width(), kWidth);
@@ -173,6 +187,49 @@ TEST_F(RelayoutTest, AFillInsideALayoutStopsTheLayout) {
     EXPECT_EQ(sheet->Diapo.Item(0)->Value(), 20);
     EXPECT_EQ(sheet->Diapo.Item(8)->Value(), 28);
     ExpectSlidesAgreeWithList();
+}
+
+TEST_F(RelayoutTest, WhatAStoppedLayoutHasLeftIsLaidOutByTheTimer) {
+    Show(40);
+    onAdded = [this, done = false](int16_t index) mutable {
+        if (index == 3 && !std::exchange(done, true)) sheet->StartLecture("", 1020);
+    };
+    window.Resize(kWidth + 30, kHeight);
+    EXPECT_EQ(Place(4), "111,86");
+    desktop.clock.Advance(1);
+    EXPECT_EQ(Place(4), "128,86");
+    desktop.clock.Advance(200);
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+}
+
+TEST_F(RelayoutTest, ALayoutInsideALayoutLeavesNothingToTheTimer) {
+    Show(40);
+    onAdded = [this, done = false](int16_t index) mutable {
+        if (index == 3 && !std::exchange(done, true)) window.Resize(kWidth + 50, kHeight);
+    };
+    window.Resize(kWidth + 30, kHeight);
+    EXPECT_FALSE(sheet->TimerResize.Enabled());
+    const std::string nested = Place(1) + " " + Place(8);
+    window.Resize(kWidth + 30, kHeight);
+    window.Resize(kWidth + 50, kHeight);
+    EXPECT_EQ(nested, Place(1) + " " + Place(8)) << "the newer one's";
+}
+
+TEST_F(RelayoutTest, ASheetThatEndsInsideALayoutLeavesNoTimer) {
+    Show(40);
+    onAdded = [this](int16_t index) {
+        if (index == 3) sheet->Terminate();
+    };
+    window.Resize(kWidth + 30, kHeight);
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+}
+
+TEST_F(RelayoutTest, AThrowInsideALayoutThatIsDoneAtOnceEndsItSilently) {
+    Show(40);
+    onAdded = [](int16_t) { throw std::runtime_error("no"); };
+    window.Resize(kWidth + 30, kHeight);
+    EXPECT_EQ(Heard(), "host DisplayStart\nhost Added 0 000.jpg\n");
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
 }
 
 TEST_F(RelayoutTest, ClearInsideALayoutEndsItSilently) {
