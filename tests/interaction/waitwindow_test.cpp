@@ -1,4 +1,5 @@
 // The wait window over the grid, and how it follows the sheet's window.
+#include "tests/interaction/dragfixture.h"
 #include "tests/sheet/sheetfixture.h"
 #include "windows/frmwait.h"
 
@@ -106,6 +107,31 @@ TEST_F(WaitWindowTest, AMoveWithTheWaitWindowClosedIsPassedOnWithoutWork) {
     window.MoveTo(0, 50);
     EXPECT_FALSE(Form().Loaded());
     EXPECT_EQ(Heard({"form"}), "");
+}
+
+// Drags a slide while the wait window stands.
+class DraggedWaitTest : public DragTest {
+protected:
+    ~DraggedWaitTest() override { sheet.reset(); }
+    WinRect Stands() { return desktop.windows.GetWindowRect(SharedFrmWait(desktop.Roles()).Hwnd()); }
+};
+
+TEST_F(DraggedWaitTest, AMoveDuringADragOfItsOwnSlidesIsPassedOnWithoutWork) {
+    ShowDraggable(7);
+    sheet->WaitShow("wait", WaitPlace::BottomRight, true);
+    const WinRect before = Stands();
+    bool dragged = false;
+    DragSlide(1, [&](UserDrag& drag) {
+        dragged = true;
+        desktop.windows.Place(window.Handle(), {10, 20, 210, 220});
+        desktop.windows.Send(window.Handle(), WM_MOVE);
+        EXPECT_EQ(Stands(), before);
+        drag.Escape();
+    });
+    EXPECT_TRUE(dragged);
+    desktop.windows.Send(window.Handle(), WM_MOVE);
+    EXPECT_EQ(Stands().Bottom, 220) << "the drag is over";
+    sheet->WaitClose(true);
 }
 
 TEST_F(WaitWindowTest, AnotherMessageIsPassedOnWithoutWork) {
