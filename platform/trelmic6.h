@@ -97,7 +97,9 @@ public:
     Picture ResizePicture(const Picture& picture, int32_t width, int32_t height) const {
         return desktop_.pictures.ResizePicture(picture, width, height);
     }
-    double SoundSeconds(const std::string& path) const { return desktop_.sounds.SoundSeconds(path); }
+    // The length of a sound file in whole seconds, rounded; 0 when it can't be told. Fails with Overflow() beyond 32
+    // bits.
+    int32_t SoundSeconds(const std::string& path) const { return ToInt32(desktop_.sounds.SoundSeconds(path)); }
     Sounds& SoundPlayer() const { return desktop_.sounds; }
 
     // --- The system ---

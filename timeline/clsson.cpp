@@ -36,7 +36,7 @@ void ClsSon::Add(const std::string& soundFileName, int32_t diapoKey, int32_t dia
     if (Trelmic6::PathExists(soundFileName, PathKind::File)) {
         tSon son;
         son.Nom = soundFileName;
-        son.Durée = ToInt32(utilities_.SoundSeconds(soundFileName));
+        son.Durée = utilities_.SoundSeconds(soundFileName);
         son.DiapoKey = diapoKey;
         son.Repetition = repetition;
         son.Rehausse = rehausse;

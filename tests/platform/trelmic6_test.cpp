@@ -1,5 +1,6 @@
 #include "platform/trelmic6.h"
 
+#include "platform/failure.h"
 #include "platform/headless/desktop.h"
 
 #include <gtest/gtest.h>
@@ -59,9 +60,16 @@ TEST_F(Trelmic6Test, PicturesAndSoundsComeFromTheDesktop) {
     EXPECT_EQ(trelmic.LoadImageFile("/a.jpg"), picture);
     EXPECT_EQ(trelmic.LoadImageFile("/b.jpg"), std::nullopt);
     EXPECT_EQ(headless::NameOf(trelmic.ResizePicture(picture, 100, 50)), "resized:/a.jpg");
+}
+
+TEST_F(Trelmic6Test, ASoundLastsWholeSeconds) {
     desktop.sounds.Add("/a.mp3", 12.5);
-    EXPECT_EQ(trelmic.SoundSeconds("/a.mp3"), 12.5);
+    desktop.sounds.Add("/c.mp3", 12.6);
+    desktop.sounds.Add("/d.mp3", 3e9);
+    EXPECT_EQ(trelmic.SoundSeconds("/a.mp3"), 12) << "a half goes to the even one";
+    EXPECT_EQ(trelmic.SoundSeconds("/c.mp3"), 13);
     EXPECT_EQ(trelmic.SoundSeconds("/b.mp3"), 0);
+    EXPECT_THROW(trelmic.SoundSeconds("/d.mp3"), Failure);
 }
 
 TEST_F(Trelmic6Test, TheSystemIsOfTheNewestKind) {
