@@ -110,6 +110,16 @@ TEST_F(DragTest, ADragThatEndsWhileARowOpensLeavesItClosed) {
     EXPECT_EQ(Mark(), "hidden");
 }
 
+TEST_F(DragTest, ARowThatHasLostASlideIsReportedWhenItCloses) {
+    ShowDraggable(7);
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    Over(drag, 1, 0.2F);
+    ASSERT_NE(Mark(), "hidden");
+    sheet->Diapo.Unload(2);
+    sheet->OleResetDrag();
+    EXPECT_THAT(Heard(), testing::HasSubstr("host Error 340 Vorlane DragRestoreLig DpCnt=6 - 1\n"));
+}
+
 TEST_F(DragTest, WhileARowOpensNoOtherOneDoes) {
     ShowDraggable(7);
     DragSlide(1, [&](UserDrag& drag) {

@@ -65,6 +65,12 @@ TEST_F(DragTest, ADragThatTheHostHasCancelledKeepsNoLaterOneOffTheSlides) {
     UserDrag drag(desktop, Files({RealFile("x.jpg")}));
     Over(drag, 4, 0.2F);
     EXPECT_EQ(drag.Effect(), 1) << "after one from outside";
+TEST_F(DragTest, AHostThatFailsWhenADragFromOutsideEntersIsReportedWithTheGroundsName) {
+    ShowDraggable(7);
+    onBeforeStart = [](std::string&, bool&) { throw failures::TypeMismatch(); };
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    drag.Over(window, kGroundX, kGroundY);
+    EXPECT_THAT(Heard(), HasSubstr("host Error 13 Vorlane UserControl_OLEDragOver DpCnt=7"));
 }
 
 TEST_F(DragTest, DataOfNoUseHasNoEffect) {
@@ -176,6 +182,22 @@ TEST_F(DragTest, AFolderBringsItsFiles) {
     DropOn(drag, 1, 0.2F);
     EXPECT_EQ(Names(), "000 a b c z 001") << "in the folder's order";
     EXPECT_THAT(Told(), HasSubstr("AfterDropAdd 4\n"));
+}
+
+TEST_F(DragTest, AHostThatFailsAtAFileOfAFolderEndsThatFolderWithAnError) {
+    ShowDraggable(2);
+    std::filesystem::create_directories(folder.WithSeparator() + "album");
+    RealFile("album/a.jpg");
+    RealFile("album/b.jpg");
+    const std::string last = RealFile("z.jpg");
+    onNewFile = [](const std::string& name, int32_t&, bool&) {
+        if (name.ends_with("b.jpg")) throw failures::TypeMismatch();
+    };
+    UserDrag drag(desktop, Files({folder.WithSeparator() + "album", last}));
+    DropOn(drag, 1, 0.2F);
+    EXPECT_THAT(Heard(),
+                HasSubstr("host Error 13 Vorlane AddFolder DpCnt=2 - " + folder.WithSeparator() + "album - 1\n"));
+    EXPECT_EQ(Names(), "000 z a 001") << "what has come in stays";
 }
 
 TEST_F(DragTest, CountingTellsFilesAndTheFilesOfFolders) {

@@ -187,6 +187,12 @@ TEST_F(DisplayTest, ANegativeKeyWithoutANameDoesNothing) {
     EXPECT_EQ(Heard(), "");
 }
 
+TEST_F(DisplayTest, ANegativeKeyWithANameStartsAtTheName) {
+    Show(40);
+    EXPECT_EQ(sheet->StartLecture("/p/017.jpg", -5), 0);
+    EXPECT_EQ(sheet->Diapo.Item(0)->Value(), 17);
+}
+
 // --- The slides of a fill ---
 
 TEST_F(DisplayTest, TheCellsAreSpreadOverTheSheet) {
@@ -235,6 +241,13 @@ TEST_F(DisplayTest, ARefusedItemLeavesItsPlaceToTheNext) {
     EXPECT_EQ(Slides(), "2 3 4 5 6 7 8");
     EXPECT_EQ(Place(0), "5,5");
     EXPECT_EQ(Place(1), "111,5");
+}
+
+TEST_F(DisplayTest, TheHostIsAskedWithTheExtensionInSmallLetters) {
+    Start();
+    sheet->Add("/p/A.JPG", "");
+    sheet->StartLecture();
+    EXPECT_THAT(Heard(), testing::HasSubstr("host BeforeAdd A.JPG jpg\n"));
 }
 
 TEST_F(DisplayTest, TheHostMayGiveAnotherFileBeforeASlideIsMade) {
