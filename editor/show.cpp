@@ -44,9 +44,11 @@ void Show::showAgain() {
 // --- Without a way back ---
 
 void Show::clear() {
-    sheet_.Clear();
     undo_.clear();
     nextKey_ = 0;
+    busy_ = true;  // the sheet yields while it clears
+    sheet_.Clear();
+    busy_ = false;
 }
 
 void Show::append(const FolderItem& item) {

@@ -97,9 +97,10 @@ void Vorlane::Clear() {
     }
     ListBox* list = Bound().AsListBox();
     if (list != nullptr && list->Hwnd() == LstInterne.Hwnd()) list->Clear();
-    selection_.CurrentSlot = -1;
-    selection_.CurrentListIndex = -1;
-    InitVScroll(true);
+    SelectedClear();
+    const bool blank = First().Value() < 0;  // what its yield has shown anew stays
+    if (blank) pass_.StopLect = true;
+    InitVScroll(blank);
     Events.TLClear();
 }
 

@@ -116,7 +116,8 @@ public:
     // the item behind the next one.
     void Remove(int16_t index);
     void RemoveAllSelected();
-    // Unloads the slides and empties the sheet's own list; a list of the host's keeps its items.
+    // Unloads the slides and empties the sheet's own list; a list of the host's keeps its items, but not its selection.
+    // Yields once.
     void Clear();
     // Clear and StartLecture: shows a host's list anew, and leaves an empty sheet otherwise.
     void Refresh();

@@ -103,6 +103,47 @@ TEST_F(ItemsTest, ClearLeavesAHostsListItsItems) {
     EXPECT_EQ(Slides(), "(.)");
 }
 
+TEST_F(ItemsTest, ClearLeavesNothingSelectedInAHostsListAndTellsItsProgress) {
+    VectorListBox list(500);
+    for (int32_t n = 0; n < 3; ++n) list.AddItem("\t" + File(n));
+    sheet->InitListe(ListeModeType::lmList, &list);
+    sheet->StartLecture();
+    list.SetSelected(0, true);
+    list.SetSelected(2, true);
+    desktop.trace.Clear();
+    sheet->Clear();
+    EXPECT_EQ(Heard({"host", "yield"}),
+              "yield\nhost TraitementFeedBack 1/2\nhost TraitementFeedBack 2/2\nhost TLClear\n");
+    EXPECT_EQ(list.SelCount(), 0);
+    list.SetSelected(1, true);
+    sheet->InitListe(ListeModeType::lmList, &list);
+    EXPECT_EQ(list.SelCount(), 0) << "binding clears too";
+}
+
+TEST_F(ItemsTest, AFileListKeepsItsFilesWhenTheSheetIsCleared) {
+    const TemporaryFolder folder;
+    folder.File("a.jpg");
+    sheet->InitListe(ListeModeType::lmFileList, nullptr, folder.WithSeparator());
+    sheet->StartLecture();
+    sheet->FileInterne.SetSelected(0, true);
+    sheet->Clear();
+    EXPECT_EQ(sheet->Count(), 1);
+    EXPECT_EQ(sheet->CountSelected(), 0);
+    EXPECT_EQ(Slides(), "(.)");
+}
+
+TEST_F(ItemsTest, WhatIsShownAtTheYieldOfClearStays) {
+    VectorListBox list(500);
+    for (int32_t n = 0; n < 40; ++n) list.AddItem("\t" + File(n));
+    sheet->InitListe(ListeModeType::lmList, &list);
+    sheet->StartLecture();
+    desktop.clock.AtYield(1, [this] { sheet->StartLecture(File(12)); });
+    sheet->Clear();
+    EXPECT_EQ(Slides(), "12 13 14 15 16 17 18 19 20");
+    EXPECT_EQ(sheet->VScroll.Value(), 12);
+    ExpectSlidesAgreeWithList();
+}
+
 TEST_F(ItemsTest, RefreshShowsAHostsListAgainAndEmptiesTheSheetOtherwise) {
     VectorListBox list(500);
     list.AddItem("\t" + File(3));
@@ -239,6 +280,24 @@ TEST_F(ItemsTest, AListWithoutMultiSelectIsBoundWithAMessageAndTheOldSlidesStay)
     EXPECT_EQ(sheet->Path(), "");
 }
 
+TEST_F(ItemsTest, BehindInitListeAPathIsReadAgainAlsoAfterARefusedList) {
+    const TemporaryFolder folder;
+    folder.File("a.jpg");
+    VectorListBox list(500, 0);
+    sheet->InitListe(ListeModeType::lmList, &list);
+    sheet->InitListe(ListeModeType::lmList);
+    sheet->SetPath(folder.WithSeparator());
+    EXPECT_EQ(Names(), "a.jpg");
+}
+
+TEST_F(ItemsTest, InitListeWithoutSortFlagsKeepsTheLastOnes) {
+    const TemporaryFolder folder;
+    folder.Sparse("b.jpg", 12);
+    sheet->InitListe(ListeModeType::lmList, nullptr, "", "", saExtension);
+    sheet->InitListe(ListeModeType::lmList, nullptr, folder.WithSeparator());
+    EXPECT_EQ(sheet->LstInterne.List(0), "b.jpg\x0Bjpgb.jpg\t" + folder.WithSeparator() + "b.jpg");
+}
+
 TEST_F(ItemsTest, InitListeReadsAFolderIntoTheSheetsOwnList) {
     const TemporaryFolder folder;
     folder.Sparse("B.jpg", 12);
@@ -351,6 +410,16 @@ TEST_F(ItemsTest, AFileListFollowsPathAndPattern) {
     sheet->SetPattern("*.png");
     EXPECT_EQ(Names(), "b.png");
     EXPECT_EQ(sheet->LstInterne.ListCount(), 0);
+}
+
+TEST_F(ItemsTest, AFileListThatStandsInTheFolderAlreadyIsNotReadAgain) {
+    const TemporaryFolder folder;
+    folder.File("a.jpg");
+    sheet->InitListe(ListeModeType::lmFileList);
+    sheet->FileInterne.Read(folder.Path(), "*.*");
+    folder.File("b.jpg");
+    sheet->SetPath(folder.WithSeparator());
+    EXPECT_EQ(Names(), "a.jpg");
 }
 
 TEST_F(ItemsTest, AHostsListIsNotFilledFromThePath) {
