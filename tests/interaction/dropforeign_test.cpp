@@ -65,6 +65,8 @@ TEST_F(DragTest, ADragThatTheHostHasCancelledKeepsNoLaterOneOffTheSlides) {
     UserDrag drag(desktop, Files({RealFile("x.jpg")}));
     Over(drag, 4, 0.2F);
     EXPECT_EQ(drag.Effect(), 1) << "after one from outside";
+}
+
 TEST_F(DragTest, AHostThatFailsWhenADragFromOutsideEntersIsReportedWithTheGroundsName) {
     ShowDraggable(7);
     onBeforeStart = [](std::string&, bool&) { throw failures::TypeMismatch(); };
