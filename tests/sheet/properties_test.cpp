@@ -245,7 +245,9 @@ TEST_F(PropertiesTest, InDropModeTwoAllTakeModeOne) {
     EXPECT_EQ(sheet->ImgDrag.OLEDropMode(), 1);
     EXPECT_EQ(static_cast<Control&>(*sheet).OLEDropMode(), 1);
     sheet->SetOLEDropMode(0);
+    sheet->SetOLEDropMode(0);
     EXPECT_EQ(sheet->ImgDrag.OLEDropMode(), 0);
+    EXPECT_EQ(Heard(), "host PropertyChanged OLEDropMode\nhost PropertyChanged OLEDropMode\n");
 }
 
 // --- Other answers ---
