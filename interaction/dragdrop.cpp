@@ -13,7 +13,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr int32_t kMove = 2;
 constexpr int16_t kGroundCompletes = 2;  // of OLEDragMode
 
 }  // namespace
@@ -108,7 +107,7 @@ void Vorlane::SlideStartDrag(int16_t index, DataObject& data, int32_t& effects) 
             if (!data.GetFormat(kFormatFiles)) effects = 0;
             return Events.OLEStartDrag(data, effects);
         }
-        effects |= kMove;
+        effects |= kDropMoves;
         drag_.Cancel = false;
         Events.OLEBeforeStartDrag(ToInt32(data.Files().size()), drag_.DisplayText, drag_.Cancel);
         if (drag_.Cancel) return;

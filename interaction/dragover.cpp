@@ -13,8 +13,6 @@ namespace vorlane {
 namespace {
 
 constexpr int32_t kEscape = 27;
-constexpr int32_t kCopy = 1;
-constexpr int32_t kMove = 2;
 
 bool HoldsFiles(const DataObject& data) {
     return data.GetFormat(kFormatFiles) || data.GetFormat(kFormatText);
@@ -41,7 +39,7 @@ bool Vorlane::HasPlaceFor(const DragEvent& drag) {
     if (!takes || (sorts && internalDrag_)) {
         drag.Effect = 0;
     } else {
-        drag.Effect |= internalDrag_ ? kMove : kCopy;
+        drag.Effect |= internalDrag_ ? kDropMoves : kDropCopies;
     }
     if (takes && !sorts) return true;
     ImgDrag.SetVisible(false);
@@ -117,8 +115,7 @@ void Vorlane::OpenUnder(const DragEvent& drag) {
 void Vorlane::LeaveGround(const DragEvent& drag) {
     const Point pointer = Trelmic6(Desktop()).CursorPos();
     const WinRect sheet = Desktop().windows.GetWindowRect(Hwnd());
-    const bool barAtRight = VScroll.Visible() && bar_.ScrollDirection == ScrollDirectionType::sdVertical;
-    const double right = sheet.Right - (barAtRight ? static_cast<double>(VScroll.Width()) : 0);
+    const double right = sheet.Right - double{grid::BarTakesWidth(Frame())};
     const bool inside =
         pointer.X >= sheet.Left && pointer.X < right && pointer.Y >= sheet.Top && pointer.Y < sheet.Bottom;
     if (inside && drag.X >= 0) return;

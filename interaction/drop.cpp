@@ -14,9 +14,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr int16_t kManualDrop = 1;  // of OLEDropMode
-constexpr int16_t kAutomaticDrop = 2;
-
 std::vector<DraggedFile> FilesOf(const DataObject& data) {
     std::vector<DraggedFile> files;
     if (data.GetFormat(kFormatFiles)) {

@@ -19,8 +19,6 @@ constexpr int16_t kRight = 2;
 constexpr int32_t kShiftKey = 16;
 constexpr int32_t kCtrlKey = 17;
 
-constexpr int16_t kAutomaticDrag = 1;
-constexpr int16_t kAutomaticDrop = 2;
 constexpr float kDragWay = 50;  // twips on both axes together
 
 }  // namespace

@@ -75,8 +75,7 @@ void Vorlane::OpenRowAt(int16_t index, bool rightPart, bool force) {
 // Moves the first count slides of a row to the left and the others to the right. Whether the drag goes on.
 bool Vorlane::Shift(const droprow::Range& range, size_t count) {
     const uint32_t ends = drag_.Ends;
-    const bool barAtRight = VScroll.Visible() && bar_.ScrollDirection == ScrollDirectionType::sdVertical;
-    const float end = grid_.Area.AreaWidth - (barAtRight ? VScroll.Width() : 0);
+    const float end = grid_.Area.AreaWidth - grid::BarTakesWidth(Frame());
     for (int32_t n = 1; static_cast<float>(n) <= ImgDrag.Width(); n += kStep) {
         Attempt([&] {
             auto row = StandingsOf(range);

@@ -81,37 +81,27 @@ void Vorlane::ShowSelection() {
     });
 }
 
+void Vorlane::SelectWhole(bool (*wanted)(bool selected), void (MemoryListBox::*atOnce)()) {
+    ForEachSlide([&](eDiapoLight& slide) {
+        Select(slide, selection_.SelectedColor, slide.Value() >= 0 && wanted(slide.Selected()));
+    });
+    SetCurrent(-1);
+    Desktop().clock.DoEvents();
+    const Hourglass hourglass(Desktop().screen);
+    if (MemoryListBox* list = UnwatchedList()) {
+        (list->*atOnce)();
+    } else {
+        SelectItems(wanted);
+    }
+    ShowSelection();
+}
+
 void Vorlane::SelectAll() {
-    const auto select = [&] {
-        ForEachSlide([&](eDiapoLight& slide) { Select(slide, selection_.SelectedColor, slide.Value() >= 0); });
-        SetCurrent(-1);
-        Desktop().clock.DoEvents();
-        const Hourglass hourglass(Desktop().screen);
-        if (MemoryListBox* list = UnwatchedList()) {
-            list->SelectAll();
-        } else {
-            SelectItems([](bool) { return true; });
-        }
-        ShowSelection();
-    };
-    GuardVoid(select, "SelectAll");
+    GuardVoid([&] { SelectWhole([](bool) { return true; }, &MemoryListBox::SelectAll); }, "SelectAll");
 }
 
 void Vorlane::SelectInvert() {
-    const auto invert = [&] {
-        ForEachSlide([&](eDiapoLight& slide) {
-            Select(slide, selection_.SelectedColor, slide.Value() >= 0 && !slide.Selected());
-        });
-        SetCurrent(-1);
-        Desktop().clock.DoEvents();
-        const Hourglass hourglass(Desktop().screen);
-        if (MemoryListBox* list = UnwatchedList()) {
-            list->InvertSelection();
-        } else {
-            SelectItems([](bool selected) { return !selected; });
-        }
-        ShowSelection();
-    };
+    const auto invert = [&] { SelectWhole([](bool selected) { return !selected; }, &MemoryListBox::InvertSelection); };
     GuardVoid(invert, "SelectInvert");
 }
 

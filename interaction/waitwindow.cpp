@@ -20,11 +20,9 @@ constexpr std::array<int32_t, 4> kFollowed{WM_SIZE, WM_SIZING, WM_MOVE, WM_MOVIN
 // The sheet's rectangle on the screen, without a bar that shows.
 WinRect Vorlane::GridOnScreen() const {
     WinRect rect = Desktop().windows.GetWindowRect(Hwnd());
-    if (!VScroll.Visible()) return rect;
-    const bool vertical = bar_.ScrollDirection == ScrollDirectionType::sdVertical;
-    const bool horizontal = bar_.ScrollDirection == ScrollDirectionType::sdHorizontal;
-    if (vertical) rect.Right = ToInt32(rect.Right - double{VScroll.Width()});
-    if (horizontal) rect.Bottom = ToInt32(rect.Bottom - double{VScroll.Height()});
+    const grid::Frame frame = Frame();
+    rect.Right = ToInt32(rect.Right - double{grid::BarTakesWidth(frame)});
+    rect.Bottom = ToInt32(rect.Bottom - double{grid::BarTakesHeight(frame)});
     return rect;
 }
 

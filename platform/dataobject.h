@@ -11,6 +11,9 @@ namespace vorlane {
 inline constexpr int16_t kFormatText = 1;
 inline constexpr int16_t kFormatFiles = 15;
 
+// What a drop does, and what a drag allows: a sum.
+enum DropEffect : int32_t { kDropCopies = 1, kDropMoves = 2 };
+
 class DataObject {
 public:
     void Clear() { *this = DataObject{}; }

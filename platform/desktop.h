@@ -84,6 +84,13 @@ public:
 
 class ISubclass;
 
+// How a window is repainted: a sum.
+enum RedrawFlags : int32_t {
+    RDW_INVALIDATE = 1,   // the part counts as changed
+    RDW_NOCHILDREN = 64,  // not its children
+    RDW_UPDATENOW = 256,  // before the call returns
+};
+
 // The windows that hold controls.
 class Windows {
 public:
@@ -96,8 +103,7 @@ public:
     virtual Point ClientToScreen(Hwnd window, Point place) const = 0;
     // What is to be seen in part of the window, in its own pixels; what lies over the window is left out.
     virtual Picture Grab(Hwnd window, const WinRect& part) = 0;
-    // Repaints part of the window, in its own pixels, before returning when flags say so (256: update now; 64: not
-    // its children; 1: count it as changed).
+    // Repaints part of the window, in its own pixels, as the flags say: a sum of RedrawFlags.
     virtual void RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) = 0;
     // The part of the window that there is, in its pixels. It replaces the former one and stays through later moves.
     virtual void SetWindowRgn(Hwnd window, const Region& region, bool redraw) = 0;

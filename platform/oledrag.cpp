@@ -8,8 +8,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr int32_t kCopy = 1;
-
 void AskForContent(DataObject& data, InputEvents& input) {
     int16_t text = kFormatText;
     int16_t files = kFormatFiles;
@@ -24,7 +22,7 @@ void Control::OLEDrag() {
     auto* root = dynamic_cast<UserControl*>(&Root());
     if (root == nullptr) throw failures::ObjectNotSet();
     DataObject data;
-    int32_t allowed = kCopy;
+    int32_t allowed = kDropCopies;
     Input.OLEStartDrag(data, allowed);
     AskForContent(data, Input);
     const auto feedback = [this](int32_t effect) {

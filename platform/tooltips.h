@@ -27,7 +27,7 @@ using TooltipParameter = std::variant<int32_t, std::string, TOOLINFO>;
 // What a tooltip window understands, with its parameters.
 enum TooltipMessage : int32_t {
     TTM_ACTIVATE = 1025,         // whether the tooltip works
-    TTM_SETDELAYTIME = 1027,     // 2 how long it stays, 3 how long until it shows; milliseconds
+    TTM_SETDELAYTIME = 1027,     // TooltipDelay; milliseconds
     TTM_ADDTOOLA = 1028,         // 0; tool
     TTM_DELTOOLA = 1029,         // 0; tool
     TTM_UPDATETIPTEXTA = 1036,   // 0; tool
@@ -36,6 +36,12 @@ enum TooltipMessage : int32_t {
     TTM_SETTIPBKCOLOR = 1043,    // colour
     TTM_SETTIPTEXTCOLOR = 1044,  // colour
     TTM_SETTITLEA = 1056,        // icon: 0 none, 1 information, 2 warning, 3 error; text
+};
+
+// Which delay TTM_SETDELAYTIME sets.
+enum TooltipDelay : int32_t {
+    TTDT_AUTOPOP = 2,  // how long it stays
+    TTDT_INITIAL = 3,  // how long until it shows
 };
 
 // Sum of the ways a tooltip window can look.

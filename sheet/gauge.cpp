@@ -11,10 +11,6 @@ constexpr float kSlidingHeight = 15;
 constexpr float kSlidingGap = 2;    // at its right
 constexpr int32_t kStepPause = 10;  // milliseconds
 
-constexpr int32_t kInvalidate = 1;
-constexpr int32_t kNoChildren = 64;
-constexpr int32_t kUpdateNow = 256;
-
 WinRect ToWinRect(const Box& box) {
     return {ToInt32(box.Left), ToInt32(box.Top), ToInt32(box.Right()), ToInt32(box.Bottom())};
 }
@@ -24,22 +20,22 @@ WinRect ToWinRect(const Box& box) {
 // --- Repainting at once ---
 
 void Vorlane::Repaint() {
-    Desktop().windows.RedrawWindow(Hwnd(), ToWinRect({0, 0, ScaleWidth(), ScaleHeight()}), kUpdateNow | kInvalidate);
+    Desktop().windows.RedrawWindow(Hwnd(), ToWinRect({0, 0, ScaleWidth(), ScaleHeight()}),
+                                   RDW_UPDATENOW | RDW_INVALIDATE);
 }
 
 // The slide's width and height stand in the places of right and bottom.
 void Vorlane::RepaintSlide(const eDiapoLight& slide) {
     const WinRect part{ToInt32(slide.Left()), ToInt32(slide.Top()), ToInt32(slide.Width()), ToInt32(slide.Height())};
-    Desktop().windows.RedrawWindow(Hwnd(), part, kUpdateNow | kNoChildren);
+    Desktop().windows.RedrawWindow(Hwnd(), part, RDW_UPDATENOW | RDW_NOCHILDREN);
 }
 
 // --- The gauge ---
 
 // The corner of what the bar leaves free, as the size from the sheet's own corner.
 Box Vorlane::GaugeArea() const {
-    const bool below = bar_.ScrollDirection == ScrollDirectionType::sdHorizontal && VScroll.Visible();
-    const bool beside = bar_.ScrollDirection == ScrollDirectionType::sdVertical && VScroll.Visible();
-    return {0, 0, ScaleWidth() - (beside ? VScroll.Width() : 0), ScaleHeight() - (below ? VScroll.Height() : 0)};
+    const grid::Frame frame = Frame();
+    return {0, 0, ScaleWidth() - grid::BarTakesWidth(frame), ScaleHeight() - grid::BarTakesHeight(frame)};
 }
 
 void Vorlane::ShowGauge(bool show) {
@@ -73,7 +69,7 @@ void Vorlane::SlideGaugeOut() {
 
 void Vorlane::StepGauge(const Box& area, float top) {
     Jauge.Move(area.Right() - Jauge.Width() - kSlidingGap, top);
-    Desktop().windows.RedrawWindow(Hwnd(), ToWinRect(Jauge.Bounds()), kUpdateNow | kNoChildren);
+    Desktop().windows.RedrawWindow(Hwnd(), ToWinRect(Jauge.Bounds()), RDW_UPDATENOW | RDW_NOCHILDREN);
     Desktop().clock.Sleep(kStepPause);
 }
 

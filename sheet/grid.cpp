@@ -48,16 +48,22 @@ Spread ComputeSpread(const Area& area, int16_t columns, int16_t rows, double sli
             ToInt16(Max(Int(Quotient(freeY, rows + 1)), area.StartY))};
 }
 
+float BarTakesWidth(const Frame& frame) {
+    return frame.Direction == ScrollDirectionType::sdVertical && frame.BarVisible ? frame.BarWidth : 0;
+}
+
+float BarTakesHeight(const Frame& frame) {
+    return frame.Direction == ScrollDirectionType::sdHorizontal && frame.BarVisible ? frame.BarHeight : 0;
+}
+
 float VisibleWidth(const Frame& frame) {
     const float extra = frame.Direction == ScrollDirectionType::sdHorizontal ? frame.SlideWidth : 0;
-    const bool bar = frame.Direction == ScrollDirectionType::sdVertical && frame.BarVisible;
-    return extra + frame.ScaleWidth - (bar ? frame.BarWidth : 0);
+    return extra + frame.ScaleWidth - BarTakesWidth(frame);
 }
 
 float VisibleHeight(const Frame& frame) {
     const float extra = frame.Direction == ScrollDirectionType::sdVertical ? frame.SlideHeight : 0;
-    const bool bar = frame.Direction == ScrollDirectionType::sdHorizontal && frame.BarVisible;
-    return extra + frame.ScaleHeight - (bar ? frame.BarHeight : 0);
+    return extra + frame.ScaleHeight - BarTakesHeight(frame);
 }
 
 int16_t CellAt(const Frame& frame, int16_t columns, int16_t rows, double x, double y) {

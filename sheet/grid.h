@@ -55,6 +55,10 @@ int16_t PoolSize(int16_t columns, int16_t rows);
 Spread ComputeSpread(const Area& area, int16_t columns, int16_t rows, double slideWidth, double slideHeight,
                      int16_t minGap, bool autoAdjust);
 
+// What a bar that shows takes off the width, or off the height.
+float BarTakesWidth(const Frame& frame);
+float BarTakesHeight(const Frame& frame);
+
 // The size of what shows, the extra column or row included.
 float VisibleWidth(const Frame& frame);
 float VisibleHeight(const Frame& frame);

@@ -20,6 +20,12 @@ enum class ListeModeType : int32_t { lmFileList = 0, lmList = 1 };
 // What a sort key holds besides the name: a sum of these.
 enum SortArgsType : int32_t { saDateFirst = 2, saDateSecond = 4, saSize = 8, saExtension = 16 };
 
+// Of OLEDragMode: the sheet drags by itself. Every other mode leaves drags to the host.
+inline constexpr int16_t kAutomaticDrag = 1;
+// Of OLEDropMode: 1 takes what the sheet itself drags, 2 takes all; what is not taken goes to the host.
+inline constexpr int16_t kManualDrop = 1;
+inline constexpr int16_t kAutomaticDrop = 2;
+
 // Where the window that follows the thumb stands.
 enum class ScrollWindowPosType : int32_t {
     swpOutside = 0,  // beyond the sheet's edge

@@ -528,6 +528,8 @@ private:
     void ShowSelection();
     void ClearItems(int16_t exceptedIndex);
     MemoryListBox* UnwatchedList() const;
+    // Selects what wanted says of each slide's state and each item's; atOnce does so on an unwatched list.
+    void SelectWhole(bool (*wanted)(bool selected), void (MemoryListBox::*atOnce)());
 
     // interaction/zoom.cpp
     void ConnectSlideZoom(const sheet::SlideMember& member);

@@ -13,8 +13,6 @@ constexpr int32_t kToolSize = 44;
 constexpr int32_t kCentred = 2;
 constexpr int32_t kFindsTheMouse = 16;
 constexpr int32_t kFamilyThatWantsEvenLines = 11;
-constexpr int32_t kStays = 2;
-constexpr int32_t kUntilItShows = 3;
 constexpr int32_t kInformation = 1;
 
 bool IsStyle(int32_t style) {
@@ -94,8 +92,8 @@ void clsToolTip::Open(bool tracking) {
     Send(TTM_SETTITLEA, icon_, title_);
     Send(TTM_SETTIPTEXTCOLOR, static_cast<int32_t>(foreColor_), 0);
     Send(TTM_SETTIPBKCOLOR, static_cast<int32_t>(backColor_), 0);
-    Send(TTM_SETDELAYTIME, kUntilItShows, hoverTime_);
-    Send(TTM_SETDELAYTIME, kStays, popupTime_);
+    Send(TTM_SETDELAYTIME, TTDT_INITIAL, hoverTime_);
+    Send(TTM_SETDELAYTIME, TTDT_AUTOPOP, popupTime_);
     if (tracking) Send(TTM_TRACKACTIVATE, FlagNumber(true), tool_);
 }
 

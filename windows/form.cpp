@@ -98,9 +98,7 @@ bool Form::Visible() const {
 }
 
 void Form::Refresh() {
-    constexpr int32_t kChanged = 1;
-    constexpr int32_t kUpdateNow = 256;
-    desktop_.windows.RedrawWindow(Hwnd(), {0, 0, ScaleWidth(), ScaleHeight()}, kChanged | kUpdateNow);
+    desktop_.windows.RedrawWindow(Hwnd(), {0, 0, ScaleWidth(), ScaleHeight()}, RDW_INVALIDATE | RDW_UPDATENOW);
 }
 
 OLE_COLOR Form::BackColor() {

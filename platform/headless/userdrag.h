@@ -10,12 +10,10 @@
 
 namespace vorlane::headless {
 
-enum : int32_t { kCopy = 1, kMove = 2 };
-
 class UserDrag {
 public:
     // From another program, which allows these effects. The drag does not outlive the windows it is over.
-    explicit UserDrag(Desktop& desktop, DataObject data, int32_t allowed = kCopy | kMove);
+    explicit UserDrag(Desktop& desktop, DataObject data, int32_t allowed = kDropCopies | kDropMoves);
     UserDrag(Desktop& desktop, DataObject& data, int32_t allowed, std::function<void(int32_t effect)> feedback);
     ~UserDrag();
     UserDrag(const UserDrag&) = delete;

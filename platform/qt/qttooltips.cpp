@@ -8,8 +8,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr int32_t kUntilItShows = 3;
-
 int32_t Number(const TooltipParameter& parameter) {
     const auto* number = std::get_if<int32_t>(&parameter);
     return number == nullptr ? 0 : *number;
@@ -61,7 +59,7 @@ int32_t QtTooltips::SendMessageA(Hwnd tooltip, TooltipMessage message, int32_t w
             window->SetActive(wParam != 0);
             return 1;
         case TTM_SETDELAYTIME:
-            if (wParam == kUntilItShows) {
+            if (wParam == TTDT_INITIAL) {
                 window->SetInitialDelay(Number(lParam));
             } else {
                 window->SetShowingTime(Number(lParam));

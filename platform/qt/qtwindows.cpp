@@ -11,8 +11,6 @@ namespace vorlane {
 
 namespace {
 
-constexpr int32_t kInvalidate = 1;
-constexpr int32_t kUpdateNow = 0x100;
 constexpr qint64 kFrame = 8;  // milliseconds
 
 WinRect FromQRect(const QRect& rect) {
@@ -76,8 +74,8 @@ void QtWindows::RedrawWindow(Hwnd window, const WinRect& part, int32_t flags) {
     QWidget* widget = WidgetOf(window);
     if (widget == nullptr) return;
     // Controls tell all that changes, so what is painted at once is what has changed, and no more.
-    const bool now = (flags & kUpdateNow) != 0;
-    if (!now && (flags & kInvalidate) != 0)
+    const bool now = (flags & RDW_UPDATENOW) != 0;
+    if (!now && (flags & RDW_INVALIDATE) != 0)
         widget->update(QRect(part.Left, part.Top, part.Right - part.Left, part.Bottom - part.Top));
     if (!now || shown_.elapsed() < kFrame) return;
     QCoreApplication::sendPostedEvents(widget->window(), QEvent::UpdateRequest);

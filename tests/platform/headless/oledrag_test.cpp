@@ -144,7 +144,7 @@ TEST_F(OLEDragTest, ADragInsideADragEndsAtOnce) {
 TEST_F(OLEDragTest, AForeignDragCarriesItsOwnData) {
     DataObject data;
     data.SetText("from afar");
-    UserDrag drag(desktop, data, kCopy);
+    UserDrag drag(desktop, data, kDropCopies);
     target.Input.OLEDragOver.connect(
         [](DataObject&, int32_t& effect, int16_t, int16_t, float, float, int16_t) { effect = 3; });
     drag.Over(other, 20, 30);
