@@ -129,7 +129,7 @@ TEST_F(BrowsingTest, ARowStepIsPaintedOnce) {
     Bar().setValue(row);
     Settle();
     EXPECT_GE(painted, 1);
-    EXPECT_LE(painted, 1 + time.elapsed() / kFrame);
+    EXPECT_LE(painted, 2 + time.elapsed() / kFrame);  // one for a frame that had begun before
 }
 
 }  // namespace
