@@ -101,6 +101,15 @@ public:
     OLE_COLOR GradientColorMedian() const;
     // What a pointer there tells; empty off the bars.
     std::string ToolTipAt(float x, float y) const;
+    // Tops of the rows of bars, as the last paint has left them.
+    float BarTopMusic() const { return musics_.BarTop; }
+    float BarTopComment() const { return comments_.BarTop; }
+
+    // --- Slides ---
+    // The place of a slide on the sheet, from 0; -1 when there is none.
+    int32_t PositionOf(int32_t diapoKey) const;
+    // The second at which a slide starts; fails with ObjectNotSet() without a sheet.
+    int32_t StartOf(int32_t diapoKey) const;
 
     // --- Playback and record indicators ---
     // How far the show, or the recording of a comment, has come: seconds since the start of the slide where it began,
@@ -113,6 +122,12 @@ public:
     // --- Navigation. Quoi: 0 musics, 1 comments, 2 both ---
     // Shows the sounds in a popup, at the pointer where a coordinate is -1; a choice selects the sound's slide.
     void Menu(int32_t quoi, int32_t xPixels = -1, int32_t yPixels = -1);
+    // The popup of the right mouse button off the bars, with its commands and all sounds, for hosts that show it by a
+    // key. Nothing without a sheet.
+    void ContextMenu(int32_t xPixels = -1, int32_t yPixels = -1);
+    // Jumps from sound to sound as F2 to F7 do on the sheet, for hosts whose keys go to the strip. Gives whether the
+    // key is one of these.
+    bool KeyCommand(int16_t keyCode);
     // Does what an item of the menu does, see eMnuTimeLineID.
     void MnuCtx_ItemClic(int32_t mnuItemID);
     // The next sound behind a slide, the last one before it: DiapoKey is -1 when there is none. Of both kinds the
@@ -353,7 +368,6 @@ private:
     void DescribeSlide(int32_t diapoKey, int32_t& secStart, std::string& nomImage);
     void RunMenuItem(int32_t mnuItemID);
     void SelectSlide(int32_t diapoKey);
-    int32_t StartOf(int32_t diapoKey) const;
     template <class Judge>
     void Search(int32_t fromDiapoKey, int32_t quoi, bool forward, const Judge& judge, Found& found) const;
     tSon SoundAt(const Row& row, float diapoX, std::string_view operation);
@@ -361,10 +375,7 @@ private:
     // sheetlink.cpp
     void Follow(Row& row, SonType type, std::shared_ptr<ClsSon> sounds);
     Vorlane& Sheet() const;  // fails with ObjectNotSet()
-    // The place of a slide on the sheet, from 0; -1 when there is none.
-    int32_t PositionOf(int32_t diapoKey) const;
     void SortSounds();
-    void SheetKeyDown(int16_t keyCode);
 
     Trelmic6 utilities_;
     Settings settings_;

@@ -133,6 +133,10 @@ void eTimeLine::Menu(int32_t quoi, int32_t xPixels, int32_t yPixels) {
     ShowMenu(Wants(quoi, kMusic), Wants(quoi, kComment), true, xPixels, yPixels);
 }
 
+void eTimeLine::ContextMenu(int32_t xPixels, int32_t yPixels) {
+    if (link_.Sheet != nullptr) ShowMenu(true, true, false, xPixels, yPixels);
+}
+
 // The time line may end while its menu is open; then nobody hears of the choice.
 void eTimeLine::ShowMenu(bool musics, bool comments, bool onlyFiles, int32_t x, int32_t y) {
     const auto menu = std::make_shared<ClsMenuCtx>(Desktop());

@@ -55,7 +55,7 @@ void eTimeLine::AttachVorlane(Vorlane* sheet) {
     const auto hear = [this](auto& event, auto handler) { link_.Heard.emplace_back(event.connect(handler)); };
     VorlaneEvents& events = sheet->Events;
     hear(events.AfterDropAdd, [this](auto&&...) { Refresh(); });
-    hear(events.KeyDown, [this](int16_t keyCode, int16_t) { SheetKeyDown(keyCode); });
+    hear(events.KeyDown, [this](int16_t keyCode, int16_t) { KeyCommand(keyCode); });
     hear(events.OLECompleteDrag, [this](auto&&...) { SortSounds(); });
     hear(events.Removed, [this](int16_t, int32_t key) {
         Musiques()->Remove(key);
@@ -71,9 +71,11 @@ void eTimeLine::SortSounds() {
     Refresh();
 }
 
-void eTimeLine::SheetKeyDown(int16_t keyCode) {
-    if (keyCode < kF2 || keyCode > kF7 || Sheet().CurrentDiapo() < 0) return;
-    MnuCtx_ItemClic(kCommands[keyCode - kF2]);
+bool eTimeLine::KeyCommand(int16_t keyCode) {
+    if (keyCode < kF2 || keyCode > kF7) return false;
+    const bool leads = link_.Sheet != nullptr && link_.Sheet->CurrentDiapo() >= 0;
+    if (leads) MnuCtx_ItemClic(kCommands[keyCode - kF2]);
+    return true;
 }
 
 }  // namespace vorlane

@@ -2,6 +2,7 @@
 
 #include "sheet/types.h"
 #include "slide/diapotypes.h"
+#include "timeline/etimeline.h"
 
 namespace vorlane::ui {
 
@@ -23,6 +24,7 @@ static_assert(Same(ScrollDirection::sdVertical, ScrollDirectionType::sdVertical)
 static_assert(Same(SortSens::ssDescending, SortSensType::ssDescending));
 static_assert(Same(ScrollWindowPos::swpInside, ScrollWindowPosType::swpInside));
 static_assert(Same(ListeMode::lmList, ListeModeType::lmList));
+static_assert(Same(TimeMarks::etltFollowDiapo, etlType::etltFollowDiapo));
 
 }  // namespace
 

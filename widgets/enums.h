@@ -46,4 +46,8 @@ Q_ENUM_NS(ScrollWindowPos)
 enum class ListeMode { lmFileList = 0, lmList = 1 };
 Q_ENUM_NS(ListeMode)
 
+// Where a time line's marks stand: at whole seconds, or one to a slide.
+enum class TimeMarks { etltFree = 0, etltFollowDiapo = 1 };
+Q_ENUM_NS(TimeMarks)
+
 }  // namespace vorlane::ui

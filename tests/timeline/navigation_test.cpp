@@ -197,6 +197,20 @@ TEST_F(NavigationTest, OtherButtonsAndAMissingSheetOpenNothing) {
     EXPECT_EQ(Menus(), "");
 }
 
+TEST_F(NavigationTest, AHostOpensTheWholeMenuWhereItLikes) {
+    Start();
+    Music(1, 3);
+    Comment(2, 3);
+    line->ContextMenu(7, 8);
+    const std::string menus = Menus();
+    for (const char* item : {"-5 [", "102 [", "103 [", "track flags=1182 at 7,8 over 2 "}) {
+        EXPECT_NE(menus.find(item), std::string::npos) << menus;
+    }
+    line->AttachVorlane(nullptr);
+    line->ContextMenu(7, 8);
+    EXPECT_EQ(Menus(), "");
+}
+
 TEST_F(NavigationTest, WithControlOnARowOnlyItsSoundsAreListed) {
     Start();
     Music(1, 3);

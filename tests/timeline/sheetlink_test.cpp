@@ -183,6 +183,30 @@ TEST_F(SheetLinkTest, EachFunctionKeyRunsItsCommandWhateverShiftIs) {
     EXPECT_EQ(jump(119, 0), 100);
 }
 
+TEST_F(SheetLinkTest, AHostMayHandTheKeysOfTheStripOver) {
+    Start();
+    Music(6, 1);
+    sheet.StartLecture();
+    sheet.SetSelected(0, true);
+    EXPECT_FALSE(line->KeyCommand(112));
+    EXPECT_FALSE(line->KeyCommand(119));
+    EXPECT_TRUE(line->KeyCommand(117));
+    EXPECT_EQ(sheet.Diapos.Item(0)->Key(), 106);
+    line->AttachVorlane(nullptr);
+    EXPECT_TRUE(line->KeyCommand(117));
+    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(SheetLinkTest, TheStripKnowsWhereASlideStandsAndWhenItStarts) {
+    Start();
+    EXPECT_EQ(line->PositionOf(103), 3);
+    EXPECT_EQ(line->StartOf(103), 15);
+    EXPECT_EQ(line->PositionOf(99), -1);
+    line->AttachVorlane(nullptr);
+    EXPECT_EQ(line->PositionOf(103), -1);
+    EXPECT_FAILURE(line->StartOf(103), ObjectNotSet());
+}
+
 TEST_F(SheetLinkTest, TheKeysDoNothingWhenNoSlideIsCurrent) {
     Start();
     ShowSheet();

@@ -116,6 +116,8 @@ TEST_F(SoundBarsTest, CommentsGoOnTopWhenTheyShould) {
     Comment(0, 4);
     line->SetBarreOnTop(7);
     EXPECT_EQ(Boxes(), "\nBox 0,29 60,37 #00C0C0\nBox 0,3 120,11 #00C000\n");
+    EXPECT_EQ(line->BarTopMusic(), 29);
+    EXPECT_EQ(line->BarTopComment(), 3);
     line->SetBarreMarge(1);
     line->SetBarreHeight(10);
     EXPECT_EQ(Boxes(), "\nBox 0,29 60,39 #00C0C0\nBox 0,1 120,11 #00C000\n");

@@ -34,12 +34,17 @@ std::set<std::string> Keys(const Table& table) {
 
 // Another value of the same kind.
 inline QVariant Another(const QMetaProperty& property, const QVariant& value) {
-    if (property.isEnumType()) return value.toInt() == 1 ? 2 : 1;
+    if (property.isEnumType()) {
+        const QMetaEnum names = property.enumerator();
+        return names.value(0) == value.toInt() ? names.value(1) : names.value(0);
+    }
     switch (value.typeId()) {
         case QMetaType::Bool:
             return !value.toBool();
         case QMetaType::Int:
             return value.toInt() + 1;
+        case QMetaType::Double:
+            return value.toDouble() + 1;
         case QMetaType::QString:
             return QString::fromUtf8("\xC3\xA9t\xC3\xA9");
         case QMetaType::QColor:

@@ -1,0 +1,95 @@
+#include "tests/widgets/timelinewidgettest.h"
+
+#include <QAccessible>
+
+namespace vorlane {
+namespace {
+
+class AccessibleTimeLineTest : public test::TimeLineWidgetTest {
+protected:
+    AccessibleTimeLineTest() {
+        Music(0, 10, true);
+        Music(11, 65);
+        Comment(1, 3);
+    }
+    QAccessibleInterface& Strip() { return *QAccessible::queryAccessibleInterface(strip.get()); }
+    QAccessibleInterface& Sound(int i) { return *Strip().child(i); }
+    QString Name(int i) { return Sound(i).text(QAccessible::Name); }
+    QString Description(int i) { return Sound(i).text(QAccessible::Description); }
+};
+
+TEST_F(AccessibleTimeLineTest, TheStripIsAListOfTheSoundsByNameAndTime) {
+    EXPECT_EQ(Strip().role(), QAccessible::List);
+    EXPECT_EQ(Strip().text(QAccessible::Name), "Ligne de temps");
+    ASSERT_EQ(Strip().childCount(), 3);
+    EXPECT_EQ(Name(0), QStringLiteral("m0.wav, à 0:00"));
+    EXPECT_EQ(Name(1), QStringLiteral("m11.wav, à 0:55"));
+    EXPECT_EQ(Name(2), QStringLiteral("c1.wav, à 0:05"));
+    EXPECT_EQ(Description(0), "Musique, 10 s, en boucle");
+    EXPECT_EQ(Description(1), "Musique, 1 min 05 s");
+    EXPECT_EQ(Description(2), "Commentaire, 3 s");
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(Strip().indexOfChild(&Sound(i)), i);
+        EXPECT_EQ(Sound(i).parent(), &Strip());
+        EXPECT_EQ(Sound(i).role(), QAccessible::ListItem);
+    }
+    EXPECT_EQ(Strip().child(3), nullptr);
+    EXPECT_EQ(Strip().child(-1), nullptr);
+}
+
+TEST_F(AccessibleTimeLineTest, TheHostsNameForTheStripIsTold) {
+    strip->setAccessibleName("Sons");
+    EXPECT_EQ(Strip().text(QAccessible::Name), "Sons");
+}
+
+TEST_F(AccessibleTimeLineTest, ASoundInSightHasAPlaceOnTheScreen) {
+    const QRect place = Sound(2).rect();
+    EXPECT_EQ(place.topLeft(), strip->mapToGlobal(QPoint(151, 49)));
+    EXPECT_EQ(place.size(), QSize(90, 8));
+    EXPECT_EQ(Strip().childAt(place.center().x(), place.center().y()), &Sound(2));
+    EXPECT_FALSE(Sound(2).state().offscreen);
+    EXPECT_TRUE(Sound(1).state().offscreen);
+    EXPECT_EQ(Sound(1).rect(), QRect());
+    EXPECT_EQ(Strip().childAt(-5, -5), nullptr);
+}
+
+TEST_F(AccessibleTimeLineTest, ARepeatingSoundIsOneThing) {
+    const QRect place = Sound(0).rect();
+    EXPECT_EQ(place.left(), strip->mapToGlobal(QPoint(1, 0)).x());
+    EXPECT_EQ(place.width(), 598);
+    EXPECT_EQ(Strip().childAt(strip->mapToGlobal(QPoint(500, 7)).x(), strip->mapToGlobal(QPoint(0, 7)).y()), &Sound(0));
+}
+
+TEST_F(AccessibleTimeLineTest, PressingASoundSelectsItsSlide) {
+    QAccessibleActionInterface* actions = Sound(1).actionInterface();
+    ASSERT_EQ(actions->actionNames(), QStringList(QAccessibleActionInterface::pressAction()));
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(sheet->Value(sheet->CurrentDiapo()), 11);
+    actions->doAction("fly");
+    EXPECT_EQ(sheet->Value(sheet->CurrentDiapo()), 11);
+}
+
+TEST_F(AccessibleTimeLineTest, ASoundThatIsGoneIsInvalid) {
+    QAccessibleInterface& comment = Sound(2);
+    strip->Comments().Clear();
+    EXPECT_FALSE(comment.isValid());
+    EXPECT_TRUE(comment.state().invalid);
+    EXPECT_EQ(comment.text(QAccessible::Name), "");
+    EXPECT_EQ(comment.rect(), QRect());
+    EXPECT_EQ(Strip().indexOfChild(&comment), -1);
+    EXPECT_EQ(Strip().childCount(), 2);
+}
+
+TEST_F(AccessibleTimeLineTest, ASoundOfASlideThatHasLeftHasNoTime) {
+    sheet->Liste().Clear();
+    EXPECT_EQ(Name(1), "m11.wav");
+}
+
+TEST_F(AccessibleTimeLineTest, TheInterfacesEndWithTheWidget) {
+    const QAccessible::Id id = QAccessible::uniqueId(&Sound(0));
+    strip.reset();
+    EXPECT_EQ(QAccessible::accessibleInterface(id), nullptr);
+}
+
+}  // namespace
+}  // namespace vorlane
