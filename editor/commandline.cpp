@@ -30,15 +30,15 @@ CommandLineAnswer ParseCommandLine(const QStringList& arguments) {
                                   Tr(QT_TRANSLATE_NOOP("CommandLine", "Taille de la fenêtre en pixels.")),
                                   Tr(QT_TRANSLATE_NOOP("CommandLine", "LxH")));
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        Tr(QT_TRANSLATE_NOOP("CommandLine", "Présente les images d'un dossier comme une planche de diapositives.")));
+    parser.setApplicationDescription(Tr(QT_TRANSLATE_NOOP(
+        "CommandLine", "Présente les images d'un dossier, ou d'un diaporama, comme une planche de diapositives.")));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   Tr(QT_TRANSLATE_NOOP("CommandLine", "Affiche cette aide.")));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
                                      Tr(QT_TRANSLATE_NOOP("CommandLine", "Affiche la version.")));
     parser.addOptions({screenshot, size, help, version});
     parser.addPositionalArgument(Tr(QT_TRANSLATE_NOOP("CommandLine", "dossier")),
-                                 Tr(QT_TRANSLATE_NOOP("CommandLine", "Le dossier à ouvrir.")),
+                                 Tr(QT_TRANSLATE_NOOP("CommandLine", "Le dossier ou le diaporama à ouvrir.")),
                                  Tr(QT_TRANSLATE_NOOP("CommandLine", "[dossier]")));
 
     if (!parser.parse(arguments)) return {std::nullopt, parser.errorText(), true};
@@ -47,7 +47,7 @@ CommandLineAnswer ParseCommandLine(const QStringList& arguments) {
         return {std::nullopt, QStringLiteral("Vorlane %1").arg(QCoreApplication::applicationVersion())};
     CommandLine commands{parser.positionalArguments().value(0), parser.value(screenshot), SizeOf(parser.value(size))};
     if (parser.positionalArguments().size() > 1)
-        return {std::nullopt, Tr(QT_TRANSLATE_NOOP("CommandLine", "Un seul dossier à la fois.")), true};
+        return {std::nullopt, Tr(QT_TRANSLATE_NOOP("CommandLine", "Un seul dossier ou diaporama à la fois.")), true};
     if (parser.isSet(size) && !commands.size.isValid())
         return {std::nullopt, Tr(QT_TRANSLATE_NOOP("CommandLine", "La taille s'écrit comme 1200x800.")), true};
     if (parser.isSet(screenshot) && commands.screenshot.isEmpty())

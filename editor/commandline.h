@@ -1,4 +1,4 @@
-// The editor's command line: vorlane-editor [--screenshot FILE] [--size WxH] [FOLDER]
+// The editor's command line: vorlane-editor [--screenshot FILE] [--size WxH] [FOLDER|SHOW]
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 namespace vorlane::editor {
 
 struct CommandLine {
-    QString folder;      // empty: none
+    QString path;        // of a folder or a show; empty: none
     QString screenshot;  // empty: none
     QSize size;          // not valid: as the user left the window
 };

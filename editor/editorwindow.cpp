@@ -6,6 +6,8 @@
 #include "editor/look.h"
 #include "editor/navigator.h"
 #include "editor/show.h"
+#include "editor/showfile.h"
+#include "editor/showkeeper.h"
 #include "editor/slidesize.h"
 #include "editor/statuspanel.h"
 #include "widgets/vorlanewidget.h"
@@ -57,6 +59,7 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
       provider_(new ThumbnailProvider(*sheet_, thumbnails_)),
       status_(new StatusPanel(this)),
       opener_([](const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }) {
+    setWindowTitle(QStringLiteral("Vorlane[*]"));
     setWindowIcon(QIcon(QStringLiteral(":/editor/icons/vorlane.svg")));
     setAcceptDrops(true);
     pages_->addWidget(empty_);
@@ -74,6 +77,7 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
 
     connect(sheet_, &VorlaneWidget::OnAdded, this,
             [this](int index, const QString& file) { sheet_->SetCaptionBottom(index, CaptionOf(file, locale())); });
+    MakeKeeper();
     MakeMenus();
     ConnectReader();
     ConnectShow();
@@ -125,6 +129,13 @@ void EditorWindow::changeEvent(QEvent* event) {
 }
 
 void EditorWindow::closeEvent(QCloseEvent* event) {
+    if (keeper_->isModified()) {
+        event->ignore();
+        return Leave([this] {
+            keeper_->abandon();
+            close();
+        });
+    }
     const bool sideways = sheet_->ScrollDirection() == ui::ScrollDirection::sdHorizontal;
     const QByteArray geometry = isFullScreen() ? QByteArray() : saveGeometry();
     Preferences{geometry, status_->slideWidth(), show_->order(), sideways}.Save(settings_);
@@ -141,15 +152,16 @@ void EditorWindow::dragLeaveEvent(QDragLeaveEvent*) {
     empty_->setDropping(false);
 }
 
-// Where there is nothing yet, a folder is opened; everything else is added.
+// A show is opened, and a folder where there is nothing yet; everything else is added.
 void EditorWindow::dropEvent(QDropEvent* event) {
     empty_->setDropping(false);
     const QStringList paths = PathsOf(*event->mimeData());
     if (paths.isEmpty()) return;
     event->acceptProposedAction();
     const bool opens = count() == 0 && paths.size() == 1 && QFileInfo(paths.first()).isDir();
-    if (opens) {
-        openFolder(paths.first());
+    const bool isShow = paths.size() == 1 && IsShowFile(paths.first());
+    if (opens || isShow) {
+        Leave([this, path = paths.first()] { open(path); });
     } else {
         addFiles(paths, PlaceUnder(event->position().toPoint()));
     }
@@ -193,7 +205,7 @@ void EditorWindow::toggleFullScreen() {
 
 void EditorWindow::chooseFolder() {
     const QString chosen = QFileDialog::getExistingDirectory(this, tr("Ouvrir un dossier"), folder_);
-    if (!chosen.isEmpty()) openFolder(chosen);
+    if (!chosen.isEmpty()) Leave([this, chosen] { openFolder(chosen); });
 }
 
 void EditorWindow::chooseFiles() {

@@ -1,5 +1,5 @@
-// EditorWindow: the editor's main window. It shows the pictures of a folder on a sheet, and lets the user order them,
-// add some and take some off. The files themselves stay as they are.
+// EditorWindow: the editor's main window. It shows the pictures of a folder or of a saved show on a sheet, and lets the
+// user order them, add some, take some off, and save what came of it. The pictures themselves stay as they are.
 //
 // Nothing of it blocks: a folder is read on a thread and comes onto the sheet in slices, pictures are decoded by the
 // thumbnail service.
@@ -9,7 +9,8 @@
 #include "editor/folderreader.h"
 #include "editor/menus.h"
 #include "editor/preferences.h"
-#include "editor/recentfolders.h"
+#include "editor/recents.h"
+#include "editor/savedshow.h"
 #include "widgets/thumbnailprovider.h"
 #include "widgets/thumbnailservice.h"
 
@@ -33,6 +34,7 @@ namespace vorlane::editor {
 class EmptyPage;
 class Navigator;
 class Show;
+class ShowKeeper;
 class StatusPanel;
 
 class EditorWindow : public QMainWindow {
@@ -46,6 +48,17 @@ public:
     // Reads the folder and shows it. What is shown stays until the folder is open, and for good when it can't be read.
     void openFolder(const QString& folder);
     QString folder() const { return folder_; }
+    // The same with the show of a file. False, and all stays, when the file holds none. Pictures that are not there
+    // come as broken slides.
+    bool openShow(const QString& path);
+    // One or the other, by its name.
+    void open(const QString& path);
+    // The file that the show belongs to; empty when it has none.
+    QString showPath() const;
+    // Where unsaved work is kept; until this is called, nowhere.
+    void setRecoveryFolder(const QString& folder);
+    // Asks the user about what a run that broke off left there, if anything.
+    void offerRecovery();
     // Reads files and folders and adds their pictures in front of a list index, or at the end for -1.
     void addFiles(const QStringList& paths, int before = -1);
     // How many pictures are on the sheet's list.
@@ -65,6 +78,10 @@ public:
 
 public Q_SLOTS:
     void chooseFolder();
+    void chooseShow();
+    // Whether it is saved then.
+    bool save();
+    bool saveAs();
     void chooseFiles();
     void removeSelected();
     void selectAll();
@@ -72,7 +89,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void settled();
-    void folderFailed(const QString& folder);
+    // Also of a show's file.
+    void folderFailed(const QString& path);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -127,7 +145,9 @@ private:
         int total;  // pictures
     };
     void Opened(const QString& folder, int total);
+    void ForgetOpening();
     void Begin(const Folder& folder);
+    void BeginFolder(const QString& path);
     void Failed(const QString& folder);
     QString FailureText() const;
     void ShowPage();
@@ -137,9 +157,26 @@ private:
     void ShowStatus();
     void ShowEmptyTexts();
     void CheckSettled();
+    QString ShowName() const;
+    void ShowTitle();
+
+    // editorwindow_showfile.cpp
+    struct Loading {
+        QString path;  // empty: a recovered show without a file
+        SavedShow show;
+        QString recovered{};  // the file that it was kept in
+    };
+    void MakeKeeper();
+    std::optional<SavedShow> Present() const;
+    void Load(SavedShow show, const QString& path);
+    void BeginShow();
+    bool SaveTo(const QString& path);
+    void Leave(const std::function<void()>& goOn);
+    void Recover(const QString& file);
+    void KeepRecovered();
 
     QSettings& settings_;
-    RecentFolders recent_{settings_};
+    Recents recent_{settings_};
     ThumbnailService thumbnails_;
     FolderReader reader_;
     Additions additions_;
@@ -150,18 +187,23 @@ private:
     VorlaneWidget* sheet_;
     Show* show_;
     Navigator* navigator_;
+    ShowKeeper* keeper_ = nullptr;
     ThumbnailProvider* provider_;
     StatusPanel* status_;
     Menus menus_{};
     PictureOpener opener_;
 
-    std::optional<Folder> opened_;  // has been opened and comes onto the sheet next
+    std::optional<Folder> opened_;    // has been opened and comes onto the sheet next
+    std::optional<Loading> loading_;  // the show whose pictures are being read and aren't on the sheet yet
+    SavedShow rest_;                  // what belongs to the show but its pictures; its sounds name items' keys
 
-    QString folder_;        // the one that is open
+    QString folder_;        // the one that is open, or that of the show's file
     QString failed_;        // the last one asked for, if it could not be read
     QString notice_;        // what was done last, for a moment
     int total_ = 0;         // pictures in the folder
     int read_ = 0;          // those of them that have come onto the list
+    int missing_ = 0;       // those of these that are not on the disk
+    QString recovered_;     // the file of the show that is being recovered
     int waiting_ = 0;       // the most slides that waited for their thumbnail since all had it
     int deferred_ = 0;      // lots that were added and wait for the show to finish its work
     bool complete_ = true;  // all of the folder that was asked for last is on the list, or none of it will be

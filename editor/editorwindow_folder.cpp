@@ -3,6 +3,7 @@
 #include "editor/emptypage.h"
 #include "editor/navigator.h"
 #include "editor/show.h"
+#include "editor/showkeeper.h"
 #include "editor/statuspanel.h"
 #include "widgets/vorlanewidget.h"
 
@@ -36,10 +37,15 @@ void EditorWindow::ConnectReader() {
     });
 }
 
-void EditorWindow::openFolder(const QString& folder) {
+void EditorWindow::ForgetOpening() {
     complete_ = false;
     opened_.reset();
+    loading_.reset();
     failed_.clear();
+}
+
+void EditorWindow::openFolder(const QString& folder) {
+    ForgetOpening();
     reader_.start(QDir::cleanPath(QDir(folder).absolutePath()));
 }
 
@@ -49,20 +55,37 @@ void EditorWindow::Opened(const QString& folder, int total) {
 }
 
 void EditorWindow::Begin(const Folder& folder) {
-    folder_ = folder.path;
     total_ = folder.total;
-    read_ = 0;
-    recent_.add(folder_);
+    read_ = missing_ = 0;
     additions_.clear();
     show_->clear();
     navigator_->mark(-1);
     sinceShown_.invalidate();
-    setWindowFilePath(folder_);
-    const QString name = QFileInfo(folder_).fileName();
-    setWindowTitle(tr("%1 — Vorlane").arg(name.isEmpty() ? QDir::toNativeSeparators(folder_) : name));
+    loading_ ? BeginShow() : BeginFolder(folder.path);
+    ShowTitle();
     ShowEmptyTexts();
     ShowPage();
     ShowStatus();
+}
+
+void EditorWindow::BeginFolder(const QString& path) {
+    folder_ = path;
+    rest_ = {};
+    recovered_.clear();
+    keeper_->begin({});
+    recent_.add(folder_);
+}
+
+QString EditorWindow::ShowName() const {
+    const QString path = keeper_->path();
+    const QString name = path.isEmpty() ? QFileInfo(folder_).fileName() : QFileInfo(path).completeBaseName();
+    if (!name.isEmpty()) return name;
+    return folder_.isEmpty() ? tr("Diaporama") : QDir::toNativeSeparators(folder_);
+}
+
+void EditorWindow::ShowTitle() {
+    setWindowFilePath(keeper_->path().isEmpty() ? folder_ : keeper_->path());
+    setWindowTitle(tr("%1[*] — Vorlane").arg(ShowName()));
 }
 
 void EditorWindow::ShowPage() {
@@ -100,7 +123,10 @@ void EditorWindow::TakeSlice() {
     std::vector<FolderItem> items;
     do {
         items = reader_.take(kHandful);
-        for (const FolderItem& item : items) show_->append(item);
+        for (const FolderItem& item : items) {
+            show_->append(item);
+            missing_ += item.missing ? 1 : 0;
+        }
         read_ += static_cast<int>(items.size());
     } while (!items.empty() && slice.elapsed() < kSlice);
     const bool all = !reader_.isRunning();
@@ -113,6 +139,8 @@ void EditorWindow::TakeSlice() {
 void EditorWindow::Complete() {
     show_->orderAppended();
     complete_ = true;
+    if (missing_ > 0) Say(tr("%Ln image(s) introuvable(s)", nullptr, std::exchange(missing_, 0)));
+    KeepRecovered();
     ShowPage();
     CheckSettled();
 }
@@ -147,11 +175,11 @@ void EditorWindow::ShowStatus() {
 }
 
 void EditorWindow::ShowEmptyTexts() {
-    if (folder_.isEmpty()) {
-        setWindowTitle(QStringLiteral("Vorlane"));
+    const bool isShow = !keeper_->path().isEmpty();
+    if (folder_.isEmpty() && !isShow) {
         empty_->setTexts(tr("Ouvrez un dossier d'images"), tr("ou déposez-le dans cette fenêtre"),
                          tr("Ouvrir un dossier…"));
-    } else if (total_ > 0) {
+    } else if (total_ > 0 || isShow) {
         empty_->setTexts(tr("La planche est vide"), tr("Les fichiers retirés restent dans leur dossier."),
                          tr("Ouvrir un autre dossier…"));
     } else {

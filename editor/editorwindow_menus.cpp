@@ -28,13 +28,20 @@ void EditorWindow::MakeMenus() {
 
 void EditorWindow::MakeFileMenu() {
     menus_.file = menuBar()->addMenu(QString());
-    menus_.open = AddAction(menus_.file, QKeySequence::Open);
-    menus_.add = AddAction(menus_.file, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
+    menus_.openShow = AddAction(menus_.file, QKeySequence::Open);
+    menus_.open = AddAction(menus_.file, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
     menus_.recent = menus_.file->addMenu(QString());
+    menus_.add = AddAction(menus_.file, QKeySequence(Qt::CTRL | Qt::Key_I));
+    menus_.file->addSeparator();
+    menus_.save = AddAction(menus_.file, QKeySequence::Save);
+    menus_.saveAs = AddAction(menus_.file, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     menus_.file->addSeparator();
     menus_.quit = AddAction(menus_.file, QKeySequence(Qt::CTRL | Qt::Key_Q));
     menus_.quit->setMenuRole(QAction::QuitRole);
     menus_.forget = new QAction(this);
+    connect(menus_.openShow, &QAction::triggered, this, &EditorWindow::chooseShow);
+    connect(menus_.save, &QAction::triggered, this, &EditorWindow::save);
+    connect(menus_.saveAs, &QAction::triggered, this, &EditorWindow::saveAs);
     connect(menus_.open, &QAction::triggered, this, &EditorWindow::chooseFolder);
     connect(menus_.add, &QAction::triggered, this, &EditorWindow::chooseFiles);
     connect(menus_.quit, &QAction::triggered, this, &EditorWindow::close);
@@ -111,10 +118,13 @@ void EditorWindow::MakeSortMenu() {
 
 void EditorWindow::NameMenus() {
     menus_.file->setTitle(tr("&Fichier"));
-    menus_.open->setText(tr("&Ouvrir un dossier…"));
+    menus_.openShow->setText(tr("&Ouvrir un diaporama…"));
+    menus_.open->setText(tr("Ouvrir un &dossier…"));
     menus_.add->setText(tr("&Ajouter des images…"));
-    menus_.recent->setTitle(tr("&Dossiers récents"));
-    menus_.forget->setText(tr("&Effacer la liste"));
+    menus_.save->setText(tr("&Enregistrer"));
+    menus_.saveAs->setText(tr("Enregistrer &sous…"));
+    menus_.recent->setTitle(tr("Ouverts &récemment"));
+    menus_.forget->setText(tr("E&ffacer la liste"));
     menus_.quit->setText(tr("&Quitter"));
     menus_.edit->setTitle(tr("É&dition"));
     NameUndo();
@@ -156,17 +166,17 @@ void EditorWindow::NameUndo() {
 
 void EditorWindow::FillRecentMenu() {
     menus_.recent->clear();
-    const QStringList folders = recent_.list();
-    for (const QString& folder : folders) {
-        QString name = QDir::toNativeSeparators(folder);
+    const QStringList paths = recent_.list();
+    for (const QString& path : paths) {
+        QString name = QDir::toNativeSeparators(path);
         name.replace(QLatin1Char('&'), QStringLiteral("&&"));
         QAction* action = menus_.recent->addAction(name);
-        connect(action, &QAction::triggered, this, [this, folder] { openFolder(folder); });
+        connect(action, &QAction::triggered, this, [this, path] { Leave([this, path] { open(path); }); });
     }
-    if (folders.isEmpty()) menus_.recent->addAction(tr("Aucun dossier"))->setEnabled(false);
+    if (paths.isEmpty()) menus_.recent->addAction(tr("Rien encore"))->setEnabled(false);
     menus_.recent->addSeparator();
     menus_.recent->addAction(menus_.forget);
-    menus_.forget->setEnabled(!folders.isEmpty());
+    menus_.forget->setEnabled(!paths.isEmpty());
 }
 
 }  // namespace vorlane::editor

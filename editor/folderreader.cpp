@@ -7,26 +7,16 @@
 #include <atomic>
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <iterator>
 #include <mutex>
 #include <optional>
+#include <utility>
 
 #include <QFile>
 #include <QFileInfo>
 
 namespace vorlane::editor {
-
-// What the thread and the owner share.
-struct FolderReader::Reading {
-    FolderReader* owner;  // of the user's thread alone
-    QString folder;       // empty: paths are wanted
-    QStringList paths;
-    std::atomic<bool> stopped = false;
-    std::atomic<bool> read = false;   // to the end
-    std::atomic<bool> ended = false;  // the thread has nothing more to do
-    std::mutex mutex;                 // of what follows
-    std::deque<FolderItem> items;
-};
 
 namespace {
 
@@ -86,14 +76,42 @@ std::vector<Name> GatherNames(const QStringList& paths, const std::atomic<bool>&
     return names;
 }
 
+std::vector<Name> SplitNames(const QStringList& files) {
+    std::vector<Name> names;
+    names.reserve(static_cast<size_t>(files.size()));
+    for (const QString& path : files) {
+        const QFileInfo file(path);
+        names.push_back({WithSeparator(file.path()), file.fileName(), SortName(file.fileName())});
+    }
+    return names;
+}
+
 FolderItem Item(const Name& name) {
     const QString path = name.folder + name.text;
     const QFileInfo file(path);
     const FileFacts facts{name.text, file.lastModified(), file.birthTime(), file.size()};
-    return {path, SortData(facts, name.sortName)};
+    return {path, SortData(facts, name.sortName), !file.isFile()};
 }
 
 }  // namespace
+
+// What the thread and the owner share.
+struct FolderReader::Reading {
+    // Nothing for a folder that can't be read.
+    using Names = std::function<std::optional<std::vector<Name>>(const std::atomic<bool>& stopped)>;
+
+    Reading(FolderReader* reader, QString path, Names reads)
+        : owner(reader), folder(std::move(path)), names(std::move(reads)) {}
+
+    FolderReader* owner;  // of the user's thread alone
+    QString folder;       // empty: no folder is read
+    Names names;
+    std::atomic<bool> stopped = false;
+    std::atomic<bool> read = false;   // to the end
+    std::atomic<bool> ended = false;  // the thread has nothing more to do
+    std::mutex mutex;                 // of what follows
+    std::deque<FolderItem> items;
+};
 
 FolderReader::FolderReader(QObject* parent) : QObject(parent) {}
 
@@ -102,21 +120,26 @@ FolderReader::~FolderReader() {
     for (Worker& worker : workers_) worker.thread.join();
 }
 
-void FolderReader::start(const QString& folder) {
-    Begin(WithSeparator(folder), {});
+void FolderReader::start(const QString& path) {
+    const QString folder = WithSeparator(path);
+    const auto names = [folder](const std::atomic<bool>& stopped) { return ReadNames(folder, stopped); };
+    Begin(std::make_shared<Reading>(this, folder, names));
 }
 
 void FolderReader::gather(const QStringList& paths) {
-    Begin({}, paths);
+    const auto names = [paths](const std::atomic<bool>& stopped) { return GatherNames(paths, stopped); };
+    Begin(std::make_shared<Reading>(this, QString(), names));
 }
 
-void FolderReader::Begin(const QString& folder, const QStringList& paths) {
+void FolderReader::list(const QStringList& files) {
+    const auto names = [files](const std::atomic<bool>&) { return SplitNames(files); };
+    Begin(std::make_shared<Reading>(this, QString(), names));
+}
+
+void FolderReader::Begin(std::shared_ptr<Reading> reading) {
     stop();
     JoinEnded();
-    reading_ = std::make_shared<Reading>();
-    reading_->owner = this;
-    reading_->folder = folder;
-    reading_->paths = paths;
+    reading_ = std::move(reading);
     const auto run = [reading = reading_] {
         Run(reading);
         reading->ended = true;
@@ -164,8 +187,7 @@ void FolderReader::Tell(const std::shared_ptr<Reading>& reading, Signal signal) 
 }
 
 void FolderReader::Run(const std::shared_ptr<Reading>& reading) {
-    const auto names = reading->folder.isEmpty() ? GatherNames(reading->paths, reading->stopped)
-                                                 : ReadNames(reading->folder, reading->stopped);
+    const auto names = reading->names(reading->stopped);
     if (!names) {
         reading->read = true;
         Tell(reading, [](FolderReader& owner) { Q_EMIT owner.failed(owner.reading_->folder); });

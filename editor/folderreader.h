@@ -19,6 +19,7 @@ namespace vorlane::editor {
 struct FolderItem {
     QString path;
     QString sortData;
+    bool missing = false;  // there is no such file
 };
 
 class FolderReader : public QObject {
@@ -32,6 +33,8 @@ public:
     void start(const QString& folder);
     // The same for files and folders; what isn't there or is no picture is passed over, so this doesn't fail.
     void gather(const QStringList& paths);
+    // The same for the pictures of a show: each of them comes, also what isn't there and what can't be a picture.
+    void list(const QStringList& files);
     void stop();
     // Whether there is something to read or to take yet.
     bool isRunning() const;
@@ -40,7 +43,7 @@ public:
     std::vector<FolderItem> take(size_t most);
 
 Q_SIGNALS:
-    // One of these two follows start(). folder: empty after gather(). total: how many pictures there are.
+    // One of these two follows start(). folder: empty after gather() and list(). total: how many pictures there are.
     void opened(const QString& folder, int total);
     void failed(const QString& folder);
     // There is more to take.
@@ -58,7 +61,7 @@ private:
     // Calls signal on the user's thread, as long as the reading isn't stopped.
     template <class Signal>
     static void Tell(const std::shared_ptr<Reading>& reading, Signal signal);
-    void Begin(const QString& folder, const QStringList& paths);
+    void Begin(std::shared_ptr<Reading> reading);
     static void Run(const std::shared_ptr<Reading>& reading);
     void JoinEnded();
 

@@ -1,6 +1,7 @@
 #include "editor/commandline.h"
 #include "editor/editorwindow.h"
 #include "editor/languages.h"
+#include "editor/recovery.h"
 #include "editor/screenshot.h"
 
 #include <algorithm>
@@ -52,6 +53,8 @@ int main(int argc, char** argv) {
     EditorWindow window(settings);
     if (commands.size.isValid()) window.resize(commands.size);
     window.show();
-    if (!commands.folder.isEmpty()) window.openFolder(commands.folder);
+    window.setRecoveryFolder(Recovery::UsualFolder());
+    if (!commands.path.isEmpty()) window.open(commands.path);
+    window.offerRecovery();
     return QApplication::exec();
 }

@@ -11,8 +11,11 @@ namespace vorlane::editor {
 struct Menus {
     QMenu* file;
     QMenu* recent;
+    QAction* openShow;
     QAction* open;
     QAction* add;
+    QAction* save;
+    QAction* saveAs;
     QAction* forget;
     QAction* quit;
 

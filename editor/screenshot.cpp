@@ -28,15 +28,18 @@ QString Tr(const char* text) {
     return QCoreApplication::translate("Screenshot", text);
 }
 
-// Whether the window came to show the folder within the time.
-bool Settle(EditorWindow& window, const QString& folder) {
+// Whether the window came to show the folder or the show within the time.
+bool Settle(EditorWindow& window, const QString& path) {
     bool failed = false;
     QEventLoop loop;
     QObject::connect(&window, &EditorWindow::settled, &loop, &QEventLoop::quit);
-    QObject::connect(&window, &EditorWindow::folderFailed, &loop, [&failed] { failed = true; });
+    QObject::connect(&window, &EditorWindow::folderFailed, &loop, [&] {
+        failed = true;
+        loop.quit();
+    });
     QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
-    window.openFolder(folder);
-    loop.exec();
+    window.open(path);
+    if (!failed) loop.exec();
     return !failed && window.isSettled();
 }
 
@@ -48,9 +51,9 @@ int TakeScreenshot(const CommandLine& commands) {
     EditorWindow window(settings);
     window.resize(commands.size.isValid() ? commands.size : kUsualSize);
     window.show();
-    if (!commands.folder.isEmpty() && !Settle(window, commands.folder)) {
-        const QString name = QDir::toNativeSeparators(commands.folder);
-        return Refuse(Tr(QT_TRANSLATE_NOOP("Screenshot", "Impossible de présenter le dossier « %1 »")).arg(name));
+    if (!commands.path.isEmpty() && !Settle(window, commands.path)) {
+        const QString name = QDir::toNativeSeparators(commands.path);
+        return Refuse(Tr(QT_TRANSLATE_NOOP("Screenshot", "Impossible de présenter « %1 »")).arg(name));
     }
     QCoreApplication::processEvents();
     if (!window.grab().save(commands.screenshot, "PNG")) {

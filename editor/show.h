@@ -34,6 +34,10 @@ public:
     SortOrder order() const { return order_; }
     const QUndoStack& undoStack() const { return undo_; }
     bool isBusy() const { return busy_; }
+    // Whether items have been added, removed or moved since the show began or was saved; sorts alone don't count.
+    bool isEdited() const;
+    // As it is now, it is saved.
+    void setSaved() { undo_.setClean(); }
     // Scrolls as little as it takes to have the item in sight. Gives whether it scrolled.
     bool reveal(int listIndex);
     // Fills the slides anew from where the sheet stands.

@@ -72,6 +72,17 @@ void Show::Push(Change change, const QString& name) {
     Q_EMIT changed();
 }
 
+bool Show::isEdited() const {
+    if (undo_.isClean()) return false;
+    const int saved = undo_.cleanIndex();
+    const int now = undo_.index();
+    if (saved < 0) return true;  // the way back to what was saved is lost
+    for (int i = std::min(saved, now); i < std::max(saved, now); ++i) {
+        if (dynamic_cast<const ChangeCommand*>(undo_.command(i)) != nullptr) return true;
+    }
+    return false;
+}
+
 // --- With a way back ---
 
 int Show::removeSelected() {

@@ -30,18 +30,6 @@
         <translation>WxH</translation>
     </message>
     <message>
-        <source>Présente les images d&apos;un dossier comme une planche de diapositives.</source>
-        <translation>Shows the pictures of a folder as a sheet of slides.</translation>
-    </message>
-    <message>
-        <source>Le dossier à ouvrir.</source>
-        <translation>The folder to open.</translation>
-    </message>
-    <message>
-        <source>Un seul dossier à la fois.</source>
-        <translation>Only one folder at a time.</translation>
-    </message>
-    <message>
         <source>La taille s&apos;écrit comme 1200x800.</source>
         <translation>The size is written like 1200x800.</translation>
     </message>
@@ -65,16 +53,28 @@
         <source>[dossier]</source>
         <translation>[folder]</translation>
     </message>
+    <message>
+        <source>Présente les images d&apos;un dossier, ou d&apos;un diaporama, comme une planche de diapositives.</source>
+        <translation>Shows the pictures of a folder, or of a slide show, as a sheet of slides.</translation>
+    </message>
+    <message>
+        <source>Le dossier ou le diaporama à ouvrir.</source>
+        <translation>The folder or the slide show to open.</translation>
+    </message>
+    <message>
+        <source>Un seul dossier ou diaporama à la fois.</source>
+        <translation>One folder or slide show at a time.</translation>
+    </message>
 </context>
 <context>
     <name>Screenshot</name>
     <message>
-        <source>Impossible de présenter le dossier «&#xa0;%1&#xa0;»</source>
-        <translation>Can&apos;t show the folder “%1”</translation>
-    </message>
-    <message>
         <source>Impossible d&apos;écrire le fichier «&#xa0;%1&#xa0;»</source>
         <translation>Can&apos;t write the file “%1”</translation>
+    </message>
+    <message>
+        <source>Impossible de présenter «&#xa0;%1&#xa0;»</source>
+        <translation>Can&apos;t show “%1”</translation>
     </message>
 </context>
 <context>
@@ -86,10 +86,6 @@
     <message>
         <source>Ouvrir un dossier</source>
         <translation>Open a Folder</translation>
-    </message>
-    <message>
-        <source>%1 — Vorlane</source>
-        <translation>%1 — Vorlane</translation>
     </message>
     <message>
         <source>Ouvrez un dossier d&apos;images</source>
@@ -116,18 +112,6 @@
         <translation>&amp;File</translation>
     </message>
     <message>
-        <source>&amp;Ouvrir un dossier…</source>
-        <translation>&amp;Open Folder…</translation>
-    </message>
-    <message>
-        <source>&amp;Dossiers récents</source>
-        <translation>&amp;Recent Folders</translation>
-    </message>
-    <message>
-        <source>&amp;Effacer la liste</source>
-        <translation>&amp;Clear List</translation>
-    </message>
-    <message>
         <source>&amp;Quitter</source>
         <translation>&amp;Quit</translation>
     </message>
@@ -146,10 +130,6 @@
     <message>
         <source>&amp;Plein écran</source>
         <translation>&amp;Full Screen</translation>
-    </message>
-    <message>
-        <source>Aucun dossier</source>
-        <translation>No folders</translation>
     </message>
     <message>
         <source>Ajouter des images</source>
@@ -317,6 +297,101 @@
         <source>&amp;Rétablir</source>
         <translation>&amp;Redo</translation>
     </message>
+    <message>
+        <source>Diaporama</source>
+        <translation>Slide Show</translation>
+    </message>
+    <message>
+        <source>%1[*] — Vorlane</source>
+        <translation>%1[*] — Vorlane</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln image(s) introuvable(s)</source>
+        <translation>
+            <numerusform>%Ln picture is missing</numerusform>
+            <numerusform>%Ln pictures are missing</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Ouvrir un diaporama…</source>
+        <translation>&amp;Open Slide Show…</translation>
+    </message>
+    <message>
+        <source>Ouvrir un &amp;dossier…</source>
+        <translation>Open &amp;Folder…</translation>
+    </message>
+    <message>
+        <source>&amp;Enregistrer</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>Enregistrer &amp;sous…</source>
+        <translation>Save &amp;As…</translation>
+    </message>
+    <message>
+        <source>Ouverts &amp;récemment</source>
+        <translation>Open &amp;Recent</translation>
+    </message>
+    <message>
+        <source>E&amp;ffacer la liste</source>
+        <translation>&amp;Clear List</translation>
+    </message>
+    <message>
+        <source>Rien encore</source>
+        <translation>Nothing Yet</translation>
+    </message>
+    <message>
+        <source>Diaporamas Vorlane (*.%1)</source>
+        <translation>Vorlane slide shows (*.%1)</translation>
+    </message>
+    <message>
+        <source>Enregistrer le diaporama</source>
+        <translation>Save Slide Show</translation>
+    </message>
+    <message>
+        <source>Diaporama enregistré</source>
+        <translation>Slide show saved</translation>
+    </message>
+    <message>
+        <source>Ouvrir un diaporama</source>
+        <translation>Open Slide Show</translation>
+    </message>
+    <message>
+        <source>Vorlane</source>
+        <translation>Vorlane</translation>
+    </message>
+    <message>
+        <source>Enregistrer les modifications de «&#xa0;%1&#xa0;»&#xa0;?</source>
+        <translation>Save the changes to “%1”?</translation>
+    </message>
+    <message>
+        <source>Les fichiers des images ne sont pas touchés.</source>
+        <translation>The picture files are left alone.</translation>
+    </message>
+    <message>
+        <source>&amp;Ne pas enregistrer</source>
+        <translation>&amp;Don&apos;t Save</translation>
+    </message>
+    <message>
+        <source>Un diaporama du %1 n&apos;a pas été enregistré.</source>
+        <translation>A slide show of %1 has not been saved.</translation>
+    </message>
+    <message>
+        <source>Le programme s&apos;est arrêté avant. Voulez-vous retrouver ce diaporama&#xa0;?</source>
+        <translation>The program ended before. Do you want this slide show back?</translation>
+    </message>
+    <message>
+        <source>&amp;Retrouver</source>
+        <translation>&amp;Recover</translation>
+    </message>
+    <message>
+        <source>&amp;Supprimer</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>&amp;Plus tard</source>
+        <translation>&amp;Later</translation>
+    </message>
 </context>
 <context>
     <name>vorlane::editor::Show</name>
@@ -377,6 +452,47 @@
     <message>
         <source>%L1&#xa0;%</source>
         <translation>%L1%</translation>
+    </message>
+</context>
+<context>
+    <name>SavedShow</name>
+    <message>
+        <source>le fichier est endommagé à l&apos;octet %1</source>
+        <translation>the file is damaged at byte %1</translation>
+    </message>
+    <message>
+        <source>ce n&apos;est pas un diaporama de Vorlane</source>
+        <translation>it is no slide show of Vorlane</translation>
+    </message>
+    <message>
+        <source>il vient d&apos;une version plus récente de Vorlane</source>
+        <translation>it comes from a later version of Vorlane</translation>
+    </message>
+    <message>
+        <source>le fichier est endommagé, à l&apos;entrée «&#xa0;%1&#xa0;»</source>
+        <translation>the file is damaged, at the entry “%1”</translation>
+    </message>
+</context>
+<context>
+    <name>ShowFile</name>
+    <message>
+        <source>Impossible d&apos;ouvrir «&#xa0;%1&#xa0;»&#xa0;: %2</source>
+        <translation>Can&apos;t open “%1”: %2</translation>
+    </message>
+    <message>
+        <source>le fichier est trop grand pour un diaporama</source>
+        <translation>the file is too large for a slide show</translation>
+    </message>
+    <message>
+        <source>Impossible d&apos;enregistrer «&#xa0;%1&#xa0;»&#xa0;: %2</source>
+        <translation>Can&apos;t save “%1”: %2</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::ShowKeeper</name>
+    <message>
+        <source>Les images sont encore en cours de lecture&#xa0;: enregistrez dans un instant</source>
+        <translation>The pictures are still being read: save in a moment</translation>
     </message>
 </context>
 </TS>

@@ -27,6 +27,13 @@
             <numerusform>%Ln images ajoutées</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln image(s) introuvable(s)</source>
+        <translation>
+            <numerusform>%Ln image introuvable</numerusform>
+            <numerusform>%Ln images introuvables</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vorlane::editor::StatusPanel</name>

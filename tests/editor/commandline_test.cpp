@@ -16,7 +16,7 @@ CommandLineAnswer Parse(QStringList arguments) {
 TEST(CommandLine, NothingIsAsked) {
     const auto answer = Parse({});
     ASSERT_TRUE(answer.commands);
-    EXPECT_TRUE(answer.commands->folder.isEmpty());
+    EXPECT_TRUE(answer.commands->path.isEmpty());
     EXPECT_TRUE(answer.commands->screenshot.isEmpty());
     EXPECT_FALSE(answer.commands->size.isValid());
 }
@@ -24,7 +24,7 @@ TEST(CommandLine, NothingIsAsked) {
 TEST(CommandLine, AllIsAsked) {
     const auto answer = Parse({"--screenshot", "a.png", "--size", "1200x800", "/pictures"});
     ASSERT_TRUE(answer.commands);
-    EXPECT_EQ(answer.commands->folder, "/pictures");
+    EXPECT_EQ(answer.commands->path, "/pictures");
     EXPECT_EQ(answer.commands->screenshot, "a.png");
     EXPECT_EQ(answer.commands->size, QSize(1200, 800));
 }

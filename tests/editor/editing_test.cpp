@@ -304,7 +304,7 @@ TEST_F(EditingTest, FilesDroppedOnAnEmptyWindowBeginASheet) {
     ASSERT_TRUE(Settle());
     EXPECT_EQ(Letters(), "ab");
     EXPECT_TRUE(window_->sheet().isVisible());
-    EXPECT_EQ(window_->windowTitle(), "Vorlane");
+    EXPECT_EQ(window_->windowTitle(), "Vorlane[*]");
 }
 
 // --- Moving ---

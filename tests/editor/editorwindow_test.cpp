@@ -26,7 +26,7 @@ TEST_F(EditorWindowTest, InvitesToOpenAFolderAtFirst) {
     EXPECT_TRUE(Empty().isVisible());
     EXPECT_FALSE(window_->sheet().isVisible());
     EXPECT_EQ(Empty().title(), "Ouvrez un dossier d'images");
-    EXPECT_EQ(window_->windowTitle(), "Vorlane");
+    EXPECT_EQ(window_->windowTitle(), "Vorlane[*]");
     EXPECT_EQ(Status(), "");
     EXPECT_FALSE(window_->findChild<QSlider*>("zoom")->isVisible());
     EXPECT_TRUE(window_->isSettled());
@@ -40,7 +40,7 @@ TEST_F(EditorWindowTest, ShowsThePicturesOfAFolder) {
     EXPECT_EQ(window_->count(), 58);
     EXPECT_EQ(window_->sheet().Count(), 58);
     EXPECT_EQ(Status(), "58 images");
-    EXPECT_EQ(window_->windowTitle(), QFileInfo(Folder()).fileName() + QString::fromUtf8(" — Vorlane"));
+    EXPECT_EQ(window_->windowTitle(), QFileInfo(Folder()).fileName() + QString::fromUtf8("[*] — Vorlane"));
     EXPECT_FALSE(window_->status().isProgressShown());
     EXPECT_EQ(Slide(0).ImageName(), "p000.jpg");
     EXPECT_EQ(Slide(5).ImageName(), "p005.jpg");
@@ -229,14 +229,14 @@ TEST_F(EditorWindowTest, RemembersFoldersSlideSizeAndWindow) {
     Make();
     EXPECT_EQ(window_->status().slideWidth(), 256);
     EXPECT_EQ(window_->sheet().DiapoWidth(), 256);
-    EXPECT_EQ(RecentFolders(settings_).list(), QStringList(Folder()));
+    EXPECT_EQ(Recents(settings_).list(), QStringList(Folder()));
 }
 
-TEST_F(EditorWindowTest, TheRecentFoldersAreInTheMenu) {
+TEST_F(EditorWindowTest, TheRecentsAreInTheMenu) {
     pictures_.WritePictures(2);
     ASSERT_TRUE(Open(Folder()));
     Make();
-    QMenu* recent = Action("Dossiers récents").menu();
+    QMenu* recent = Action(QString::fromUtf8("Ouverts récemment")).menu();
     Q_EMIT recent->aboutToShow();
     ASSERT_EQ(recent->actions().value(0)->text(), Folder());
     recent->actions().value(0)->trigger();
@@ -244,14 +244,14 @@ TEST_F(EditorWindowTest, TheRecentFoldersAreInTheMenu) {
     EXPECT_EQ(window_->folder(), Folder());
     Action("Effacer la liste").trigger();
     Q_EMIT recent->aboutToShow();
-    EXPECT_EQ(recent->actions().value(0)->text(), "Aucun dossier");
+    EXPECT_EQ(recent->actions().value(0)->text(), "Rien encore");
 }
 
 TEST_F(EditorWindowTest, AFolderThatIsGoneLeavesTheRecentOnes) {
     const QString gone = pictures_.Path("gone");
-    RecentFolders(settings_).add(gone);
+    Recents(settings_).add(gone);
     ASSERT_TRUE(Open(gone));
-    EXPECT_TRUE(RecentFolders(settings_).list().isEmpty());
+    EXPECT_TRUE(Recents(settings_).list().isEmpty());
 }
 
 TEST_F(EditorWindowTest, FollowsThePalette) {

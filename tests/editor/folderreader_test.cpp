@@ -53,6 +53,22 @@ TEST_F(FolderReaderTest, AFileWithoutExtensionIsAPictureIfItHoldsOne) {
     EXPECT_EQ(Names(), QStringList("cliche"));
 }
 
+TEST_F(FolderReaderTest, OfAListEachComesAlsoWhatIsNotThere) {
+    const QString there = folder_.Write("b.jpg", "12345");
+    const QString gone = folder_.Path("gone.jpg");
+    reader_.list({gone, there, there, folder_.Path(".")});
+    ASSERT_TRUE(Finish());
+    EXPECT_EQ(trace_, QStringList({"opened 4", "finished"}));
+    const std::vector<FolderItem> items = reader_.take(10);
+    ASSERT_EQ(items.size(), 4U);
+    EXPECT_EQ(items[0].path, gone);
+    EXPECT_TRUE(items[0].missing);
+    EXPECT_EQ(items[1].path, there);
+    EXPECT_FALSE(items[1].missing);
+    EXPECT_EQ(items[2].path, there);
+    EXPECT_TRUE(items[3].missing);
+}
+
 TEST_F(FolderReaderTest, ItemsComeWithPathAndSortData) {
     folder_.Write("b.jpg", "12345");
     const QString folder = QFileInfo(folder_.Path("b.jpg")).path();

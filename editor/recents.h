@@ -1,4 +1,4 @@
-// RecentFolders: the folders opened last, kept in the user's settings.
+// Recents: the folders and show files opened last, kept in the user's settings.
 #pragma once
 
 #include <QStringList>
@@ -7,17 +7,17 @@ class QSettings;
 
 namespace vorlane::editor {
 
-class RecentFolders {
+class Recents {
 public:
     static constexpr int kMost = 10;
 
     // settings outlives this.
-    explicit RecentFolders(QSettings& settings) : settings_(settings) {}
+    explicit Recents(QSettings& settings) : settings_(settings) {}
 
     // From the last one on.
     QStringList list() const;
-    void add(const QString& folder);
-    void remove(const QString& folder);
+    void add(const QString& path);
+    void remove(const QString& path);
     void clear();
 
 private:

@@ -1,0 +1,292 @@
+// Shows in files, through the window.
+#include "editor/showfile.h"
+
+#include "editor/show.h"
+#include "editor/showkeeper.h"
+#include "tests/editor/windowfixture.h"
+
+#include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace vorlane::editor {
+namespace {
+
+class ShowFileTest : public WindowFixture {
+protected:
+    QString Write(const QString& name, const SavedShow& show) {
+        const QString path = files_.filePath(name);
+        EXPECT_EQ(SaveShow(path, show), "");
+        return path;
+    }
+    bool OpenShow(const QString& path) { return window_->openShow(path) && Settle(); }
+    SavedShow OfPictures(const QString& letters) {
+        SavedShow show;
+        for (const QChar letter : letters) show.pictures.push_back(pictures_.WritePicture(QString(letter) + ".jpg"));
+        return show;
+    }
+    // Presses a button of the question that stands open; false when there is none.
+    bool Answer(const QString& question, const QString& text) {
+        auto* box = window_->findChild<QMessageBox*>(question);
+        if (box == nullptr) return false;
+        for (QAbstractButton* button : box->buttons()) {
+            if (button->text().remove('&') == text) {
+                button->click();
+                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                return true;
+            }
+        }
+        return false;
+    }
+    bool AnswerUnsaved(const QString& text) { return Answer("unsaved", text); }
+    void RemoveFirst() {
+        VorlaneList list = window_->sheet().Liste();
+        list.SetSelected(0, true);
+        window_->removeSelected();
+    }
+    QByteArray BytesOf(const QString& path) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    QString RecoveryFolder() const { return files_.filePath("recovery"); }
+    QStringList Kept() const { return QDir(RecoveryFolder()).entryList({"*.vorlane"}); }
+
+    QTemporaryDir files_;
+};
+
+const char* kDiscard = "Ne pas enregistrer";
+
+TEST_F(ShowFileTest, OpensAShowInTheOrderThatItWasSavedIn) {
+    const QString path = Write("Vacances.vorlane", OfPictures("cab"));
+    ASSERT_TRUE(OpenShow(path));
+    EXPECT_EQ(Letters(), "cab");
+    EXPECT_EQ(window_->showPath(), path);
+    EXPECT_EQ(window_->windowTitle(), QString::fromUtf8("Vacances[*] — Vorlane"));
+    EXPECT_FALSE(window_->isWindowModified());
+    EXPECT_EQ(window_->slides().order().by, SortBy::Hand);
+    EXPECT_EQ(Recents(settings_).list().value(0), path);
+}
+
+TEST_F(ShowFileTest, WhatIsChangedAndSavedComesBack) {
+    const QString path = Write("a.vorlane", OfPictures("abcd"));
+    ASSERT_TRUE(OpenShow(path));
+    RemoveFirst();
+    EXPECT_TRUE(window_->isWindowModified());
+    ASSERT_TRUE(window_->save());
+    EXPECT_FALSE(window_->isWindowModified());
+    EXPECT_EQ(Status(), QString::fromUtf8("Diaporama enregistré"));
+    EXPECT_EQ(LoadShow(path).show, OfPictures("bcd"));
+}
+
+TEST_F(ShowFileTest, UndoingTheChangeLeavesNothingToSave) {
+    ASSERT_TRUE(OpenShow(Write("a.vorlane", OfPictures("abc"))));
+    RemoveFirst();
+    window_->slides().undo();
+    EXPECT_EQ(Letters(), "abc");
+    EXPECT_FALSE(window_->isWindowModified());
+    window_->slides().redo();
+    EXPECT_TRUE(window_->isWindowModified());
+}
+
+TEST_F(ShowFileTest, SoundsFollowTheirPictures) {
+    SavedShow show = OfPictures("abc");
+    show.exposure = 3;
+    const QString song = files_.filePath("song.ogg");
+    show.sounds = {{SoundKind::Music, 0, song}, {SoundKind::Comment, 2, song}};
+    const QString path = Write("a.vorlane", show);
+    ASSERT_TRUE(OpenShow(path));
+    RemoveFirst();
+    ASSERT_TRUE(window_->save());
+    SavedShow expected = OfPictures("bc");
+    expected.exposure = 3;
+    expected.sounds = {{SoundKind::Comment, 1, song}};
+    EXPECT_EQ(LoadShow(path).show, expected);
+}
+
+TEST_F(ShowFileTest, PicturesThatAreGoneStayAsBrokenSlides) {
+    const SavedShow show = OfPictures("abc");
+    const QString path = Write("a.vorlane", show);
+    ASSERT_TRUE(QFile::remove(show.pictures[1]));
+    ASSERT_TRUE(OpenShow(path));
+    EXPECT_EQ(Letters(), "abc");
+    EXPECT_EQ(Status(), "1 image introuvable");
+    EXPECT_EQ(invalid_, QStringList("b.jpg"));
+    EXPECT_FALSE(window_->isWindowModified());
+    ASSERT_TRUE(window_->save());
+    EXPECT_EQ(LoadShow(path).show->pictures, show.pictures);
+}
+
+TEST_F(ShowFileTest, ADamagedFileLeavesEverythingAsItIs) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    QFile file(files_.filePath("bad.vorlane"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("{\"format\":");
+    file.close();
+    EXPECT_FALSE(window_->openShow(file.fileName()));
+    EXPECT_TRUE(Status().contains(QString::fromUtf8("endommagé"))) << Status().toStdString();
+    EXPECT_EQ(Letters(), "ab");
+    EXPECT_EQ(window_->showPath(), "");
+    EXPECT_FALSE(window_->openShow(files_.filePath("nowhere.vorlane")));
+    EXPECT_TRUE(Status().contains("nowhere.vorlane"));
+    EXPECT_EQ(Letters(), "ab");
+}
+
+TEST_F(ShowFileTest, AFailedSavingLeavesTheFileAndTheMark) {
+    const QString path = Write("a.vorlane", OfPictures("ab"));
+    ASSERT_TRUE(OpenShow(path));
+    RemoveFirst();
+    const QByteArray before = BytesOf(path);
+    const QString unwritable = files_.filePath("none/a.vorlane");
+    EXPECT_NE(SaveShow(unwritable, SavedShow{}), "");
+    QDir().mkdir(files_.filePath("folder.vorlane"));
+    EXPECT_NE(SaveShow(files_.filePath("folder.vorlane"), SavedShow{}), "");
+    EXPECT_EQ(BytesOf(path), before);
+    EXPECT_TRUE(window_->isWindowModified());
+}
+
+TEST_F(ShowFileTest, AFolderThatIsOnlySortedNeedsNoSaving) {
+    ASSERT_TRUE(OpenPictures("abc"));
+    window_->slides().sort({SortBy::Name, true});
+    EXPECT_EQ(Letters(), "cba");
+    EXPECT_FALSE(window_->isWindowModified());
+    RemoveFirst();
+    EXPECT_EQ(Letters(), "ba") << Status().toStdString();
+    EXPECT_TRUE(window_->isWindowModified());
+}
+
+TEST_F(ShowFileTest, ASortOfAShowIsAChange) {
+    ASSERT_TRUE(OpenShow(Write("a.vorlane", OfPictures("ab"))));
+    window_->slides().sort({SortBy::Name, true});
+    EXPECT_TRUE(window_->isWindowModified());
+}
+
+TEST_F(ShowFileTest, AShowIsOpenedByItsNameAmongFoldersAndByDrop) {
+    const QString path = Write("a.vorlane", OfPictures("ab"));
+    window_->open(path);
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(window_->showPath(), path);
+    window_->open(Folder());
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(window_->showPath(), "");
+    Drop({QUrl::fromLocalFile(path)});
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(window_->showPath(), path);
+}
+
+// --- What isn't saved ---
+
+TEST_F(ShowFileTest, ClosingAsksAndStaysUntilItIsAnswered) {
+    ASSERT_TRUE(OpenShow(Write("a.vorlane", OfPictures("abc"))));
+    RemoveFirst();
+    EXPECT_FALSE(window_->close());
+    EXPECT_TRUE(AnswerUnsaved("Annuler"));
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_TRUE(window_->isWindowModified());
+    EXPECT_FALSE(window_->close());
+    EXPECT_TRUE(AnswerUnsaved(kDiscard));
+    EXPECT_FALSE(window_->isVisible());
+}
+
+TEST_F(ShowFileTest, ClosingCanSave) {
+    const QString path = Write("a.vorlane", OfPictures("abc"));
+    ASSERT_TRUE(OpenShow(path));
+    RemoveFirst();
+    EXPECT_FALSE(window_->close());
+    EXPECT_TRUE(AnswerUnsaved("Enregistrer"));
+    EXPECT_FALSE(window_->isVisible());
+    EXPECT_EQ(LoadShow(path).show->pictures.size(), 2);
+}
+
+TEST_F(ShowFileTest, AnUnchangedShowClosesWithoutAWord) {
+    ASSERT_TRUE(OpenShow(Write("a.vorlane", OfPictures("abc"))));
+    EXPECT_TRUE(window_->close());
+    EXPECT_FALSE(AnswerUnsaved("Annuler"));
+}
+
+TEST_F(ShowFileTest, AnotherShowWaitsForTheAnswer) {
+    const QString one = Write("one.vorlane", OfPictures("abc"));
+    const QString other = Write("other.vorlane", OfPictures("xy"));
+    ASSERT_TRUE(OpenShow(one));
+    RemoveFirst();
+    Drop({QUrl::fromLocalFile(other)});
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(window_->showPath(), one);
+    EXPECT_TRUE(AnswerUnsaved(kDiscard));
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(window_->showPath(), other);
+    EXPECT_EQ(Letters(), "xy");
+    EXPECT_EQ(LoadShow(one).show->pictures.size(), 3);
+}
+
+// --- Recovery ---
+
+TEST_F(ShowFileTest, WhatARunLeftIsOfferedAndTakenUp) {
+    SavedShow left = OfPictures("cab");
+    left.origin = files_.filePath("first.vorlane");
+    ASSERT_TRUE(QDir().mkpath(RecoveryFolder()));
+    const QString file = RecoveryFolder() + "/left.vorlane";
+    ASSERT_EQ(SaveShow(file, left), "");
+    window_->setRecoveryFolder(RecoveryFolder());
+    window_->offerRecovery();
+    ASSERT_TRUE(Answer("recovery", "Retrouver"));
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(Letters(), "cab");
+    EXPECT_EQ(window_->showPath(), left.origin);
+    EXPECT_TRUE(window_->isWindowModified());
+    EXPECT_FALSE(QFile::exists(file));
+    ASSERT_EQ(Kept().size(), 1);  // by this run now
+    ASSERT_TRUE(window_->save());
+    EXPECT_TRUE(Kept().isEmpty());
+    EXPECT_EQ(LoadShow(left.origin).show, OfPictures("cab"));
+}
+
+TEST_F(ShowFileTest, WhatIsLeftForLaterStaysAndWhatIsNotWantedGoes) {
+    ASSERT_TRUE(QDir().mkpath(RecoveryFolder()));
+    ASSERT_EQ(SaveShow(RecoveryFolder() + "/left.vorlane", OfPictures("a")), "");
+    window_->setRecoveryFolder(RecoveryFolder());
+    window_->offerRecovery();
+    ASSERT_TRUE(Answer("recovery", "Plus tard"));
+    EXPECT_EQ(Kept().size(), 1);
+    window_->offerRecovery();
+    ASSERT_TRUE(Answer("recovery", "Supprimer"));
+    EXPECT_TRUE(Kept().isEmpty());
+    EXPECT_EQ(window_->count(), 0);
+}
+
+TEST_F(ShowFileTest, WithoutAnythingLeftNothingIsAsked) {
+    window_->setRecoveryFolder(RecoveryFolder());
+    window_->offerRecovery();
+    EXPECT_EQ(window_->findChild<QMessageBox*>("recovery"), nullptr);
+}
+
+TEST_F(ShowFileTest, AChangeIsKeptAfterAWhileAndForgottenOnceItIsSaved) {
+    Show& show = window_->slides();
+    ShowKeeper keeper(show, [this] { return std::optional(OfPictures("q")); });
+    keeper.setRecoveryFolder(RecoveryFolder());
+    keeper.touch();
+    auto* pause = keeper.findChild<QTimer*>();
+    ASSERT_NE(pause, nullptr);
+    EXPECT_TRUE(pause->isActive());
+    EXPECT_LE(pause->interval(), ShowKeeper::kRecoveryPause * 1000);
+    ASSERT_EQ(keeper.keep(), "");
+    EXPECT_EQ(Kept().size(), 1);
+    ASSERT_EQ(keeper.save(files_.filePath("q.vorlane")), "");
+    EXPECT_FALSE(keeper.isModified());
+    EXPECT_FALSE(pause->isActive());
+    EXPECT_TRUE(Kept().isEmpty());
+}
+
+TEST_F(ShowFileTest, AShowThatIsBeingReadIsNeitherSavedNorKept) {
+    ShowKeeper keeper(window_->slides(), [] { return std::optional<SavedShow>(); });
+    keeper.setRecoveryFolder(RecoveryFolder());
+    keeper.touch();
+    EXPECT_EQ(keeper.keep(), "");
+    EXPECT_TRUE(Kept().isEmpty());
+    EXPECT_NE(keeper.save(files_.filePath("q.vorlane")), "");
+    EXPECT_FALSE(QFile::exists(files_.filePath("q.vorlane")));
+    EXPECT_TRUE(keeper.isModified());
+}
+
+}  // namespace
+}  // namespace vorlane::editor
