@@ -1,5 +1,5 @@
-# A floor of the house is a folder of rooms and a static library of the same name, vorlane::<name>. Its headers are a
-# file set, so that CMake can prove that each of them compiles alone. A floor without a room yet is passed over.
+# A floor of the house is a folder of rooms and a static library, vorlane_<name>. Its headers are a file set, so that
+# CMake can prove that each of them compiles alone. A floor without a room yet is passed over.
 #
 #   vorlane_floor(<name> [FOLDERS <folder>...] [USES <floor>...])
 function(vorlane_floor name)
@@ -21,7 +21,6 @@ function(vorlane_floor name)
 
   set(target vorlane_${name})
   add_library(${target} STATIC ${sources})
-  add_library(vorlane::${name} ALIAS ${target})
   target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${headers})
   target_compile_features(${target} PUBLIC cxx_std_20)
   set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON AUTOMOC OFF)

@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# symbols.sh LIBDIR: the shared libraries show the namespace vorlane and nothing else.
+set -euo pipefail
+
+shown() { # the names that a library defines for others, without their arguments
+    # c++filt leaves accented names as they are.
+    nm --dynamic --defined-only --format=posix "$1" | cut -d ' ' -f 1 | c++filt --no-params
+}
+
+for library in "$1"/libvorlane-*.so; do
+    if shown "$library" | grep -vE '^(.* (for|to) )?vorlane::|^_ZNK?7vorlane'; then
+        echo "$library shows what is not the library's own"
+        exit 1
+    fi
+done
