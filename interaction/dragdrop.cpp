@@ -185,6 +185,7 @@ void Vorlane::HideDrag() {
     TimerDrag.SetEnabled(false);
     SharedFrmDrag(Desktop()).Unload();
     CloseRow();
+    drag_.DisplayText.clear();
 }
 
 void Vorlane::EndDrag() {

@@ -121,7 +121,9 @@ void Vorlane::LeaveGround(const DragEvent& drag) {
     if (inside && drag.X >= 0) return;
     CloseRow();
     drag_.DropSlot = 0;
-    if (!internalDrag_) drag_.Cancel = false;
+    if (internalDrag_) return;
+    drag_.Cancel = false;
+    drag_.DisplayText.clear();
 }
 
 // --- Counting ---

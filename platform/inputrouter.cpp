@@ -210,6 +210,7 @@ void InputRouter::DragDrop(DataObject& data, int32_t& effect, int16_t button, in
 void InputRouter::ForgetButtons() {
     held_ = 0;
     pressed_ = {};
+    last_ = {};
 }
 
 }  // namespace vorlane

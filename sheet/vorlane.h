@@ -172,6 +172,9 @@ public:
     void OleResetDrag();
     // How many files data brings: those that are there, and those of the folders. nullptr brings none.
     int32_t CountObject(const DataObject* data);
+    // During a drag over the sheet, and in OLEBeforeDropStart: the list index in front of which a drop puts items, the
+    // number of items for the end. A sort puts them where they belong.
+    int32_t DropPlace() const;
 
     // --- Sounds ---
     // Shows the sound button of a slide, 0 music or 1 comment, as playing or stopped. Nothing happens to a button that
@@ -643,7 +646,6 @@ private:
     void DropOnSlide(const sheet::DragEvent& drop);
     void RaiseDrop(const sheet::DragEvent& drop);
     void TakeDrop(const sheet::DragEvent& drop);
-    int32_t DropPlace() const;
     int32_t MoveFiles(ListBox& list, const std::vector<DraggedFile>& files);
     std::vector<std::string> MovedTexts(const ListBox& list, const std::vector<int32_t>& items,
                                         const std::vector<DraggedFile>& files) const;

@@ -281,6 +281,9 @@ public:
     // --- Drags ---
     // How many files dragged data brings, those of its folders included.
     int CountObject(const DataObject* dragged);
+    // During a drag over the sheet, and in OnOLEBeforeDropStart: the list index in front of which a drop puts items,
+    // the number of items for the end. A sort puts them where they belong.
+    int DropPlace() const;
 
 public Q_SLOTS:
     void SelectAll();

@@ -10,6 +10,10 @@ int VorlaneWidget::CountObject(const DataObject* dragged) {
     return Ask("CountObject", 0, [&] { return sheet_.CountObject(dragged); });
 }
 
+int VorlaneWidget::DropPlace() const {
+    return Ask("DropPlace", 0, [&] { return sheet_.DropPlace(); });
+}
+
 void VorlaneWidget::OLEDrag() {
     Do("OLEDrag", [&] { sheet_.OLEDrag(); });
 }

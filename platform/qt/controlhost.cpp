@@ -76,10 +76,9 @@ vorlane::Ambient ControlHost::AmbientOfHost() {
     return ambient;
 }
 
-void ControlHost::Attach(std::unique_ptr<UserControl> control) {
-    Release();
+void ControlHost::Attach(std::shared_ptr<UserControl> control) {
     control_ = std::move(control);
-    router_ = std::make_unique<InputRouter>(*control_);
+    router_ = std::make_shared<InputRouter>(*control_);
     router_->DoubleClickTime = QApplication::doubleClickInterval();
     router_->DoubleClickDistance = static_cast<float>(QGuiApplication::styleHints()->mouseDoubleClickDistance());
     damaged_ = control_->Damaged.connect([this](const Box& box) {
@@ -93,6 +92,7 @@ void ControlHost::Attach(std::unique_ptr<UserControl> control) {
 void ControlHost::Release() {
     peers_.clear();
     damaged_ = {};
+    if (control_.use_count() > 1 && silence_) silence_();
     router_.reset();
     control_.reset();
 }
@@ -160,7 +160,7 @@ void ControlHost::PointAt(const QPointF& place) {
 void ControlHost::mousePressEvent(QMouseEvent* event) {
     const int16_t button = ButtonOf(event->button());
     if (!router_ || button == 0) return QWidget::mousePressEvent(event);
-    router_->MouseDown(button, ShiftOf(event->modifiers()), X(event->position()), Y(event->position()));
+    Hold().Router->MouseDown(button, ShiftOf(event->modifiers()), X(event->position()), Y(event->position()));
 }
 
 // The router makes its own double clicks.
@@ -171,13 +171,13 @@ void ControlHost::mouseDoubleClickEvent(QMouseEvent* event) {
 void ControlHost::mouseReleaseEvent(QMouseEvent* event) {
     const int16_t button = ButtonOf(event->button());
     if (!router_ || button == 0) return QWidget::mouseReleaseEvent(event);
-    router_->MouseUp(button, ShiftOf(event->modifiers()), X(event->position()), Y(event->position()));
+    Hold().Router->MouseUp(button, ShiftOf(event->modifiers()), X(event->position()), Y(event->position()));
 }
 
 void ControlHost::mouseMoveEvent(QMouseEvent* event) {
     if (!router_) return;
     PointAt(event->position());
-    router_->MouseMove(ShiftOf(event->modifiers()), X(event->position()), Y(event->position()));
+    Hold().Router->MouseMove(ShiftOf(event->modifiers()), X(event->position()), Y(event->position()));
 }
 
 void ControlHost::leaveEvent(QEvent* event) {
@@ -191,7 +191,7 @@ void ControlHost::wheelEvent(QWheelEvent* event) {
     if (!router_) return;
     const QPoint angle = event->angleDelta();
     const double notches = (angle.y() != 0 ? angle.y() : angle.x()) / kNotch;
-    router_->Wheel(notches, X(event->position()), Y(event->position()));
+    Hold().Router->Wheel(notches, X(event->position()), Y(event->position()));
     event->accept();
 }
 
@@ -215,16 +215,17 @@ bool ControlHost::ShowToolTip(const QHelpEvent& event) {
 // --- Keys ---
 
 bool ControlHost::FeedKeyDown(const QKeyEvent& event) {
-    if (!router_) return false;
+    const Hosted hosted = Hold();
+    if (!hosted.Router) return false;
     int16_t code = VirtualKeyOf(event.key());
     if (code != 0) {
         desktop_.keyboard.Press(code);
-        router_->KeyDown(code, ShiftOf(event.modifiers()));
+        hosted.Router->KeyDown(code, ShiftOf(event.modifiers()));
         if (code == 0) return true;
     }
     if (event.text().isEmpty()) return false;
     auto character = static_cast<int16_t>(event.text().at(0).unicode());
-    router_->KeyPress(character);
+    hosted.Router->KeyPress(character);
     return character == 0;
 }
 
@@ -232,7 +233,7 @@ bool ControlHost::FeedKeyUp(const QKeyEvent& event) {
     int16_t code = VirtualKeyOf(event.key());
     if (!router_ || code == 0 || event.isAutoRepeat()) return false;
     desktop_.keyboard.Release(code);
-    router_->KeyUp(code, ShiftOf(event.modifiers()));
+    Hold().Router->KeyUp(code, ShiftOf(event.modifiers()));
     return code == 0;
 }
 

@@ -11,6 +11,7 @@
 #include "platform/qt/ancestorwatch.h"
 #include "platform/qt/damage.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -47,13 +48,21 @@ protected:
     // Takes the control over as a new one. Its Show comes when the widget is shown first.
     template <class T>
     T& Host(std::unique_ptr<T> control) {
+        Release();
         T& hosted = *control;
+        if constexpr (requires { hosted.Events; }) {
+            silence_ = [&events = hosted.Events] {
+                std::destroy_at(&events);
+                std::construct_at(&events);
+            };
+        }
         Attach(std::move(control));
         return hosted;
     }
     // Starts the control anew as a saved one, up to its Show if it has been shown.
     void Restart(const PropertyBag& saved);
-    // Ends the control. A derived class does so before anything that the control's events reach goes away.
+    // Ends the control. A derived class does so before anything that the control's events reach goes away. A control
+    // that is at work, in the middle of a drag for instance, ends behind that; its Events reach nobody any more.
     void Release();
 
     bool event(QEvent* event) override;
@@ -78,15 +87,23 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void Attach(std::unique_ptr<UserControl> control);
+    // The control while something is fed to it: it outlives the widget.
+    struct Hosted {
+        std::shared_ptr<UserControl> Control;
+        std::shared_ptr<InputRouter> Router;
+    };
+
+    Hosted Hold() const { return {control_, router_}; }
+    void Attach(std::shared_ptr<UserControl> control);
     void TakeSize();
     void TellMoved();
     void PointAt(const QPointF& place);
     bool ShowToolTip(const QHelpEvent& event);
 
     QtDesktop& desktop_;
-    std::unique_ptr<UserControl> control_;
-    std::unique_ptr<InputRouter> router_;
+    std::shared_ptr<UserControl> control_;
+    std::shared_ptr<InputRouter> router_;
+    std::function<void()> silence_;  // disconnects the control's Events
     std::vector<std::unique_ptr<QWidget>> peers_;
     ScopedConnection damaged_;
     std::shared_ptr<DataObject> dragged_;  // what the drag over the widget carries

@@ -2,6 +2,7 @@
 #include "platform/qt/controlhost.h"
 #include "platform/qt/dragdata.h"
 #include "platform/qt/keys.h"
+#include "platform/qt/qtdesktop.h"
 
 #include <utility>
 
@@ -14,6 +15,8 @@ namespace vorlane {
 
 namespace {
 
+constexpr int32_t kMove = 2;
+
 float X(const QDropEvent& event) {
     return static_cast<float>(event.position().x());
 }
@@ -22,10 +25,12 @@ float Y(const QDropEvent& event) {
     return static_cast<float>(event.position().y());
 }
 
-void Answer(QDropEvent& event, int32_t effect) {
-    const int32_t done = effect & EffectsOf(event.possibleActions());
+// A move that is possible inside the program alone passes for the copy that is offered.
+void Answer(QDropEvent& event, QtDrags& drags, int32_t effect) {
+    const int32_t done = effect & drags.Possible(event.possibleActions());
+    drags.Answer(done);
     if (done == 0) return event.ignore();
-    event.setDropAction((done & 2) != 0 ? Qt::MoveAction : Qt::CopyAction);
+    event.setDropAction((done & kMove) != 0 ? Qt::MoveAction : Qt::CopyAction);
     event.accept();
 }
 
@@ -45,23 +50,31 @@ void ControlHost::dragEnterEvent(QDragEnterEvent* event) {
 // The control may let the message loop run, in which anything can happen to the drag and to the widget.
 void ControlHost::dragMoveEvent(QDragMoveEvent* event) {
     if (!router_ || !dragged_) return event->ignore();
+    const Hosted hosted = Hold();
     const auto carried = dragged_;
+    QtDrags& drags = desktop_.drags;
     int32_t effect = 0;
-    router_->DragOver(*carried, effect, ButtonsOf(event->buttons()), ShiftOf(event->modifiers()), X(*event), Y(*event));
-    Answer(*event, effect);
+    hosted.Router->DragOver(*carried, effect, ButtonsOf(event->buttons()), ShiftOf(event->modifiers()), X(*event),
+                            Y(*event));
+    Answer(*event, drags, effect);
 }
 
 void ControlHost::dragLeaveEvent(QDragLeaveEvent*) {
+    const Hosted hosted = Hold();
     const auto carried = std::exchange(dragged_, nullptr);
-    if (router_ && carried) router_->DragLeave(*carried);
+    desktop_.drags.Leave();
+    if (hosted.Router && carried) hosted.Router->DragLeave(*carried);
 }
 
 void ControlHost::dropEvent(QDropEvent* event) {
+    const Hosted hosted = Hold();
     const auto carried = std::exchange(dragged_, nullptr);
-    if (!router_ || !carried) return event->ignore();
-    int32_t effect = EffectsOf(event->dropAction());
-    router_->DragDrop(*carried, effect, ButtonsOf(event->buttons()), ShiftOf(event->modifiers()), X(*event), Y(*event));
-    Answer(*event, effect);
+    if (!hosted.Router || !carried) return event->ignore();
+    QtDrags& drags = desktop_.drags;
+    int32_t effect = drags.Answered().value_or(EffectsOf(event->dropAction()));
+    hosted.Router->DragDrop(*carried, effect, ButtonsOf(event->buttons()), ShiftOf(event->modifiers()), X(*event),
+                            Y(*event));
+    Answer(*event, drags, effect);
 }
 
 }  // namespace vorlane

@@ -14,19 +14,65 @@
 
 namespace vorlane {
 
-// The drag deletes itself: the receiving program may read the data behind the drag's end.
+namespace {
+
+constexpr int32_t kCopy = 1;
+
+int32_t OfferedToOthers(int32_t allowed) {
+    return (allowed & kCopy) != 0 ? kCopy : allowed;
+}
+
+}  // namespace
+
+struct QtDrags::Run {
+    int32_t Allowed;
+    const std::function<void(int32_t effect)>& Feedback;
+    int32_t Told = 0;
+    std::optional<int32_t> Answered{};  // by a widget of the desktop that it is over
+
+    void Tell(int32_t effect) {
+        if (std::exchange(Told, effect) != effect) Attempt([&] { Feedback(effect); });
+    }
+};
+
+// The drag deletes itself: the receiving program may read the data behind the drag's end. The widget can go away in
+// the middle of it.
 int32_t QtDrags::DoDrag(Hwnd window, DataObject& data, int32_t allowed,
                         const std::function<void(int32_t effect)>& feedback) {
     const QPointer<QWidget> widget = windows_.WidgetOf(window);
-    if (widget.isNull() || std::exchange(running_, true)) return 0;
+    if (widget.isNull() || Running()) return 0;
+    Run run{allowed, feedback};
+    run_ = &run;
     auto* drag = new QDrag(widget.data());
+    drag->setParent(nullptr);
     drag->setMimeData(MimeDataFrom(data).release());
-    QObject::connect(drag, &QDrag::actionChanged, drag,
-                     [&](Qt::DropAction action) { Attempt([&] { feedback(EffectsOf(action)); }); });
-    const Qt::DropAction done = drag->exec(ActionsOf(allowed));
-    running_ = false;
+    QObject ears;
+    QObject::connect(widget.data(), &QObject::destroyed, &ears, &QDrag::cancel);
+    QObject::connect(drag, &QDrag::actionChanged, &ears, [&run](Qt::DropAction action) {
+        if (!run.Answered) run.Tell(EffectsOf(action));
+    });
+    const Qt::DropAction done = drag->exec(ActionsOf(OfferedToOthers(allowed)));
+    run_ = nullptr;
     if (auto* host = qobject_cast<ControlHost*>(widget.data())) host->ForgetButtons();
-    return EffectsOf(done) & allowed;
+    return done == Qt::IgnoreAction ? 0 : run.Answered.value_or(EffectsOf(done)) & allowed;
+}
+
+int32_t QtDrags::Possible(Qt::DropActions offered) const {
+    return Running() ? run_->Allowed : EffectsOf(offered);
+}
+
+std::optional<int32_t> QtDrags::Answered() const {
+    return Running() ? run_->Answered : std::nullopt;
+}
+
+void QtDrags::Answer(int32_t effect) {
+    if (!Running()) return;
+    run_->Answered = effect;
+    run_->Tell(effect);
+}
+
+void QtDrags::Leave() {
+    if (Running()) run_->Answered.reset();
 }
 
 }  // namespace vorlane

@@ -1,7 +1,13 @@
-// QtDrags: drags out of the widgets that hold controls.
+// QtDrags: drags out of the widgets that hold controls. Other programs are offered a copy where the source allows one,
+// whatever else it allows: a file manager that may choose moves the files. Inside the program all is possible that the
+// source allows.
 #pragma once
 
 #include "platform/desktop.h"
+
+#include <optional>
+
+#include <Qt>
 
 namespace vorlane {
 
@@ -11,13 +17,24 @@ class QtDrags final : public Drags {
 public:
     explicit QtDrags(QtWindows& windows) : windows_(windows) {}
 
+    // The drag ends with its window.
     int32_t DoDrag(Hwnd window, DataObject& data, int32_t allowed,
                    const std::function<void(int32_t effect)>& feedback) override;
-    bool Running() const { return running_; }
+    bool Running() const { return run_ != nullptr; }
+
+    // --- For the widgets of the desktop over which a drag goes, from here or from elsewhere ---
+    // What a drop may do. offered: what the drag's event says.
+    int32_t Possible(Qt::DropActions offered) const;
+    // What a drop would do here, and after a drop, what it has done; nothing behind a Leave.
+    std::optional<int32_t> Answered() const;
+    void Answer(int32_t effect);
+    void Leave();
 
 private:
+    struct Run;
+
     QtWindows& windows_;
-    bool running_ = false;
+    Run* run_ = nullptr;  // the drag that runs from here
 };
 
 }  // namespace vorlane

@@ -311,6 +311,15 @@ TEST_F(InputRouterTest, ButtonsThatADragHasReleasedAreUp) {
     window.Release(60, 25);
 }
 
+TEST_F(InputRouterTest, APressThatBecameADragIsNoHalfOfADoubleClick) {
+    window.Press(12, 25);
+    window.Router().ForgetButtons();
+    desktop.trace.Clear();
+    window.Press(12, 25);
+    EXPECT_EQ(Inputs(), "input image MouseDown 1 0 30,75\n");
+    window.Release(12, 25);
+}
+
 TEST_F(InputRouterTest, ADragOutsideTheRootHasNoEffect) {
     DataObject data;
     int32_t effect = 3;

@@ -1,0 +1,56 @@
+// Where a drop would put items, and what the mark says there.
+#include "tests/interaction/dragfixture.h"
+
+namespace vorlane {
+namespace {
+
+TEST_F(DragTest, TheHostCanAskWhereADropWouldPutItems) {
+    ShowDraggable(7);
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    Over(drag, 4, 0.2F);
+    EXPECT_EQ(sheet->DropPlace(), 4);
+    Over(drag, 4, 0.8F);
+    EXPECT_EQ(sheet->DropPlace(), 5);
+    Over(drag, 6, 0.8F);
+    EXPECT_EQ(sheet->DropPlace(), 7);
+}
+
+TEST_F(DragTest, AHostThatCancelsADropKnowsItsPlaceYet) {
+    ShowDraggable(7);
+    int32_t place = -1;
+    onBeforeDrop = [&](bool& cancel) {
+        cancel = true;
+        place = sheet->DropPlace();
+    };
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    DropOn(drag, 2, 0.8F);
+    EXPECT_EQ(place, 3);
+    EXPECT_EQ(sheet->Liste()->ListCount(), 7);
+}
+
+TEST_F(DragTest, WhatTheMarkSaidOfOneDragIsNotSaidOfTheNext) {
+    ShowDraggable(7);
+    onBeforeStart = [](std::string& text, bool&) { text = "3"; };
+    DragSlide(1, [&](UserDrag& drag) {
+        Over(drag, 4, 0.2F);
+        EXPECT_EQ(sheet->ImgDrag.Caption(), "3");
+        drag.Over(window, -20, 40);
+        Over(drag, 4, 0.2F);
+        EXPECT_EQ(sheet->ImgDrag.Caption(), "3");
+    });
+    {
+        UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+        Over(drag, 4, 0.2F);
+        EXPECT_EQ(sheet->ImgDrag.Caption(), "");
+        drag.Over(window, kGroundX, kGroundY);
+        Over(drag, 4, 0.2F);
+        EXPECT_EQ(sheet->ImgDrag.Caption(), "3");
+        drag.Over(window, -20, 40);
+    }
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    Over(drag, 4, 0.2F);
+    EXPECT_EQ(sheet->ImgDrag.Caption(), "");
+}
+
+}  // namespace
+}  // namespace vorlane
