@@ -6,8 +6,8 @@
 #include "editor/look.h"
 #include "editor/navigator.h"
 #include "editor/show.h"
-#include "editor/showfile.h"
 #include "editor/showkeeper.h"
+#include "editor/slidedrags.h"
 #include "editor/slidesize.h"
 #include "editor/statuspanel.h"
 #include "widgets/vorlanewidget.h"
@@ -18,10 +18,8 @@
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QIcon>
 #include <QKeyEvent>
-#include <QMimeData>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -35,15 +33,6 @@ namespace {
 
 constexpr QSize kUsualSize(1080, 740);
 
-// The local files and folders that are dragged.
-QStringList PathsOf(const QMimeData& data) {
-    QStringList paths;
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile()) paths.push_back(url.toLocalFile());
-    }
-    return paths;
-}
-
 }  // namespace
 
 EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWidget* parent)
@@ -56,12 +45,12 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
       sheet_(new VorlaneWidget(this)),
       show_(new Show(*sheet_, this)),
       navigator_(new Navigator(*sheet_, *show_, this)),
+      drags_(new SlideDrags(*sheet_, *show_, this)),
       provider_(new ThumbnailProvider(*sheet_, thumbnails_)),
       status_(new StatusPanel(this)),
       opener_([](const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }) {
     setWindowTitle(QStringLiteral("Vorlane[*]"));
     setWindowIcon(QIcon(QStringLiteral(":/editor/icons/vorlane.svg")));
-    setAcceptDrops(true);
     pages_->addWidget(empty_);
     pages_->addWidget(sheetPage_);
     auto* column = new QVBoxLayout(sheetPage_);
@@ -81,6 +70,7 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
     MakeMenus();
     ConnectReader();
     ConnectShow();
+    ConnectDrags();
     ApplyLook(*sheet_, palette());
     RestoreState();
     Retranslate();
@@ -140,41 +130,6 @@ void EditorWindow::closeEvent(QCloseEvent* event) {
     const QByteArray geometry = isFullScreen() ? QByteArray() : saveGeometry();
     Preferences{geometry, status_->slideWidth(), show_->order(), sideways}.Save(settings_);
     QMainWindow::closeEvent(event);
-}
-
-void EditorWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (PathsOf(*event->mimeData()).isEmpty()) return;
-    event->acceptProposedAction();
-    empty_->setDropping(true);
-}
-
-void EditorWindow::dragLeaveEvent(QDragLeaveEvent*) {
-    empty_->setDropping(false);
-}
-
-// A show is opened, and a folder where there is nothing yet; everything else is added.
-void EditorWindow::dropEvent(QDropEvent* event) {
-    empty_->setDropping(false);
-    const QStringList paths = PathsOf(*event->mimeData());
-    if (paths.isEmpty()) return;
-    event->acceptProposedAction();
-    const bool opens = count() == 0 && paths.size() == 1 && QFileInfo(paths.first()).isDir();
-    const bool isShow = paths.size() == 1 && IsShowFile(paths.first());
-    if (opens || isShow) {
-        Leave([this, path = paths.first()] { open(path); });
-    } else {
-        addFiles(paths, PlaceUnder(event->position().toPoint()));
-    }
-}
-
-// The list index in front of which a drop there belongs, -1 for the end.
-int EditorWindow::PlaceUnder(const QPoint& place) const {
-    QPointF onSheet = sheet_->mapFrom(this, place);
-    if (count() == 0 || !sheet_->rect().contains(onSheet.toPoint())) return -1;
-    bool behind = false;
-    const int slide = sheet_->GetDiapoFromCol(&onSheet, &behind);
-    const int item = sheet_->Value(slide);
-    return item < 0 ? -1 : item + (behind ? 1 : 0);
 }
 
 // The wheel with Ctrl over the sheet changes the size of the slides.

@@ -35,6 +35,7 @@ class EmptyPage;
 class Navigator;
 class Show;
 class ShowKeeper;
+class SlideDrags;
 class StatusPanel;
 
 class EditorWindow : public QMainWindow {
@@ -107,7 +108,10 @@ private:
     void RestoreState();
     void SetSlideWidth(int width);
     bool Zoom(const QWheelEvent& wheel);
-    int PlaceUnder(const QPoint& place) const;
+
+    // editorwindow_drags.cpp
+    void ConnectDrags();
+    void Receive(const QStringList& paths, int before);
 
     // editorwindow_menus.cpp
     QAction* AddAction(QMenu* menu, const QKeySequence& keys);
@@ -126,6 +130,7 @@ private:
     void ItemsChanged();
     void Added(const std::vector<FolderItem>& items, int beforeKey);
     void MoveSelected(int lines);
+    void SayHeld();
     void Say(const QString& notice);
     void OpenItem(int listIndex);
     bool ShowContextMenu(const QContextMenuEvent& event);
@@ -188,6 +193,7 @@ private:
     Show* show_;
     Navigator* navigator_;
     ShowKeeper* keeper_ = nullptr;
+    SlideDrags* drags_;
     ThumbnailProvider* provider_;
     StatusPanel* status_;
     Menus menus_{};

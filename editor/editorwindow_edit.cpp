@@ -96,10 +96,12 @@ void EditorWindow::Added(const std::vector<FolderItem>& items, int beforeKey) {
 void EditorWindow::MoveSelected(int places) {
     const QList<int> selected = sheet_->SelectedTableau();
     if (selected.empty()) return Say(tr("Aucune diapositive n'est sélectionnée"));
-    if (show_->order().Sorts())
-        return Say(
-            tr("Les diapositives sont triées par %1 : choisissez « Ordre manuel » pour les déplacer").arg(SortName()));
+    if (show_->order().Sorts()) return SayHeld();
     show_->moveSelected(places < 0 ? selected.front() + places : selected.back() + 1 + places);
+}
+
+void EditorWindow::SayHeld() {
+    Say(tr("Les diapositives sont triées par %1 : choisissez « Ordre manuel » pour les déplacer").arg(SortName()));
 }
 
 void EditorWindow::OpenItem(int listIndex) {

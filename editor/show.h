@@ -9,6 +9,7 @@
 #include "editor/gridsteps.h"
 #include "editor/preferences.h"
 
+#include <optional>
 #include <vector>
 
 #include <QObject>
@@ -60,6 +61,10 @@ public:
     void insert(const std::vector<FolderItem>& items, int before);
     // To in front of a list index. False when that changes nothing, or a sort forbids it.
     bool moveSelected(int before);
+    // Between these two the sheet moves the selected items itself, and the show is at work. beginMove gives whether it
+    // may; endMove is harmless without it.
+    bool beginMove();
+    void endMove();
     void sort(SortOrder order);
     void undo();
     void redo();
@@ -88,6 +93,7 @@ private:
     void Unselect();
     void Apply(const Change& change);
     void Push(Change change, const QString& name);
+    static bool IsMove(const Change& change);
     void Order(SortOrder order);
     void Restore(const std::vector<int>& keys, SortOrder order);
     std::vector<int> Keys() const;
@@ -98,6 +104,7 @@ private:
     SortOrder order_;
     int nextKey_ = 0;
     bool busy_ = false;
+    std::optional<std::vector<Placed>> moving_;  // what the sheet moves, as it was before
 };
 
 }  // namespace vorlane::editor

@@ -121,11 +121,30 @@ bool Show::moveSelected(int before) {
     const auto above = std::find_if(change.out.begin(), change.out.end(), staysBehind) - change.out.begin();
     int place = before - static_cast<int>(above);
     for (const Placed& placed : change.out) change.in.push_back({place++, placed.key, placed.text});
-    const auto sameIndex = [](const Placed& a, const Placed& b) { return a.index == b.index; };
-    if (std::equal(change.out.begin(), change.out.end(), change.in.begin(), sameIndex)) return false;
+    if (!IsMove(change)) return false;
     Apply(change);
     Push(std::move(change), tr("le déplacement"));
     return true;
+}
+
+bool Show::beginMove() {
+    if (busy_ || order_.Sorts()) return false;
+    busy_ = true;
+    moving_ = Selected();
+    return true;
+}
+
+void Show::endMove() {
+    if (!moving_) return;
+    Change change{*std::exchange(moving_, std::nullopt), Selected()};
+    if (IsMove(change)) Push(std::move(change), tr("le déplacement"));
+    busy_ = false;
+}
+
+// Whether it takes items to other places than they had.
+bool Show::IsMove(const Change& change) {
+    const auto sameIndex = [](const Placed& a, const Placed& b) { return a.index == b.index; };
+    return !std::equal(change.out.begin(), change.out.end(), change.in.begin(), change.in.end(), sameIndex);
 }
 
 void Show::sort(SortOrder order) {

@@ -283,21 +283,6 @@ TEST_F(EditingTest, OneLotIsAddedAfterTheOther) {
     EXPECT_EQ(Letters(), "yabxz");
 }
 
-TEST_F(EditingTest, DroppedFilesGoWhereTheyAreDropped) {
-    ASSERT_TRUE(ByHand("abc"));
-    const QPoint second = window_->sheet().DiapoRect(1).center().toPoint();
-    const int half = window_->sheet().DiapoWidth() / 4;
-    const auto drop = [&](const QString& name, QPoint place) {
-        Drop({QUrl::fromLocalFile(pictures_.WritePicture(name))}, window_->sheet().mapTo(window_.get(), place));
-        EXPECT_TRUE(accepted_);
-        EXPECT_TRUE(Settle());
-    };
-    drop("x.jpg", second - QPoint(half, 0));
-    EXPECT_EQ(Letters(), "axbc");
-    drop("y.jpg", second + QPoint(half, 0));
-    EXPECT_EQ(Letters(), "axybc");
-}
-
 TEST_F(EditingTest, FilesDroppedOnAnEmptyWindowBeginASheet) {
     Drop({QUrl::fromLocalFile(pictures_.WritePicture("b.jpg")), QUrl::fromLocalFile(pictures_.WritePicture("a.jpg"))});
     EXPECT_TRUE(accepted_);

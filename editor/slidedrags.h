@@ -1,0 +1,56 @@
+// SlideDrags: what the user drags within, onto and out of a show's sheet. Slides that are dragged within it move, in
+// manual order, with a way back; other programs get copies of their files. What comes from other programs is handed on
+// with its place.
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+class QDragEnterEvent;
+class QMimeData;
+
+namespace vorlane {
+class VorlaneWidget;
+}
+
+namespace vorlane::editor {
+
+class Show;
+
+class SlideDrags : public QObject {
+    Q_OBJECT
+
+public:
+    // sheet and show outlive this.
+    SlideDrags(VorlaneWidget& sheet, Show& show, QObject* parent = nullptr);
+
+    // The local files and folders that dragged data names.
+    static QStringList PathsOf(const QMimeData& data);
+    // Whether the sheet's own slides are being dragged.
+    bool areDragged() const { return dragged_; }
+
+Q_SIGNALS:
+    // In front of a list index, or behind all.
+    void dropped(const QStringList& paths, int before);
+    // Slides are dragged that a sort keeps in their places.
+    void held();
+    // Slides are dragged no more.
+    void ended();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool Refuses(QDragEnterEvent& event);
+    void AnswerDrop(bool* cancel);
+    QList<int> SelectedKeys() const;
+
+    VorlaneWidget& sheet_;
+    Show& show_;
+    bool dragged_ = false;
+    QList<int> keys_;    // of the dragged slides
+    QStringList paths_;  // that other programs drag over the sheet
+};
+
+}  // namespace vorlane::editor
