@@ -112,7 +112,7 @@ bool Vorlane::Lect(int32_t start, int16_t slot, int16_t count) {
         Fill fill{start, slot, count, pool, pass_.FirstSlot};
         const bool complete = RunFill(fill);
         if (number == pass_.Fills) pass_.Unfinished = !complete && pool != CountDiapo();
-        if (pass_.Unfinished && HasSlides()) TimerResize.SetEnabled(true);
+        if (pass_.Unfinished) TimerResize.SetEnabled(true);
         Events.DisplayEnd();
         return complete;
     };
@@ -203,9 +203,10 @@ void Vorlane::SweepByBand(eDiapoLight& slide) {
 
 // --- One slide ---
 
-// Whether slide 0 is free for an item.
+// Whether slide 0 is free for an item: it shows none, or has not been made to its end yet.
 bool Vorlane::Blank() const {
-    return Diapo.Count() == 1 && First().Value() == -1 && First().Picture().Handle() == 0;
+    const bool free = First().Value() == -1 || pass_.NoSlideYet;
+    return Diapo.Count() == 1 && free && First().Picture().Handle() == 0;
 }
 
 // Makes the next slide of the grid for a file; a blank sheet uses slide 0. Gives its index, also when a handler has
@@ -215,13 +216,14 @@ int16_t Vorlane::AddInterne(const std::string& imageName, int32_t listIndex, boo
     const auto add = [&]() -> int16_t {
         const bool blank = Blank();
         const int32_t loaded = Diapo.Count();
+        const int32_t fills = pass_.Fills;
         const auto full = [&] { return !blank && loaded >= CountDiapo(); };
         if (full()) {
             InitVScroll(false);
             return -1;
         }
         std::string name = imageName;
-        if (Refused(name) || Blank() != blank || Diapo.Count() != loaded || full()) return -1;
+        if (Refused(name) || pass_.Fills != fills || Diapo.Count() != loaded || full()) return -1;
         const NextCell cell = FindNextCell(blank);
         const StillSlide still(First());
         const int16_t index = LoadFor(listIndex, blank);
@@ -229,15 +231,27 @@ int16_t Vorlane::AddInterne(const std::string& imageName, int32_t listIndex, boo
         slide->SetCol(cell.X);
         slide->SetLig(cell.Y);
         slide->Move(cell.X, cell.Y, First().Width(), First().Height());
-        if (SetDiapoImage(index, name, listIndex) && !silent) {
+        const bool made = SetDiapoImage(index, name, listIndex);
+        pass_.NoSlideYet = false;
+        if (made && !silent) {
             slide->SetVisible(true);
             Events.Added(index, name);
         }
-        pass_.NoSlideYet = false;
         InitVScroll(false);
         return index;
     };
     return Guard(int16_t{-1}, add, "AddInterne", imageName, listIndex, silent);
+}
+
+// Makes a row of blank slides behind the last one, into which another can be pushed down. Gives false when they
+// were filled or laid out meanwhile.
+bool Vorlane::AddBlankRow() {
+    const Counted running(pass_.Running);
+    const auto undisturbed = [this, fills = pass_.Fills, token = pass_.LectToken] {
+        return pass_.Fills == fills && pass_.LectToken == token;
+    };
+    for (int16_t n = RowLength(); n > 0 && undisturbed(); --n) AddInterne("", -1, true);
+    return undisturbed();
 }
 
 // Whether the host refuses the file, whose name it may change.
@@ -297,6 +311,7 @@ bool Vorlane::SetDiapoImage(int16_t slot, const std::string& imageName, int32_t 
 
 bool Vorlane::SetDiapoPicture(int16_t slot, const std::string& imageName) {
     if (Diapo.Item(slot)->ImageFullPath() == eDiapoLight::KnownPath(imageName)) return true;
+    const Counted running(pass_.Running);  // a slide that waits for its picture is nothing to copy either
     const int32_t item = Diapo.Item(slot)->Value();
     const int32_t fills = pass_.Fills;
     vorlane::Picture picture;

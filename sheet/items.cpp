@@ -90,6 +90,8 @@ void Vorlane::Clear() {
         return;
     }
     pass_.StopLect = true;
+    ++pass_.Fills;  // what runs has nothing to say any more
+    pass_.Unfinished = false;
     ImgDrag.SetVisible(false);
     const int32_t last = Diapo.UpperBound();
     for (int32_t k = 0; k <= last; ++k) {

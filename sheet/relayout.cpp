@@ -36,15 +36,17 @@ float Vorlane::FreshToken() {
 }
 
 // A layout that was stopped starts again at the next tick. A tick inside a resize only stops what is running for
-// another grid. A sheet that has been cleared meanwhile has nothing to lay out.
+// another grid. A sheet without slides has nothing to lay out: either it has been cleared meanwhile, or its first fill
+// was stopped.
 void Vorlane::ResizeTick() {
     if (layout_.Resizing) {
         pass_.StopLect = ComputeCountX() != grid_.CountDiapoX || ComputeCountY() != grid_.CountDiapoY;
         return;
     }
-    const bool cleared = !HasSlides() && Ambient().UserMode;
+    const bool blank = !HasSlides() && Ambient().UserMode;
     const int16_t wanted = CountDiapo();
-    if (!cleared && !PlaceDiapos(wanted, FreshToken(), 0, 0)) return;
+    if (blank && pass_.Unfinished) FollowBar();
+    if (!blank && !PlaceDiapos(wanted, FreshToken(), 0, 0)) return;
     if (wanted != CountDiapo()) return;  // another resize, at the very end of the layout
     TimerResize.SetEnabled(false);
     TimerUnload.SetEnabled(true);

@@ -60,9 +60,9 @@ void Vorlane::Remove(int16_t index) {
         const int32_t item = Diapo.Item(index)->Value();
         if (!TakeOut(*list, Doomed::At(*list, item), index)) return;
         UnloadSurplus();  // the last slide has to be one of the grid
+        const bool closes = Diapo.Loaded(index) && Diapo.Item(index)->Value() == item;
         const int32_t next = Last()->Value() + 1;
         Renumber(item);
-        const bool closes = Diapo.Loaded(index) && Diapo.Item(index)->Value() == item;
         if (closes && pass_.Running == 0 && CloseUp(index)) {
             RefillEnd(next);
         } else if (First().Value() >= 0) {
@@ -145,11 +145,14 @@ void Vorlane::RemoveAllSelected() {
         const View before{First().Value(), slot, Diapo.Item(slot)->Value()};
         std::vector<int32_t> items;
         if (!list->SelItems(items)) items.clear();
+        const int32_t fills = pass_.Fills;
+        const int64_t left = int64_t{list->ListCount()} - static_cast<int64_t>(items.size());
         const bool complete = TakeOutAll(*list, items);
         if (internalDrag_) return;
         InitVScroll(false);
         const bool cleared = before.Top >= 0 && First().Value() < 0;
-        if (!cleared) ShowRest(before, items, complete && before.Top == First().Value());
+        const bool undisturbed = complete && fills == pass_.Fills && ListCount() == left;
+        if (!cleared) ShowRest(before, items, undisturbed);
         Events.TLRefresh();
     };
     GuardVoid(remove, "RemoveAllSelected");

@@ -78,9 +78,12 @@ void Vorlane::MoveCurrentSlot(int64_t distance) {
     selection_.CurrentSlot = stays ? ToInt16(slot) : int16_t{-1};
 }
 
-// Whether copied looks come to stand on the right slides: the slides stand where the bar stood, and move by one row.
+// Whether copied looks come to stand on the right slides: the slides stand where the bar stood, and move by one row. On
+// the way forward none is missing either, as it is while a larger pool waits for its layout.
 bool Vorlane::IsWholeRow(int64_t distance) const {
-    return std::abs(distance) == RowLength() && First().Value() == bar_.ScrollValue;
+    const int32_t next = Last()->Value() + 1;
+    const bool whole = next > 0 && (Diapo.UpperBound() + 1 >= CountDiapo() || next == ListCount());
+    return std::abs(distance) == RowLength() && First().Value() == bar_.ScrollValue && (distance < 0 || whole);
 }
 
 // Shows what the bar stands for, where a layout has left the slides behind it.
@@ -131,9 +134,9 @@ bool Vorlane::ScrollBack() {
     const auto start = ToInt32(Max(First().Value() - row, 0));
     if (RowCount() >= 2) {
         const Hourglass hourglass(Desktop().screen);
-        if (Diapo.Count() < row * RowCount()) {
-            for (int16_t n = 0; n < row; ++n) AddInterne("", -1, true);
-        }
+        const int32_t fills = pass_.Fills;
+        const bool stands = Diapo.Count() >= row * RowCount() || AddBlankRow();
+        if (!stands) return fills == pass_.Fills && StartLect(start, -1, -1);
         for (auto k = ToInt16(Diapo.Count() - 1 - row); k >= 0; --k) {
             CopyDiapo(k, ToInt16(k + row));
             Diapo.Item(k + row)->SetVisible(true);

@@ -45,8 +45,8 @@ struct Pass {
     int16_t FirstSlot = 0;       // and the slide that it begins at
     float LectToken = 0;         // mark of the last started fill or layout
     bool StopLect = false;       // a running fill or layout has to stop
-    int32_t Fills = 0;           // counts the fills that were started
-    int32_t Running = 0;         // fills under way, one inside another
+    int32_t Fills = 0;           // counts the fills that were started and the times that the sheet was cleared
+    int32_t Running = 0;         // fills under way, one inside another, and slides that are being made or pictured
     bool Unfinished = false;     // the newest fill was stopped by another grid: slides may show what stood before
 };
 

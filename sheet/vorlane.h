@@ -462,6 +462,7 @@ private:
     void SweepByBand(eDiapoLight& slide);
     bool Blank() const;
     int16_t AddInterne(const std::string& imageName, int32_t listIndex, bool silent);
+    bool AddBlankRow();
     bool Refused(std::string& imageName);
     NextCell FindNextCell(bool blank);
     int16_t LoadFor(int32_t listIndex, bool blank);

@@ -1,5 +1,7 @@
 #include "platform/headless/fakeforms.h"
 
+#include "platform/failure.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -79,7 +81,9 @@ void FakeForms::Move(Hwnd form, const WinRect& place) {
 }
 
 void FakeForms::Show(Hwnd form) {
-    if (State* state = Told(form, "show")) state->Visible = true;
+    State* state = Told(form, "show");
+    if (failShowing_) throw failures::InvalidCall();
+    if (state != nullptr) state->Visible = true;
 }
 
 void FakeForms::Hide(Hwnd form) {

@@ -30,6 +30,8 @@ public:
     const State* Find(Hwnd form) const;
     int32_t OpenForms() const { return static_cast<int32_t>(forms_.size()); }
     int32_t ShownForms() const;
+    // From now on a form that is to be shown fails.
+    void FailShowing(bool fail) { failShowing_ = fail; }
 
     Ambient OpenForm() override;
     void SetContent(Hwnd form, UserControl& content) override;
@@ -51,6 +53,7 @@ private:
     Trace& trace_;
     FakeWindows& windows_;
     std::map<Hwnd, State> forms_;
+    bool failShowing_ = false;
 };
 
 // Films by path, as a test declares them; nothing else can be opened.

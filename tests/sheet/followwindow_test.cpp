@@ -178,6 +178,35 @@ TEST_F(ThumbTest, AListThatIsClearedDuringADragIsReportedOnceAndTheWindowStillCl
     EXPECT_FALSE(Form().Loaded());
 }
 
+TEST_F(ThumbTest, AWindowThatCannotBeShownStopsNothing) {
+    Show(40);
+    desktop.forms.FailShowing(true);
+    window.HoldThumb(sheet->VScroll);
+    window.DragThumb(sheet->VScroll, 9);
+    EXPECT_FALSE(Form().Visible());
+    EXPECT_EQ(Followed(), File(9)) << "it has its picture all the same";
+    EXPECT_EQ(Heard(),
+              "host ScrollMouseDown 1 0 8,0 at 0\n"
+              "host GetThumbPath 009.jpg\nhost Scroll 9 from 0\n");
+    desktop.forms.FailShowing(false);
+    window.DragThumb(sheet->VScroll, 30);
+    EXPECT_TRUE(Form().Visible()) << "each move of the thumb tries anew";
+    window.ReleaseThumb(sheet->VScroll, 30);
+    EXPECT_FALSE(Form().Loaded());
+    EXPECT_EQ(Slides(), "30 31 32 33 34 35 36 37 38");
+}
+
+TEST_F(ThumbTest, AWindowThatWasNeverShownIsUnloadedAtTheReleaseToo) {
+    Show(40);
+    desktop.forms.FailShowing(true);
+    window.HoldThumb(sheet->VScroll);
+    window.DragThumb(sheet->VScroll, 9);
+    ASSERT_TRUE(Form().Loaded());
+    window.ReleaseThumb(sheet->VScroll, 9);
+    EXPECT_FALSE(Form().Loaded());
+    EXPECT_THAT(Heard(), testing::Not(testing::HasSubstr("Error")));
+}
+
 TEST_F(ThumbTest, ASheetThatEndsDuringADragClosesItsWindow) {
     Show(40);
     window.HoldThumb(sheet->VScroll);

@@ -92,6 +92,18 @@ TEST_F(GaugeTest, SlidesInStepByStep) {
     sheet->StartLecture();
 }
 
+TEST_F(GaugeTest, ThatSlidesInStartsAtZeroWhateverTheLastFillHasLeft) {
+    Show(40);
+    sheet->VScroll.SetValue(20);
+    sheet->SetJaugeAnimation(true);
+    ASSERT_EQ(Gauge(), "20 to 28, 28");
+    std::string heard;
+    onDisplayStart = [&] { heard += Gauge() + "; "; };
+    window.Resize(450, kHeight);
+    desktop.clock.Advance(300);
+    EXPECT_EQ(heard, "0 to 13, 0; ");
+}
+
 TEST_F(GaugeTest, SlidesOutStepByStepAndIsHidden) {
     Show(3);
     sheet->SetJaugeAnimation(true);

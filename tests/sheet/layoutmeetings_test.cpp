@@ -96,7 +96,78 @@ TEST_F(LayoutMeetings, TheUnloadingWaitsWhileALayoutIsUnderWay) {
     EXPECT_FALSE(sheet->TimerUnload.Enabled());
 }
 
+TEST_F(LayoutMeetings, AStepThatComesBeforeALargerGridIsLaidOutLeavesNoSlideBlank) {
+    Show(40);
+    window.Resize(450, kHeight);
+    sheet->VScroll.SetValue(4);
+    EXPECT_EQ(Slides(), "4 5 6 7 8 9 10 11 12 13 14 15");
+    desktop.clock.Advance(300);
+    EXPECT_EQ(Slides(), "4 5 6 7 8 9 10 11 12 13 14 15");
+    EXPECT_EQ(Place(11), "323,167");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(LayoutMeetings, RowsThatAreMadeAfterAChangeOfTheSlidesSizeMayHaveOtherGapsUntilTheNextLayout) {
+    Show(40);
+    sheet->SetDiapoWidth(60);
+    desktop.clock.Advance(300);
+    ASSERT_EQ(sheet->CountDiapoX(), 4);
+    const std::string laidOut = Place(4);
+    sheet->StartLecture();  // measures the sheet with a row of the new height
+    EXPECT_EQ(Place(4), laidOut) << "what stands stays";
+    sheet->VScroll.SetValue(sheet->VScroll.Max());
+    sheet->VScroll.SetValue(0);
+    const auto step = [this](int32_t row) {
+        const int32_t columns = sheet->CountDiapoX();
+        return sheet->Diapo.Item(columns * row)->Top() - sheet->Diapo.Item(columns * (row - 1))->Top();
+    };
+    EXPECT_NE(step(1), step(3));
+    window.Resize(kWidth + 1, kHeight);
+    desktop.clock.Advance(300);
+    EXPECT_EQ(step(1), step(2));
+}
+
 // --- Fills ---
+
+TEST_F(LayoutMeetings, AFirstFillThatAResizeStopsIsMadeGood) {
+    Start();
+    AddItems(0, 39);
+    onDisplayStart = [this, done = false]() mutable {
+        if (!std::exchange(done, true)) window.Resize(450, kHeight);
+    };
+    sheet->StartLecture("", 1020);
+    EXPECT_EQ(Slides(), "(.)");
+    desktop.clock.Advance(300);
+    EXPECT_EQ(Slides(), "20 21 22 23 24 25 26 27 28 29 30 31");
+    EXPECT_EQ(sheet->VScroll.Value(), 20);
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+}
+
+TEST_F(LayoutMeetings, AFirstFillThatWasStoppedIsForgottenByAClear) {
+    Start();
+    AddItems(0, 39);
+    onDisplayStart = [this] {
+        window.Resize(450, kHeight);
+        sheet->Clear();
+        AddItems(0, 9);
+    };
+    sheet->StartLecture();
+    desktop.clock.Advance(300);
+    EXPECT_EQ(Slides(), "(.)");
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+}
+
+TEST_F(LayoutMeetings, SlideZeroThatFailedToBeMadeIsMadeByTheNextFill) {
+    Start();
+    AddItems(0, 39);
+    onBeforeSetPicture = [](int16_t, Picture&) { throw failures::TypeMismatch(); };
+    sheet->StartLecture();
+    onBeforeSetPicture = {};
+    sheet->StartLecture();
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+    EXPECT_EQ(Place(8), "217,167");
+    ExpectSlidesAgreeWithList();
+}
 
 TEST_F(LayoutMeetings, AFillFromTheSameItemOnAnotherSlideStopsTheOlderOne) {
     Show(40);

@@ -105,6 +105,46 @@ TEST_F(RemovalTest, TheLastSlideOfAFullPoolTakesTheItemBehindTheNextOne) {
     ExpectSlidesAgreeWithList();
 }
 
+TEST_F(RemovalTest, AnItemThatWasPassedOverStaysOutWhileTheSlidesMoveByRows) {
+    Show(40);
+    sheet->Remove(2);
+    ASSERT_EQ(Slides(), "0 1 2 3 4 5 6 7 9");
+    sheet->VScroll.SetValue(3);
+    EXPECT_EQ(Slides(), "3 4 5 6 7 9 10 11 12");
+    sheet->VScroll.SetValue(6);
+    EXPECT_EQ(Slides(), "6 7 9 10 11 12 13 14 15");
+    ExpectSlidesAgreeWithList();
+    sheet->StartLecture("", sheet->Key(6));
+    EXPECT_EQ(Slides(), "6 7 8 9 10 11 12 13 14");
+}
+
+TEST_F(RemovalTest, AnItemThatWasPassedOverComesBackWhereItStoodAtTheTop) {
+    Show(40);
+    sheet->Remove(2);
+    for (const int32_t value : {3, 6, 9}) sheet->VScroll.SetValue(value);
+    EXPECT_EQ(Slides(), "10 11 12 13 14 15 16 17 18");
+    sheet->VScroll.SetValue(6);
+    EXPECT_EQ(Slides(), "6 7 8 9 10 11 12 13 14");
+}
+
+TEST_F(RemovalTest, ALayoutMakesItsSlidesBehindAnItemThatWasPassedOver) {
+    Show(40);
+    sheet->Remove(2);
+    window.Resize(450, kHeight);
+    desktop.clock.Advance(300);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 9 10 11 12");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(RemovalTest, EachRemovalPassesAnItemOfItsOwnOver) {
+    Show(40);
+    sheet->Remove(2);
+    sheet->Remove(2);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 8 10");
+    EXPECT_EQ(Shown(), "0 1 4 5 6 7 8 10 12");
+    ExpectSlidesAgreeWithList();
+}
+
 TEST_F(RemovalTest, TheLastSlideItselfIsFilledAnew) {
     Show(40);
     sheet->Remove(8);
