@@ -1,5 +1,6 @@
 # What "cmake --install" lays down: headers, libraries, the CMake package Vorlane, pkg-config files, the editor. All of
-# it finds its parts by its own place, so the tree may be moved. Components: runtime (shared libraries), devel, editor.
+# it finds its parts by its own place, so the tree may be moved. Components: runtime (shared libraries), devel, designer,
+# editor.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/Vorlane)
@@ -49,11 +50,14 @@ if(TARGET vorlane_widgets)
   list(TRANSFORM qt_hidden PREPEND Qt6 OUTPUT_VARIABLE hidden)
   vorlane_install(widgets "The controls of Vorlane as Qt widgets"
     REQUIRES vorlane-core ${shown} REQUIRES_PRIVATE ${hidden})
+  set(VORLANE_QT_PLUGINS ${CMAKE_INSTALL_LIBDIR}/qt6/plugins CACHE PATH "Where the plug-ins of Qt are installed")
   list(GET VORLANE_LIBRARIES 0 kind)
   if(kind STREQUAL shared)
     set_target_properties(vorlane-editor PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   endif()
   install(TARGETS vorlane-editor RUNTIME COMPONENT editor)
+  set_target_properties(vorlane_designer PROPERTIES INSTALL_RPATH "$ORIGIN/../../..")
+  install(TARGETS vorlane_designer LIBRARY DESTINATION ${VORLANE_QT_PLUGINS}/designer COMPONENT designer)
 endif()
 
 configure_package_config_file(cmake/VorlaneConfig.cmake.in ${PROJECT_BINARY_DIR}/VorlaneConfig.cmake

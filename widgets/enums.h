@@ -1,4 +1,5 @@
-// The enumerations of the widgets' properties, with the core's numbers.
+// The enumerations of the widgets, with the core's numbers. Those of properties are plain ones since form designers
+// write their values without the name of the enumeration.
 #pragma once
 
 #include <QObject>
@@ -7,7 +8,7 @@ namespace vorlane::ui {
 
 Q_NAMESPACE
 
-enum class BorderStyle {
+enum BorderStyle : int {
     BorderNone = 0,
     BorderSunken = 1,
     BorderRaised = 2,
@@ -17,7 +18,7 @@ enum class BorderStyle {
 };
 Q_ENUM_NS(BorderStyle)
 
-enum class ThumbResolution { ThumbResolutionNormal = 0, ThumbResolutionHigh = 1 };
+enum ThumbResolution : int { ThumbResolutionNormal = 0, ThumbResolutionHigh = 1 };
 Q_ENUM_NS(ThumbResolution)
 
 // The picture that a slide asks for.
@@ -34,13 +35,13 @@ enum class PictureIndex {
 };
 Q_ENUM_NS(PictureIndex)
 
-enum class ScrollDirection { sdHorizontal = 1, sdVertical = 2 };
+enum ScrollDirection : int { sdHorizontal = 1, sdVertical = 2 };
 Q_ENUM_NS(ScrollDirection)
 
-enum class SortSens { ssNone = 0, ssAscending = 1, ssDescending = 2 };
+enum SortSens : int { ssNone = 0, ssAscending = 1, ssDescending = 2 };
 Q_ENUM_NS(SortSens)
 
-enum class ScrollWindowPos { swpOutside = 0, swpInside = 1 };
+enum ScrollWindowPos : int { swpOutside = 0, swpInside = 1 };
 Q_ENUM_NS(ScrollWindowPos)
 
 enum class ListeMode { lmFileList = 0, lmList = 1 };

@@ -71,6 +71,7 @@ ControlHost::~ControlHost() {
 
 vorlane::Ambient ControlHost::AmbientOfHost() {
     vorlane::Ambient ambient;
+    ambient.UserMode = desktop_.UserMode;
     ambient.Font = FromQFont(font());
     ambient.Window = desktop_.windows.HandleOf(this);
     return ambient;

@@ -41,6 +41,9 @@ public:
         return {clock,  screen, keyboard, metrics, windows,  drags, dialogs, pictures,
                 sounds, texts,  forms,    films,   tooltips, menus, shared};
     }
+    // Whether the controls that are made run; false in a form designer.
+    bool UserMode = true;
+
     PaintTools Tools() { return {screen, metrics, scaled, looks, replays}; }
 
     QtClock clock;
