@@ -49,7 +49,7 @@ if(TARGET vorlane_widgets)
   list(TRANSFORM qt_shown PREPEND Qt6 OUTPUT_VARIABLE shown)
   list(TRANSFORM qt_hidden PREPEND Qt6 OUTPUT_VARIABLE hidden)
   vorlane_install(widgets "The controls of Vorlane as Qt widgets"
-    REQUIRES vorlane-core ${shown} REQUIRES_PRIVATE ${hidden})
+    REQUIRES vorlane-core ${shown} REQUIRES_PRIVATE ${hidden} taglib)
   set(VORLANE_QT_PLUGINS ${CMAKE_INSTALL_LIBDIR}/qt6/plugins CACHE PATH "Where the plug-ins of Qt are installed")
   list(GET VORLANE_LIBRARIES 0 kind)
   if(kind STREQUAL shared)

@@ -1,61 +1,57 @@
 #include "platform/qt/qtsounds.h"
 
+#include "platform/qt/playingsound.h"
+#include "platform/qt/soundlength.h"
+
 #include <algorithm>
 
-#include <QFile>
-#include <QFileInfo>
-#include <QtEndian>
+#include <QFileSystemWatcher>
+#include <QMediaDevices>
 
 namespace vorlane {
 
-namespace {
-
-struct Chunk {
-    QByteArray name;
-    qint64 size;  // bytes of content, as declared
-    qint64 next;  // where the next chunk begins: content has an even length
-};
-
-// The chunk at the file's place, which moves to its content; an empty name at the end.
-Chunk ReadChunk(QFile& file) {
-    const QByteArray head = file.read(8);
-    if (head.size() < 8) return {{}, 0, 0};
-    const qint64 size = qFromLittleEndian<quint32>(head.constData() + 4);
-    return {head.left(4), size, file.pos() + size + (size & 1)};
-}
-
-double WaveSeconds(QFile& file) {
-    const QByteArray head = file.read(12);
-    if (!head.startsWith("RIFF") || !head.endsWith("WAVE")) return 0;
-    quint32 bytesPerSecond = 0;
-    for (Chunk chunk = ReadChunk(file); !chunk.name.isEmpty(); chunk = ReadChunk(file)) {
-        if (chunk.name == "fmt ") {
-            const QByteArray format = file.read(16);
-            if (format.size() < 16) return 0;
-            bytesPerSecond = qFromLittleEndian<quint32>(format.constData() + 8);
-        }
-        if (chunk.name == "data") {
-            const qint64 there = std::min(chunk.size, file.size() - file.pos());
-            return bytesPerSecond == 0 ? 0 : static_cast<double>(there) / bytesPerSecond;
-        }
-        if (!file.seek(chunk.next)) return 0;
-    }
-    return 0;
-}
-
-}  // namespace
+QtSounds::~QtSounds() = default;
 
 double QtSounds::SoundSeconds(const std::string& path) {
-    const QString name = QString::fromStdString(path);
-    QFile file(name);
-    if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) return 0;
-    return WaveSeconds(file);
+    return SoundLength(QString::fromStdString(path));
 }
 
-std::string QtSounds::Play(const std::string& path, int32_t, int32_t) {
+// --- Playing ---
+
+std::string QtSounds::Play(const std::string& path, int32_t, int32_t volume) {
+    if (files_ == nullptr) Watch();
     std::string alias = "son" + std::to_string(++played_);
-    open_[alias] = {played_, path};
+    auto* playing = new PlayingSound(QString::fromStdString(path), volume, this);
+    open_[alias] = {played_, path, playing};
+    connect(playing, &PlayingSound::Troubled, this, [this, alias](SoundTrouble trouble) {
+        const auto found = open_.find(alias);
+        if (found == open_.end()) return;
+        Q_EMIT Troubled(QString::fromStdString(alias), QString::fromStdString(found->second.file), trouble);
+    });
+    if (playing->IsPlaying()) files_->addPath(playing->Path());
     return alias;
+}
+
+// A player may be stopped by what it tells, so it goes later.
+void QtSounds::Stop(const std::string& alias) {
+    const auto found = open_.find(alias);
+    if (found == open_.end()) return;
+    PlayingSound* playing = found->second.playing;
+    open_.erase(found);
+    const auto samePath = [&](const auto& entry) { return entry.second.playing->Path() == playing->Path(); };
+    if (std::none_of(open_.begin(), open_.end(), samePath)) files_->removePath(playing->Path());
+    playing->Stop();
+    playing->deleteLater();
+}
+
+bool QtSounds::IsPlaying(const SoundName& sound) const {
+    return std::any_of(open_.begin(), open_.end(), [&](const auto& entry) {
+        const auto& [alias, open] = entry;
+        const bool named = (!sound.Alias.empty() && alias == sound.Alias) ||
+                           (sound.Handle != -1 && open.handle == sound.Handle) ||
+                           (!sound.File.empty() && open.file == sound.File);
+        return named && open.playing->IsPlaying();
+    });
 }
 
 SoundName QtSounds::Current() const {
@@ -63,6 +59,25 @@ SoundName QtSounds::Current() const {
         open_.begin(), open_.end(), [](const auto& a, const auto& b) { return a.second.handle < b.second.handle; });
     if (youngest == open_.end()) return {};
     return {youngest->first, youngest->second.handle, youngest->second.file};
+}
+
+// --- What happens around ---
+
+void QtSounds::Watch() {
+    files_ = new QFileSystemWatcher(this);
+    connect(files_, &QFileSystemWatcher::fileChanged, this, &QtSounds::FileChanged);
+    connect(new QMediaDevices(this), &QMediaDevices::audioOutputsChanged, this, [this] {
+        for (const auto& [alias, sound] : open_) sound.playing->FollowDevice();
+    });
+}
+
+// A file that was replaced is another one, to be watched anew.
+void QtSounds::FileChanged(const QString& path) {
+    for (const auto& [alias, sound] : open_) {
+        if (sound.playing->Path() == path) sound.playing->CheckFile();
+    }
+    files_->removePath(path);
+    files_->addPath(path);
 }
 
 }  // namespace vorlane

@@ -295,39 +295,6 @@ TEST(QtDialogs, AMessageWaitsForItsAnswer) {
     EXPECT_EQ(icon, QMessageBox::Warning);
 }
 
-// --- Sounds ---
-
-QByteArray Wave(uint32_t bytesPerSecond, uint32_t bytes) {
-    QByteArray wave("RIFF\0\0\0\0WAVEJUNK\3\0\0\0abc\0fmt \x10\0\0\0\1\0\1\0", 36);
-    const auto number = [&](uint32_t value) {
-        char raw[4];
-        qToLittleEndian(value, raw);
-        wave.append(raw, 4);
-    };
-    number(8000);
-    number(bytesPerSecond);
-    wave.append("\1\0\x08\0data", 8);
-    number(bytes);
-    return wave + QByteArray(static_cast<qsizetype>(bytes), '\0');
-}
-
-TEST(QtSounds, ReadsTheLengthOfAWaveFile) {
-    QTemporaryDir folder;
-    const auto write = [&](const char* name, const QByteArray& bytes) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName().toStdString();
-    };
-    QtSounds sounds;
-    EXPECT_DOUBLE_EQ(sounds.SoundSeconds(write("a.wav", Wave(8000, 12000))), 1.5);
-    EXPECT_DOUBLE_EQ(sounds.SoundSeconds(write("cut.wav", Wave(8000, 12000).chopped(4000))), 1);
-    EXPECT_EQ(sounds.SoundSeconds(write("silent.wav", Wave(0, 12000))), 0);
-    EXPECT_EQ(sounds.SoundSeconds(write("text.wav", "no sound")), 0);
-    EXPECT_EQ(sounds.SoundSeconds(write("empty.wav", {})), 0);
-    EXPECT_EQ(sounds.SoundSeconds(folder.filePath("missing.wav").toStdString()), 0);
-}
-
 // --- The desktop ---
 
 TEST(QtDesktop, AProgramHasOne) {
