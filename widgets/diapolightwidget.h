@@ -217,6 +217,8 @@ public Q_SLOTS:
     void PictureByString(const QString& path, const QImage& thumb = {});
     void Refresh();
     void PlaceButtons();
+    // Lets the user drag the picture: OnOLEStartDrag gives the data. Returns when that has ended.
+    void OLEDrag();
 
 Q_SIGNALS:
     void PropertyChanged(const QString& key);

@@ -73,6 +73,10 @@ void DiapoLightWidget::PlaceButtons() {
     Do("PlaceButtons", [&] { slide_.PlaceButtons(); });
 }
 
+void DiapoLightWidget::OLEDrag() {
+    Do("OLEDrag", [&] { slide_.OLEDrag(); });
+}
+
 // --- Key and selection ---
 
 int DiapoLightWidget::Key() const {

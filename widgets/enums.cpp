@@ -1,8 +1,10 @@
 #include "widgets/enums.h"
 
+#include "platform/qt/soundtrouble.h"
 #include "sheet/types.h"
 #include "slide/diapotypes.h"
 #include "timeline/etimeline.h"
+#include "windows/waitplace.h"
 
 namespace vorlane::ui {
 
@@ -25,6 +27,13 @@ static_assert(Same(SortSens::ssDescending, SortSensType::ssDescending));
 static_assert(Same(ScrollWindowPos::swpInside, ScrollWindowPosType::swpInside));
 static_assert(Same(ListeMode::lmList, ListeModeType::lmList));
 static_assert(Same(TimeMarks::etltFollowDiapo, etlType::etltFollowDiapo));
+
+static_assert(Same(WaitPlace::None, vorlane::WaitPlace::None));
+static_assert(Same(WaitPlace::Middle, vorlane::WaitPlace::Middle));
+static_assert(Same(WaitPlace::BottomRight, vorlane::WaitPlace::BottomRight));
+static_assert(Same(SoundTrouble::Missing, vorlane::SoundTrouble::Missing));
+static_assert(Same(SoundTrouble::Gone, vorlane::SoundTrouble::Gone));
+static_assert(Same(SoundTrouble::NoDevice, vorlane::SoundTrouble::NoDevice));
 
 }  // namespace
 

@@ -51,4 +51,28 @@ Q_ENUM_NS(ListeMode)
 enum class TimeMarks { etltFree = 0, etltFollowDiapo = 1 };
 Q_ENUM_NS(TimeMarks)
 
+// Where the wait window stands over the sheet, and slides in from.
+enum class WaitPlace {
+    None = 0,
+    TopLeft = 1,
+    Top = 2,
+    TopRight = 3,
+    Left = 4,
+    Middle = 5,
+    Right = 6,
+    BottomLeft = 7,
+    Bottom = 8,
+    BottomRight = 9,
+};
+Q_ENUM_NS(WaitPlace)
+
+// What can be wrong with a sound.
+enum class SoundTrouble {
+    Missing = 0,     // the file is not there
+    Unplayable = 1,  // it is damaged, or no sound
+    Gone = 2,        // the file has gone while it plays; it is heard as far as the system still gives it
+    NoDevice = 3,    // there is nothing to hear it on: it plays silently
+};
+Q_ENUM_NS(SoundTrouble)
+
 }  // namespace vorlane::ui

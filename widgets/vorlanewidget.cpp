@@ -25,6 +25,9 @@ VorlaneWidget::VorlaneWidget(QtDesktop& desktop, QWidget* parent)
     ConnectPictures();
     ConnectHand();
     ConnectDrags();
+    ConnectSounds();
+    ConnectEdit();
+    ConnectZoom();
     AccessibleSheet::Attach(*this);
 }
 

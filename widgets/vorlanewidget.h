@@ -26,7 +26,9 @@
 namespace vorlane {
 
 class ListControl;
+class MsgBoxObject;
 class Vorlane;
+enum class SoundTrouble;
 
 // What a host hands a slide that is about to take a file.
 struct SlideContent {
@@ -252,9 +254,13 @@ public:
     void SetCaptionBottom(int index, const QString& text);
     int Key(int listIndex) const;
     QString ImageFullPath(int listIndex) const;
+    int Hwnd() const;
+    int hDC() const;
     // The list index that a slide shows, -1 for none; and where it lies, empty for a slide that isn't shown.
     int Value(int index) const;
     QRectF DiapoRect(int index) const;
+    // Where its name stands; empty for a slide that isn't shown or shows no name.
+    QRectF NameRect(int index) const;
 
     // --- Items ---
     int Add(const QString& imageName, const QString& multipleDataSort = {}, int key = -1, int insertBefore = -1);
@@ -285,6 +291,17 @@ public:
     // the number of items for the end. A sort puts them where they belong.
     int DropPlace() const;
 
+    // --- Rename in place ---
+    // Closes the box over a name: renames the file, its item and its slide, or with cancel leaves all as it was. A name
+    // that is refused is told, by msgBox if one is given, and the box stays. Gives cancel as the receivers of
+    // OnRenameError have left it.
+    bool EndEdit(bool cancel = false, MsgBoxObject* msgBox = nullptr);
+    // Gives an item and its slide (-1: the one that shows it) another file. Touches no file.
+    void RenameDiapo(int listIndex, const QString& oldName, const QString& newName, int diapoIndex = -1);
+
+    // --- Wait window ---
+    bool IsWaitOpen() const;
+
 public Q_SLOTS:
     void SelectAll();
     void SelectInvert();
@@ -300,6 +317,16 @@ public Q_SLOTS:
     // Starts the sheet with its present properties, as a saved one starts: what it takes over once at its start, as the
     // ground of selected slides, it takes over as it is now. Its slides want filling then.
     void StartAgain();
+    // Shows the sound button of a slide, 0 music or 1 comment, as playing or stopped.
+    void BtState(int index, int typeBt, bool modePlayed);
+    // Stops the music (0), the comment (1) or both (-1) and restores their buttons.
+    void StopSound(int only = -1);
+    // Opens a box over the slide's name.
+    void StartEdit(int index);
+    // Over the sheet without its bar; what it says is set at once.
+    void WaitShow(const QString& newCaption, vorlane::ui::WaitPlace fromWhere, bool withoutEffect = false);
+    void SetWaitCaption(const QString& caption);
+    void WaitClose(bool withoutEffect = false);
 
 Q_SIGNALS:
     void PropertyChanged(const QString& key);
@@ -344,6 +371,25 @@ Q_SIGNALS:
     void OnKeyDown(int* keyCode, int shift);
     void OnKeyPress(int* keyAscii);
     void OnKeyUp(int* keyCode, int shift);
+    // A sound button, 0 music or 1 comment, was clicked: what is to be heard? Without play the host plays for itself.
+    void OnClickPlay(int index, QString* soundFileNameToPlay, int* button, int canal, bool* play, QString* alias);
+    void OnClickPlayChangeDiapo(int index, int button);
+    void OnClickStop(int index, int button, int canal);
+    void OnClickText(int index);
+    void OnSoundEnded(int canal);
+    // Something is wrong with a sound that the sheet plays; text tells the user. OnSoundEnded follows unless the sound
+    // plays on.
+    void OnSoundTrouble(int canal, const QString& fileName, vorlane::ui::SoundTrouble trouble, const QString& text);
+    void OnBeforeEdit(bool* cancel, const QString& oldFileNamme);
+    void OnAfterEdit(const QString& newFileName, const QString& oldFileName, bool canceled);
+    void OnRenameError(int errorType, const QString& newFileName, const QString& oldFileName, QString* errorMessage,
+                       bool* cancelMessage);
+    // The info button is pressed: what does the balloon show? Without titre and texte there is none.
+    void OnToolTipInfos(int index, const QString& fileName, QString* titre, QString* texte, int* icone);
+    // Kept for hosts; nothing raises them.
+    void OnBeforeZoom(int index, QImage* picture);
+    void OnBeforeZoomEndLoad();
+    void OnAfterZoom();
     void OnError(int number, const QString& description, const QString& source, int lastDllError,
                  const QString& valeur) const;
 
@@ -368,6 +414,10 @@ private:
     void ConnectPictures();
     void ConnectHand();
     void ConnectDrags();
+    void ConnectSounds();
+    void TellTrouble(const QString& alias, const QString& path, vorlane::SoundTrouble trouble);
+    void ConnectEdit();
+    void ConnectZoom();
 
     Vorlane& sheet_;
     mutable PendingError pending_;

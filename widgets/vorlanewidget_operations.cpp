@@ -131,6 +131,14 @@ QString VorlaneWidget::ImageFullPath(int listIndex) const {
     return Ask("ImageFullPath", QString(), [&] { return FromText(sheet_.ImageFullPath(listIndex)); });
 }
 
+int VorlaneWidget::Hwnd() const {
+    return sheet_.Hwnd();
+}
+
+int VorlaneWidget::hDC() const {
+    return sheet_.hDC();
+}
+
 int VorlaneWidget::Value(int index) const {
     return Ask("Value", -1, [&] { return sheet_.Diapo.Item(index)->Value(); });
 }
@@ -139,6 +147,15 @@ QRectF VorlaneWidget::DiapoRect(int index) const {
     return Ask("DiapoRect", QRectF(), [&] {
         const auto slide = sheet_.Diapo.Item(index);
         return slide->Visible() ? QRectF(slide->Left(), slide->Top(), slide->Width(), slide->Height()) : QRectF();
+    });
+}
+
+QRectF VorlaneWidget::NameRect(int index) const {
+    return Ask("NameRect", QRectF(), [&] {
+        const auto slide = sheet_.Diapo.Item(index);
+        if (!slide->Visible() || !slide->LblTop.Visible()) return QRectF();
+        const Box box = slide->LblTop.BoundsInRoot();
+        return QRectF(box.Left, box.Top, box.Width, box.Height);
     });
 }
 
