@@ -10,6 +10,9 @@
 #include "editor/slidedrags.h"
 #include "editor/slidesize.h"
 #include "editor/statuspanel.h"
+#include "editor/strip.h"
+#include "editor/stripmenu.h"
+#include "editor/stripsounds.h"
 #include "widgets/vorlanewidget.h"
 
 #include <utility>
@@ -47,6 +50,9 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
       navigator_(new Navigator(*sheet_, *show_, this)),
       drags_(new SlideDrags(*sheet_, *show_, this)),
       provider_(new ThumbnailProvider(*sheet_, thumbnails_)),
+      strip_(new Strip(*sheet_, this)),
+      sounds_(new StripSounds(*strip_, *sheet_, *show_, this)),
+      soundMenu_(nullptr),
       status_(new StatusPanel(this)),
       opener_([](const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }) {
     setWindowTitle(QStringLiteral("Vorlane[*]"));
@@ -55,8 +61,10 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
     pages_->addWidget(sheetPage_);
     auto* column = new QVBoxLayout(sheetPage_);
     column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
     column->addStretch();  // take what the sheet can't
     column->addWidget(sheet_, 1);
+    column->addWidget(strip_);
     column->addStretch();
     setCentralWidget(pages_);
     statusBar()->addWidget(status_, 1);
@@ -71,7 +79,9 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
     ConnectReader();
     ConnectShow();
     ConnectDrags();
+    ConnectStrip();
     ApplyLook(*sheet_, palette());
+    strip_->applyLook(palette());
     RestoreState();
     Retranslate();
     ShowPage();
@@ -80,6 +90,8 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
 EditorWindow::~EditorWindow() {
     show_->undoStack().disconnect(this);
     delete provider_;  // before the service that it serves from
+    delete soundMenu_;
+    delete sounds_;
     delete std::exchange(sheet_, nullptr);
 }
 
@@ -91,6 +103,7 @@ void EditorWindow::RestoreState() {
     status_->setSlideWidth(preferences.slideWidth);
     SetSlideWidth(status_->slideWidth());
     show_->setOrder(preferences.sort);
+    strip_->SetExpositionTime(preferences.exposition);
     SetSideways(preferences.horizontal);
     ShowArrangement();
 }
@@ -104,6 +117,7 @@ void EditorWindow::SetSlideWidth(int width) {
 void EditorWindow::Retranslate() {
     sheet_->setAccessibleName(tr("Planche de diapositives"));
     NameMenus();
+    soundMenu_->retranslate();
     ShowEmptyTexts();
     ShowStatus();
 }
@@ -115,6 +129,7 @@ void EditorWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) Retranslate();
     if (event->type() != QEvent::PaletteChange || !sheet_) return;
     ApplyLook(*sheet_, palette());
+    strip_->applyLook(palette());
     ShowSheet();
 }
 
@@ -128,7 +143,7 @@ void EditorWindow::closeEvent(QCloseEvent* event) {
     }
     const bool sideways = sheet_->ScrollDirection() == ui::ScrollDirection::sdHorizontal;
     const QByteArray geometry = isFullScreen() ? QByteArray() : saveGeometry();
-    Preferences{geometry, status_->slideWidth(), show_->order(), sideways}.Save(settings_);
+    Preferences{geometry, status_->slideWidth(), show_->order(), sideways, strip_->ExpositionTime()}.Save(settings_);
     QMainWindow::closeEvent(event);
 }
 

@@ -37,6 +37,9 @@ class Show;
 class ShowKeeper;
 class SlideDrags;
 class StatusPanel;
+class Strip;
+class StripMenu;
+class StripSounds;
 
 class EditorWindow : public QMainWindow {
     Q_OBJECT
@@ -76,6 +79,9 @@ public:
     Navigator& navigator() const { return *navigator_; }
     ThumbnailService& thumbnails() { return thumbnails_; }
     StatusPanel& status() const { return *status_; }
+    Strip& strip() const { return *strip_; }
+    StripSounds& sounds() const { return *sounds_; }
+    StripMenu& soundMenu() const { return *soundMenu_; }
 
 public Q_SLOTS:
     void chooseFolder();
@@ -127,6 +133,7 @@ private:
 
     // editorwindow_edit.cpp
     void ConnectShow();
+    void ConnectStrip();
     void ItemsChanged();
     void Added(const std::vector<FolderItem>& items, int beforeKey);
     void MoveSelected(int lines);
@@ -173,6 +180,7 @@ private:
     };
     void MakeKeeper();
     std::optional<SavedShow> Present() const;
+    double Exposure() const;
     void Load(SavedShow show, const QString& path);
     void BeginShow();
     bool SaveTo(const QString& path);
@@ -195,13 +203,16 @@ private:
     ShowKeeper* keeper_ = nullptr;
     SlideDrags* drags_;
     ThumbnailProvider* provider_;
+    Strip* strip_;
+    StripSounds* sounds_;
+    StripMenu* soundMenu_;
     StatusPanel* status_;
     Menus menus_{};
     PictureOpener opener_;
 
     std::optional<Folder> opened_;    // has been opened and comes onto the sheet next
     std::optional<Loading> loading_;  // the show whose pictures are being read and aren't on the sheet yet
-    SavedShow rest_;                  // what belongs to the show but its pictures; its sounds name items' keys
+    double exposure_ = 0;             // seconds of a slide that the show's file told
 
     QString folder_;        // the one that is open, or that of the show's file
     QString failed_;        // the last one asked for, if it could not be read

@@ -2,7 +2,10 @@
 #include "editor/editorwindow.h"
 #include "editor/navigator.h"
 #include "editor/show.h"
+#include "editor/showkeeper.h"
 #include "editor/statuspanel.h"
+#include "editor/strip.h"
+#include "editor/stripmenu.h"
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
@@ -31,6 +34,16 @@ void EditorWindow::ConnectShow() {
     });
     noticeEnd_.setSingleShot(true);
     connect(&noticeEnd_, &QTimer::timeout, this, [this] { Say({}); });
+}
+
+// The length of the show follows its slides and their time.
+void EditorWindow::ConnectStrip() {
+    connect(soundMenu_, &StripMenu::said, this, &EditorWindow::Say);
+    connect(strip_, &TimeLineWidget::PropertyChanged, this, [this](const QString& key) {
+        if (key != QLatin1String("ExpositionTime")) return;
+        if (!keeper_->path().isEmpty()) keeper_->touch();
+        ShowStatus();
+    });
 }
 
 int EditorWindow::count() const {

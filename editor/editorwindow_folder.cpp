@@ -5,6 +5,9 @@
 #include "editor/show.h"
 #include "editor/showkeeper.h"
 #include "editor/statuspanel.h"
+#include "editor/strip.h"
+#include "editor/stripmenu.h"
+#include "editor/stripsounds.h"
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
@@ -63,6 +66,7 @@ void EditorWindow::Begin(const Folder& folder) {
     sinceShown_.invalidate();
     loading_ ? BeginShow() : BeginFolder(folder.path);
     ShowTitle();
+    soundMenu_->setFolder(folder_);
     ShowEmptyTexts();
     ShowPage();
     ShowStatus();
@@ -70,7 +74,7 @@ void EditorWindow::Begin(const Folder& folder) {
 
 void EditorWindow::BeginFolder(const QString& path) {
     folder_ = path;
-    rest_ = {};
+    exposure_ = strip_->ExpositionTime();
     recovered_.clear();
     keeper_->begin({});
     recent_.add(folder_);
@@ -138,6 +142,7 @@ void EditorWindow::TakeSlice() {
 
 void EditorWindow::Complete() {
     show_->orderAppended();
+    sounds_->follow();
     complete_ = true;
     if (missing_ > 0) Say(tr("%Ln image(s) introuvable(s)", nullptr, std::exchange(missing_, 0)));
     KeepRecovered();
@@ -166,6 +171,7 @@ void EditorWindow::ShowStatus() {
     } else {
         status_->setCounts(count(), sheet_->CountSelected());
     }
+    status_->setLength(strip_->showSeconds());
     status_->setZoomShown(count() > 0 || reading);
     if (reading) {
         status_->setProgress(read_, total_);

@@ -4,6 +4,7 @@
 #include "editor/show.h"
 #include "editor/slidesize.h"
 #include "editor/statuspanel.h"
+#include "editor/stripmenu.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -23,6 +24,7 @@ QAction* EditorWindow::AddAction(QMenu* menu, const QKeySequence& keys) {
 void EditorWindow::MakeMenus() {
     MakeFileMenu();
     MakeEditMenu();
+    soundMenu_ = new StripMenu(*menuBar(), *strip_, *sounds_, *navigator_);
     MakeViewMenu();
 }
 

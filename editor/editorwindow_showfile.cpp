@@ -4,9 +4,12 @@
 #include "editor/show.h"
 #include "editor/showfile.h"
 #include "editor/showkeeper.h"
+#include "editor/strip.h"
+#include "editor/stripsounds.h"
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include <QFileDialog>
@@ -21,6 +24,10 @@ namespace {
 
 QString DialogFilter() {
     return EditorWindow::tr("Diaporamas Vorlane (*.%1)").arg(kShowExtension);
+}
+
+int WholeSeconds(double exposure) {
+    return std::max(1, static_cast<int>(std::lround(exposure)));
 }
 
 QString WithExtension(const QString& path) {
@@ -51,13 +58,15 @@ std::optional<SavedShow> EditorWindow::Present() const {
     if (!complete_) return std::nullopt;
     SavedShow show;
     show.order = show_->order();
-    show.exposure = rest_.exposure;
+    show.exposure = Exposure();
     for (int i = 0; i < count(); ++i) show.pictures.push_back(sheet_->ImageFullPath(i));
-    for (SavedSound sound : rest_.sounds) {
-        sound.picture = sheet_->GetListIndexFromItemData(sound.picture);
-        if (sound.picture >= 0) show.sounds.push_back(sound);
-    }
+    show.sounds = sounds_->saved();
     return show;
+}
+
+// The strip counts whole seconds: a show that had parts of them keeps these until the user sets its time.
+double EditorWindow::Exposure() const {
+    return WholeSeconds(exposure_) == strip_->ExpositionTime() ? exposure_ : strip_->ExpositionTime();
 }
 
 // --- Opening ---
@@ -88,15 +97,15 @@ void EditorWindow::Load(SavedShow show, const QString& path) {
     reader_.list(loading_->show.pictures);
 }
 
-// Before its first picture comes: the keys of the pictures are their indices in the file, by which its sounds know
-// them.
+// Before its first picture comes: the keys of the pictures are their indices in the file.
 void EditorWindow::BeginShow() {
     Loading loading = *std::exchange(loading_, std::nullopt);
     const QString& path = loading.path;
     recovered_ = loading.recovered;
-    rest_ = std::move(loading.show);
-    rest_.pictures.clear();
-    show_->setOrder(rest_.order);
+    show_->setOrder(loading.show.order);
+    sounds_->begin(loading.show.sounds);
+    exposure_ = loading.show.exposure;
+    strip_->SetExpositionTime(WholeSeconds(exposure_));
     keeper_->begin(path);
     if (!path.isEmpty()) recent_.add(path);
     folder_ = path.isEmpty() ? QString() : QFileInfo(path).path();

@@ -14,6 +14,7 @@ const QString kSlideWidth = QStringLiteral("slideWidth");
 const QString kSortBy = QStringLiteral("sort/by");
 const QString kDescending = QStringLiteral("sort/descending");
 const QString kHorizontal = QStringLiteral("horizontal");
+const QString kExposition = QStringLiteral("exposition");
 
 // At the place of its number.
 constexpr std::array kCriteria{"hand", "name", "modified", "created", "length", "extension"};
@@ -33,6 +34,8 @@ Preferences Preferences::Load(const QSettings& settings) {
     if (number) loaded.slideWidth = std::clamp(width, slidesize::kLeast, slidesize::kMost);
     loaded.sort.by = CriterionOf(settings.value(kSortBy).toString(), loaded.sort.by);
     loaded.sort.descending = settings.value(kDescending).toBool();
+    const int seconds = settings.value(kExposition).toInt(&number);
+    if (number) loaded.exposition = std::clamp(seconds, 1, kLongestExposition);
     loaded.horizontal = settings.value(kHorizontal).toBool();
     return loaded;
 }
@@ -43,6 +46,7 @@ void Preferences::Save(QSettings& settings) const {
     settings.setValue(kSortBy, QLatin1String(kCriteria.at(static_cast<size_t>(sort.by))));
     settings.setValue(kDescending, sort.descending);
     settings.setValue(kHorizontal, horizontal);
+    settings.setValue(kExposition, exposition);
 }
 
 }  // namespace vorlane::editor

@@ -22,11 +22,15 @@ struct SortOrder {
     bool operator==(const SortOrder&) const = default;
 };
 
+// The longest that a slide may be shown, seconds.
+constexpr int kLongestExposition = 3600;
+
 struct Preferences {
     QByteArray geometry{};  // empty: none yet
     int slideWidth = slidesize::kUsual;
     SortOrder sort{};
     bool horizontal = false;  // the slides scroll sideways
+    int exposition = 5;       // seconds of each slide
 
     static Preferences Load(const QSettings& settings);
     void Save(QSettings& settings) const;

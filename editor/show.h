@@ -35,7 +35,7 @@ public:
     SortOrder order() const { return order_; }
     const QUndoStack& undoStack() const { return undo_; }
     bool isBusy() const { return busy_; }
-    // Whether items have been added, removed or moved since the show began or was saved; sorts alone don't count.
+    // Whether anything has been done since the show began or was saved; sorts alone don't count.
     bool isEdited() const;
     // As it is now, it is saved.
     void setSaved() { undo_.setClean(); }
@@ -66,6 +66,8 @@ public:
     bool beginMove();
     void endMove();
     void sort(SortOrder order);
+    // Does what else can be done to a show; passed over by a show that is at work. Takes the command over.
+    void push(QUndoCommand* command);
     void undo();
     void redo();
 

@@ -3,6 +3,7 @@
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
+#include <memory>
 #include <unordered_map>
 #include <utility>
 
@@ -78,7 +79,7 @@ bool Show::isEdited() const {
     const int now = undo_.index();
     if (saved < 0) return true;  // the way back to what was saved is lost
     for (int i = std::min(saved, now); i < std::max(saved, now); ++i) {
-        if (dynamic_cast<const ChangeCommand*>(undo_.command(i)) != nullptr) return true;
+        if (dynamic_cast<const SortCommand*>(undo_.command(i)) == nullptr) return true;
     }
     return false;
 }
@@ -151,6 +152,13 @@ void Show::sort(SortOrder order) {
     if (busy_ || order == order_) return;
     const Busy busy(*this);
     undo_.push(new SortCommand(*this, order, tr("le tri")));
+}
+
+void Show::push(QUndoCommand* command) {
+    std::unique_ptr<QUndoCommand> owned(command);
+    if (busy_) return;
+    const Busy busy(*this);
+    undo_.push(owned.release());
 }
 
 void Show::undo() {

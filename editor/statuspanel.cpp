@@ -1,6 +1,9 @@
 #include "editor/statuspanel.h"
 
 #include "editor/slidesize.h"
+#include "widgets/timelinewidget.h"
+
+#include <utility>
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -39,6 +42,7 @@ protected:
 StatusPanel::StatusPanel(QWidget* parent)
     : QWidget(parent),
       text_(new ElidedLabel(this)),
+      length_(new QLabel(this)),
       progress_(new QProgressBar(this)),
       smaller_(MakeButton(QStringLiteral("\u2212"))),
       slider_(new QSlider(Qt::Horizontal, this)),
@@ -47,6 +51,8 @@ StatusPanel::StatusPanel(QWidget* parent)
     text_->setObjectName(QStringLiteral("status"));
     text_->setTextFormat(Qt::PlainText);
     text_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    length_->setObjectName(QStringLiteral("length"));
+    length_->hide();
     progress_->setTextVisible(false);
     progress_->setFixedSize(kProgressWidth, kProgressHeight);
     progress_->hide();
@@ -62,6 +68,8 @@ StatusPanel::StatusPanel(QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(kMargin, 2, kMargin, 2);
     row->addWidget(text_, 1);
+    row->addWidget(length_);
+    row->addSpacing(kMargin);
     row->addWidget(progress_);
     row->addSpacing(2 * kMargin);
     for (QWidget* part : ZoomParts()) row->addWidget(part);
@@ -96,7 +104,9 @@ void StatusPanel::Retranslate() {
     larger_->setToolTip(tr("Diapositives plus grandes"));
     slider_->setToolTip(tr("Taille des diapositives"));
     slider_->setAccessibleName(tr("Taille des diapositives"));
+    length_->setToolTip(tr("Durée de tout le diaporama"));
     progress_->setAccessibleName(tr("Progression"));
+    ShowLength();
     ShowPercent(slideWidth());
 }
 
@@ -121,6 +131,19 @@ void StatusPanel::clear() {
 
 QString StatusPanel::text() const {
     return text_->text();
+}
+
+void StatusPanel::setLength(int seconds) {
+    if (std::exchange(seconds_, seconds) != seconds) ShowLength();
+}
+
+QString StatusPanel::length() const {
+    return length_->text();
+}
+
+void StatusPanel::ShowLength() {
+    length_->setText(seconds_ == 0 ? QString() : tr("Durée : %1").arg(TimeLineWidget::SecondsToText(seconds_, true)));
+    length_->setVisible(seconds_ != 0);
 }
 
 void StatusPanel::setProgress(int value, int maximum) {

@@ -26,6 +26,9 @@ public:
     // Nothing to say, as long as no folder is open.
     void clear();
     QString text() const;
+    // The length of the whole show, in seconds; none for 0.
+    void setLength(int seconds);
+    QString length() const;
 
     // value of maximum is done; hidden when all is.
     void setProgress(int value, int maximum);
@@ -47,13 +50,16 @@ private:
     QToolButton* MakeButton(const QString& sign);
     void Retranslate();
     void ShowPercent(int width);
+    void ShowLength();
 
     QLabel* text_;
+    QLabel* length_;
     QProgressBar* progress_;
     QToolButton* smaller_;
     QSlider* slider_;
     QToolButton* larger_;
     QLabel* percent_;
+    int seconds_ = 0;
 };
 
 }  // namespace vorlane::editor

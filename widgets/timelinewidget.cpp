@@ -4,6 +4,7 @@
 #include "platform/qt/colors.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/qtdesktop.h"
+#include "platform/trelmic6.h"
 #include "sheet/vorlane.h"
 #include "timeline/etimeline.h"
 #include "widgets/accessibletimeline.h"
@@ -125,6 +126,14 @@ bool TimeLineWidget::Redraw() const {
 void TimeLineWidget::SetRedraw(bool on) {
     Do("SetRedraw", [&] { line_.SetRedraw(on); });
     if (on) AccessibleTimeLine::TellSounds(*this);
+}
+
+int TimeLineWidget::SoundSeconds(const QString& file) const {
+    return Ask("SoundSeconds", 0, [&] { return Trelmic6(Desktop().Roles()).SoundSeconds(ToText(file)); });
+}
+
+QString TimeLineWidget::SecondsToText(int seconds, bool withUnits) {
+    return FromText(Trelmic6::SecondsToText(seconds, withUnits));
 }
 
 // --- Painting ---

@@ -167,6 +167,11 @@ public:
     bool Redraw() const;
     void SetRedraw(bool on);
 
+    // The length of a sound file in whole seconds, 0 when it can't be told.
+    int SoundSeconds(const QString& file) const;
+    // "m:ss", or "h:mm:ss" from an hour on; with units "2 h 05 min 09 s", without those in front that are zero.
+    static QString SecondsToText(int seconds, bool withUnits);
+
     // --- Painting ---
     // Fills a part of the strip with a gradient, up to the next paint.
     void GradientTrace(const QColor& startColor, const QColor& endColor, int direction, bool inverse, double x,

@@ -453,6 +453,155 @@
         <source>%L1&#xa0;%</source>
         <translation>%L1%</translation>
     </message>
+    <message>
+        <source>Durée de tout le diaporama</source>
+        <translation>Length of the whole show</translation>
+    </message>
+    <message>
+        <source>Durée&#xa0;: %1</source>
+        <translation>Length: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::StripMenu</name>
+    <message>
+        <source>&amp;Sons</source>
+        <translation>&amp;Sounds</translation>
+    </message>
+    <message>
+        <source>Ajouter une &amp;musique…</source>
+        <translation>Add &amp;Music…</translation>
+    </message>
+    <message>
+        <source>Ajouter un &amp;commentaire…</source>
+        <translation>Add &amp;Comment…</translation>
+    </message>
+    <message>
+        <source>&amp;Répéter la musique</source>
+        <translation>&amp;Repeat Music</translation>
+    </message>
+    <message>
+        <source>Retirer &amp;la musique</source>
+        <translation>Remo&amp;ve Music</translation>
+    </message>
+    <message>
+        <source>Retirer le c&amp;ommentaire</source>
+        <translation>Remove C&amp;omment</translation>
+    </message>
+    <message>
+        <source>&amp;Durée d&apos;exposition…</source>
+        <translation>&amp;Time of a Slide…</translation>
+    </message>
+    <message>
+        <source>&amp;Afficher la ligne de temps</source>
+        <translation>&amp;Show Time Line</translation>
+    </message>
+    <message>
+        <source>Ligne de temps</source>
+        <translation>Time line</translation>
+    </message>
+    <message>
+        <source>Ajouter une musique</source>
+        <translation>Add Music</translation>
+    </message>
+    <message>
+        <source>Ajouter un commentaire</source>
+        <translation>Add Comment</translation>
+    </message>
+    <message>
+        <source>Aucun son à ajouter</source>
+        <translation>No sound to add</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln musique(s) ajoutée(s)</source>
+        <translation>
+            <numerusform>%Ln music added</numerusform>
+            <numerusform>%Ln musics added</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln commentaire(s) ajouté(s)</source>
+        <translation>
+            <numerusform>%Ln comment added</numerusform>
+            <numerusform>%Ln comments added</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1&#xa0;; %2</source>
+        <translation>%1; %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln de trop pour les diapositives</source>
+        <translation>
+            <numerusform>%Ln too many for the slides</numerusform>
+            <numerusform>%Ln too many for the slides</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Musique retirée</source>
+        <translation>Music removed</translation>
+    </message>
+    <message>
+        <source>Commentaire retiré</source>
+        <translation>Comment removed</translation>
+    </message>
+    <message>
+        <source>Durée d&apos;exposition</source>
+        <translation>Time of a Slide</translation>
+    </message>
+    <message>
+        <source>Secondes par diapositive&#xa0;:</source>
+        <translation>Seconds per slide:</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::StripSounds</name>
+    <message>
+        <source>l&apos;ajout de sons</source>
+        <translation>Adding of Sounds</translation>
+    </message>
+    <message>
+        <source>le retrait d&apos;un son</source>
+        <translation>Removal of a Sound</translation>
+    </message>
+    <message>
+        <source>la répétition</source>
+        <translation>Repetition</translation>
+    </message>
+    <message>
+        <source>la fin de la répétition</source>
+        <translation>End of Repetition</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::AccessibleSound</name>
+    <message>
+        <source>Musique</source>
+        <translation>Music</translation>
+    </message>
+    <message>
+        <source>Commentaire</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>%1, %2, en boucle</source>
+        <translation>%1, %2, looped</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, à %2</source>
+        <translation>%1, at %2</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::AccessibleTimeLine</name>
+    <message>
+        <source>Ligne de temps</source>
+        <translation>Time line</translation>
+    </message>
 </context>
 <context>
     <name>SavedShow</name>

@@ -52,4 +52,28 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>vorlane::editor::StripMenu</name>
+    <message numerus="yes">
+        <source>%Ln musique(s) ajoutée(s)</source>
+        <translation>
+            <numerusform>%Ln musique ajoutée</numerusform>
+            <numerusform>%Ln musiques ajoutées</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln commentaire(s) ajouté(s)</source>
+        <translation>
+            <numerusform>%Ln commentaire ajouté</numerusform>
+            <numerusform>%Ln commentaires ajoutés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln de trop pour les diapositives</source>
+        <translation>
+            <numerusform>%Ln de trop pour les diapositives</numerusform>
+            <numerusform>%Ln de trop pour les diapositives</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -1,0 +1,128 @@
+#include "editor/stripmenu.h"
+
+#include "editor/navigator.h"
+#include "editor/preferences.h"
+#include "editor/stripsounds.h"
+#include "widgets/filekind.h"
+
+#include <algorithm>
+
+#include <QAction>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace vorlane::editor {
+
+StripMenu::StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator& navigator)
+    : QObject(&bar),
+      strip_(strip),
+      sounds_(sounds),
+      navigator_(navigator),
+      menu_(bar.addMenu(QString())),
+      addMusic_(AddAction(QKeySequence(Qt::CTRL | Qt::Key_M))),
+      addComment_(AddAction(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M))),
+      repeat_(AddAction()),
+      removeMusic_(AddAction()),
+      removeComment_(AddAction()),
+      exposition_(AddAction()),
+      show_(AddAction()) {
+    menu_->insertSeparator(repeat_);
+    menu_->insertSeparator(exposition_);
+    repeat_->setCheckable(true);
+    show_->setCheckable(true);
+    show_->setChecked(true);
+    connect(addMusic_, &QAction::triggered, this, [this] { Choose(SoundKind::Music); });
+    connect(addComment_, &QAction::triggered, this, [this] { Choose(SoundKind::Comment); });
+    connect(repeat_, &QAction::triggered, this,
+            [this](bool on) { sounds_.setRepeated(SoundKind::Music, Current(), on); });
+    connect(removeMusic_, &QAction::triggered, this, [this] { Remove(SoundKind::Music); });
+    connect(removeComment_, &QAction::triggered, this, [this] { Remove(SoundKind::Comment); });
+    connect(exposition_, &QAction::triggered, this, &StripMenu::ChooseExposition);
+    connect(show_, &QAction::toggled, &strip, &QWidget::setVisible);
+    connect(&strip, &Strip::soundsDropped, this, &StripMenu::AddTo);
+    connect(&sounds, &StripSounds::changed, this, &StripMenu::ShowState);
+    connect(&navigator, &Navigator::moved, this, &StripMenu::ShowState);
+    ShowState();
+}
+
+QAction* StripMenu::AddAction(const QKeySequence& keys) {
+    QAction* action = menu_->addAction(QString());
+    action->setShortcut(keys);
+    return action;
+}
+
+QWidget* StripMenu::Window() const {
+    return strip_.window();
+}
+
+void StripMenu::retranslate() {
+    menu_->setTitle(tr("&Sons"));
+    addMusic_->setText(tr("Ajouter une &musique…"));
+    addComment_->setText(tr("Ajouter un &commentaire…"));
+    repeat_->setText(tr("&Répéter la musique"));
+    removeMusic_->setText(tr("Retirer &la musique"));
+    removeComment_->setText(tr("Retirer le c&ommentaire"));
+    exposition_->setText(tr("&Durée d'exposition…"));
+    show_->setText(tr("&Afficher la ligne de temps"));
+    strip_.setAccessibleName(tr("Ligne de temps"));
+}
+
+int StripMenu::Current() const {
+    return navigator_.current();
+}
+
+// What can be done to the current slide's sounds.
+void StripMenu::ShowState() {
+    const int key = strip_.keyOf(Current());
+    const auto music = sounds_.find(SoundKind::Music, key);
+    repeat_->setEnabled(music.has_value());
+    repeat_->setChecked(music && music->Repetition);
+    removeMusic_->setEnabled(music.has_value());
+    removeComment_->setEnabled(sounds_.find(SoundKind::Comment, key).has_value());
+    const bool slides = strip_.showSeconds() > 0;
+    addMusic_->setEnabled(slides);
+    addComment_->setEnabled(slides);
+}
+
+// --- Adding ---
+
+void StripMenu::Choose(SoundKind kind) {
+    const QString title = kind == SoundKind::Music ? tr("Ajouter une musique") : tr("Ajouter un commentaire");
+    addFiles(kind, QFileDialog::getOpenFileNames(Window(), title, folder_));
+}
+
+void StripMenu::addFiles(SoundKind kind, const QStringList& files) {
+    if (files.isEmpty()) return;
+    QStringList sounds;
+    for (const QString& file : files) {
+        if (FileKindOf(file) == FileKind::Sound) sounds.push_back(file);
+    }
+    AddTo(kind, sounds, std::max(Current(), 0));
+}
+
+void StripMenu::AddTo(SoundKind kind, const QStringList& files, int listIndex) {
+    const int added = sounds_.add(kind, files, listIndex);
+    const auto left = static_cast<int>(files.size()) - added;
+    if (added == 0) return Q_EMIT said(tr("Aucun son à ajouter"));
+    const bool music = kind == SoundKind::Music;
+    QString notice =
+        music ? tr("%Ln musique(s) ajoutée(s)", nullptr, added) : tr("%Ln commentaire(s) ajouté(s)", nullptr, added);
+    if (left > 0) notice = tr("%1 ; %2").arg(notice, tr("%Ln de trop pour les diapositives", nullptr, left));
+    Q_EMIT said(notice);
+}
+
+void StripMenu::Remove(SoundKind kind) {
+    if (!sounds_.remove(kind, Current())) return;
+    Q_EMIT said(kind == SoundKind::Music ? tr("Musique retirée") : tr("Commentaire retiré"));
+}
+
+void StripMenu::ChooseExposition() {
+    bool chosen = false;
+    const int seconds = QInputDialog::getInt(Window(), tr("Durée d'exposition"), tr("Secondes par diapositive :"),
+                                             strip_.ExpositionTime(), 1, kLongestExposition, 1, &chosen);
+    if (chosen) strip_.SetExpositionTime(seconds);
+}
+
+}  // namespace vorlane::editor

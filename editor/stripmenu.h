@@ -1,0 +1,60 @@
+// StripMenu: the window's menu for sounds: adds musics and comments to the current slide, takes them away, repeats
+// them, and sets for how long each slide is shown.
+#pragma once
+
+#include "editor/strip.h"
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace vorlane::editor {
+
+class Navigator;
+class StripSounds;
+
+class StripMenu : public QObject {
+    Q_OBJECT
+
+public:
+    // All outlive this.
+    StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator& navigator);
+
+    void retranslate();
+    // To the current slide, or to the first one; tells how it went.
+    void addFiles(SoundKind kind, const QStringList& files);
+
+public Q_SLOTS:
+    // Where a file dialog starts.
+    void setFolder(const QString& folder) { folder_ = folder; }
+
+Q_SIGNALS:
+    void said(const QString& notice);
+
+private:
+    QAction* AddAction(const QKeySequence& keys = {});
+    QWidget* Window() const;
+    int Current() const;
+    void Choose(SoundKind kind);
+    void Remove(SoundKind kind);
+    void AddTo(SoundKind kind, const QStringList& files, int listIndex);
+    void ChooseExposition();
+    void ShowState();
+
+    Strip& strip_;
+    StripSounds& sounds_;
+    Navigator& navigator_;
+    QMenu* menu_;
+    QAction* addMusic_;
+    QAction* addComment_;
+    QAction* repeat_;
+    QAction* removeMusic_;
+    QAction* removeComment_;
+    QAction* exposition_;
+    QAction* show_;
+    QString folder_;
+};
+
+}  // namespace vorlane::editor
