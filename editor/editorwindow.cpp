@@ -7,6 +7,7 @@
 #include "editor/navigator.h"
 #include "editor/show.h"
 #include "editor/showkeeper.h"
+#include "editor/showplayer.h"
 #include "editor/slidedrags.h"
 #include "editor/slidesize.h"
 #include "editor/statuspanel.h"

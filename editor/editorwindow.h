@@ -11,6 +11,7 @@
 #include "editor/preferences.h"
 #include "editor/recents.h"
 #include "editor/savedshow.h"
+#include "editor/soundtrack.h"
 #include "widgets/thumbnailprovider.h"
 #include "widgets/thumbnailservice.h"
 
@@ -35,6 +36,7 @@ class EmptyPage;
 class Navigator;
 class Show;
 class ShowKeeper;
+class ShowPlayer;
 class SlideDrags;
 class StatusPanel;
 class Strip;
@@ -73,6 +75,10 @@ public:
     // What opens a picture's file; gives false where nothing does. At first it is the system's usual program.
     using PictureOpener = std::function<bool(const QString& path)>;
     void setPictureOpener(PictureOpener opener) { opener_ = std::move(opener); }
+    // What the shows' sounds are played by, from the first show on that is played.
+    void setSoundChannels(Soundtrack::MakeChannel makeChannel) { makeChannel_ = std::move(makeChannel); }
+    // Plays the show; made by the first play().
+    ShowPlayer* player() const { return player_.get(); }
 
     VorlaneWidget& sheet() const { return *sheet_; }
     Show& slides() const { return *show_; }
@@ -91,6 +97,9 @@ public Q_SLOTS:
     bool saveAs();
     void chooseFiles();
     void removeSelected();
+    // Plays the show on the whole screen, from the current slide on or from its first one.
+    void play();
+    void playFromStart();
     void selectAll();
     void toggleFullScreen();
 
@@ -180,13 +189,18 @@ private:
     };
     void MakeKeeper();
     std::optional<SavedShow> Present() const;
-    double Exposure() const;
     void Load(SavedShow show, const QString& path);
     void BeginShow();
     bool SaveTo(const QString& path);
     void Leave(const std::function<void()>& goOn);
     void Recover(const QString& file);
     void KeepRecovered();
+
+    // editorwindow_play.cpp
+    void MakePlayMenu();
+    void NamePlayMenu();
+    void PlayFrom(int first);
+    void FollowPlaying(int second);
 
     QSettings& settings_;
     Recents recent_{settings_};
@@ -209,10 +223,12 @@ private:
     StatusPanel* status_;
     Menus menus_{};
     PictureOpener opener_;
+    Soundtrack::MakeChannel makeChannel_;
+    std::unique_ptr<ShowPlayer> player_;
+    int playedFrom_ = 0;  // the slide that the last playing began on
 
     std::optional<Folder> opened_;    // has been opened and comes onto the sheet next
     std::optional<Loading> loading_;  // the show whose pictures are being read and aren't on the sheet yet
-    double exposure_ = 0;             // seconds of a slide that the show's file told
 
     QString folder_;        // the one that is open, or that of the show's file
     QString failed_;        // the last one asked for, if it could not be read

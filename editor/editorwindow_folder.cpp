@@ -74,7 +74,6 @@ void EditorWindow::Begin(const Folder& folder) {
 
 void EditorWindow::BeginFolder(const QString& path) {
     folder_ = path;
-    exposure_ = strip_->ExpositionTime();
     recovered_.clear();
     keeper_->begin({});
     recent_.add(folder_);

@@ -26,6 +26,7 @@ void EditorWindow::MakeMenus() {
     MakeEditMenu();
     soundMenu_ = new StripMenu(*menuBar(), *strip_, *sounds_, *navigator_);
     MakeViewMenu();
+    MakePlayMenu();
 }
 
 void EditorWindow::MakeFileMenu() {
@@ -136,6 +137,7 @@ void EditorWindow::NameMenus() {
     menus_.moveBack->setText(tr("Déplacer vers le &début"));
     menus_.moveOn->setText(tr("Déplacer vers la &fin"));
     NameViewMenu();
+    NamePlayMenu();
 }
 
 void EditorWindow::NameViewMenu() {

@@ -9,7 +9,6 @@
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include <QFileDialog>
@@ -24,10 +23,6 @@ namespace {
 
 QString DialogFilter() {
     return EditorWindow::tr("Diaporamas Vorlane (*.%1)").arg(kShowExtension);
-}
-
-int WholeSeconds(double exposure) {
-    return std::max(1, static_cast<int>(std::lround(exposure)));
 }
 
 QString WithExtension(const QString& path) {
@@ -58,15 +53,10 @@ std::optional<SavedShow> EditorWindow::Present() const {
     if (!complete_) return std::nullopt;
     SavedShow show;
     show.order = show_->order();
-    show.exposure = Exposure();
+    show.exposure = strip_->ExpositionTime();
     for (int i = 0; i < count(); ++i) show.pictures.push_back(sheet_->ImageFullPath(i));
     show.sounds = sounds_->saved();
     return show;
-}
-
-// The strip counts whole seconds: a show that had parts of them keeps these until the user sets its time.
-double EditorWindow::Exposure() const {
-    return WholeSeconds(exposure_) == strip_->ExpositionTime() ? exposure_ : strip_->ExpositionTime();
 }
 
 // --- Opening ---
@@ -104,8 +94,7 @@ void EditorWindow::BeginShow() {
     recovered_ = loading.recovered;
     show_->setOrder(loading.show.order);
     sounds_->begin(loading.show.sounds);
-    exposure_ = loading.show.exposure;
-    strip_->SetExpositionTime(WholeSeconds(exposure_));
+    strip_->SetExpositionTime(loading.show.exposure);
     keeper_->begin(path);
     if (!path.isEmpty()) recent_.add(path);
     folder_ = path.isEmpty() ? QString() : QFileInfo(path).path();

@@ -40,6 +40,10 @@ struct Menus {
     QAction* smaller;
     QAction* usual;
     QAction* fullScreen;
+
+    QMenu* playing;
+    QAction* play;
+    QAction* playFromStart;
 };
 
 }  // namespace vorlane::editor

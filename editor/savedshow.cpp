@@ -1,7 +1,6 @@
 #include "editor/savedshow.h"
 
 #include <array>
-#include <cmath>
 #include <limits>
 #include <set>
 #include <utility>
@@ -84,13 +83,6 @@ public:
         if (value.isUndefined()) return usual;
         if (!value.isBool()) throw Damage{PlaceOf(name)};
         return value.toBool();
-    }
-    double Number(QLatin1String name, double usual, double least, double most) const {
-        const QJsonValue value = object_.value(name);
-        if (value.isUndefined()) return usual;
-        const double number = value.toDouble(std::nan(""));
-        if (!(number >= least && number <= most)) throw Damage{PlaceOf(name)};
-        return number;
     }
     int Whole(QLatin1String name, int usual, int least, int most) const {
         const QJsonValue value = object_.value(name);
@@ -179,7 +171,7 @@ SavedShow ShowOf(const Members& members, const QDir& base) {
     for (qsizetype i = 0; i < entries.size(); ++i)
         show.pictures.push_back(FileAt(entries[i].toString(), base, PlaceOf(pictures, i)));
     if (members.Has(sort)) show.order = OrderOf(members.Object(sort));
-    show.exposure = members.Number(QLatin1String("exposure"), show.exposure, kLeastExposure, kMostExposure);
+    show.exposure = members.Whole(QLatin1String("exposure"), show.exposure, kLeastExposure, kMostExposure);
     show.sounds = SoundsOf(members.Array(QLatin1String("sounds")), base, static_cast<int>(show.pictures.size()));
     if (members.Has(origin)) show.origin = FileAt(members.Text(origin), base, origin);
     return show;

@@ -392,6 +392,30 @@
         <source>&amp;Plus tard</source>
         <translation>&amp;Later</translation>
     </message>
+    <message>
+        <source>&amp;Diaporama</source>
+        <translation>Sli&amp;de Show</translation>
+    </message>
+    <message>
+        <source>&amp;Lire à partir d&apos;ici</source>
+        <translation>&amp;Play from Here</translation>
+    </message>
+    <message>
+        <source>Lire depuis le &amp;début</source>
+        <translation>Play from the &amp;Start</translation>
+    </message>
+    <message>
+        <source>Les images sont encore en cours de lecture</source>
+        <translation>The pictures are still being read</translation>
+    </message>
+    <message>
+        <source>Il n&apos;y a aucune image à lire</source>
+        <translation>There are no pictures to play</translation>
+    </message>
+    <message>
+        <source>Impossible de lire le son «&#xa0;%1&#xa0;»&#xa0;: %2</source>
+        <translation>Can&apos;t play the sound “%1”: %2</translation>
+    </message>
 </context>
 <context>
     <name>vorlane::editor::Show</name>
@@ -642,6 +666,21 @@
     <message>
         <source>Les images sont encore en cours de lecture&#xa0;: enregistrez dans un instant</source>
         <translation>The pictures are still being read: save in a moment</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::PlayerWindow</name>
+    <message>
+        <source>Lecture du diaporama</source>
+        <translation>Slide Show</translation>
+    </message>
+    <message>
+        <source>Image introuvable&#xa0;: %1</source>
+        <translation>Picture not found: %1</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Paused</translation>
     </message>
 </context>
 </TS>

@@ -16,7 +16,7 @@ SavedShow Full() {
     SavedShow show;
     show.pictures = {"/shows/2024/a.jpg", "/shows/2024/été/b é.jpg", "/pictures/c.jpg", "/shows/2024/a.jpg"};
     show.order = {SortBy::Modified, true};
-    show.exposure = 7.5;
+    show.exposure = 7;
     show.sounds = {{SoundKind::Music, 0, "/shows/2024/song.ogg", true, false, 90, 20, 80},
                    {SoundKind::Comment, 0, "/voices/one.wav", false, true, 100, 25, 100}};
     show.origin = "/shows/first.vorlane";
@@ -118,6 +118,7 @@ TEST(SavedShow, EntriesOfAnotherKindAreDamageToldByTheirPlace) {
         {With("sort", QJsonObject{{"by", "colour"}}), "sort.by"},
         {With("sort", QJsonObject{{"by", "name"}, {"descending", 1}}), "sort.descending"},
         {With("exposure", 0), "exposure"},
+        {With("exposure", 2.5), "exposure"},
         {With("exposure", 1e300), "exposure"},
         {With("exposure", "5"), "exposure"},
         {With("sounds", "none"), "sounds"},

@@ -1,0 +1,64 @@
+// Playing the show.
+#include "editor/editorwindow.h"
+#include "editor/navigator.h"
+#include "editor/showplayer.h"
+#include "editor/strip.h"
+#include "widgets/vorlanewidget.h"
+
+#include <algorithm>
+
+#include <QAction>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace vorlane::editor {
+
+void EditorWindow::MakePlayMenu() {
+    menus_.playing = menuBar()->addMenu(QString());
+    menus_.play = AddAction(menus_.playing, QKeySequence(Qt::CTRL | Qt::Key_L));
+    menus_.playFromStart = AddAction(menus_.playing, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L));
+    connect(menus_.play, &QAction::triggered, this, &EditorWindow::play);
+    connect(menus_.playFromStart, &QAction::triggered, this, &EditorWindow::playFromStart);
+}
+
+void EditorWindow::NamePlayMenu() {
+    menus_.playing->setTitle(tr("&Diaporama"));
+    menus_.play->setText(tr("&Lire à partir d'ici"));
+    menus_.playFromStart->setText(tr("Lire depuis le &début"));
+}
+
+void EditorWindow::play() {
+    const QList<int> selected = sheet_->SelectedTableau();
+    PlayFrom(selected.empty() ? std::max(navigator_->current(), 0) : selected.front());
+}
+
+void EditorWindow::playFromStart() {
+    PlayFrom(0);
+}
+
+void EditorWindow::PlayFrom(int first) {
+    std::optional<SavedShow> show = Present();
+    if (!show) return Say(tr("Les images sont encore en cours de lecture"));
+    if (show->pictures.isEmpty()) return Say(tr("Il n'y a aucune image à lire"));
+    if (!player_) {
+        player_ = std::make_unique<ShowPlayer>(DecodeThumbnail, makeChannel_);
+        connect(player_.get(), &ShowPlayer::secondBegan, this, &EditorWindow::FollowPlaying);
+        connect(player_.get(), &ShowPlayer::ended, this, [this](int picture) {
+            strip_->LectureEnd();
+            navigator_->setCurrent(picture);
+        });
+        connect(player_.get(), &ShowPlayer::soundFailed, this, [this](const QString& path, const QString& why) {
+            Say(tr("Impossible de lire le son « %1 » : %2").arg(QFileInfo(path).fileName(), why));
+        });
+    }
+    playedFrom_ = first;
+    player_->play(std::move(*show), first, this);
+}
+
+// The strip counts from the slide that the playing began on.
+void EditorWindow::FollowPlaying(int second) {
+    strip_->Lecture(second - playedFrom_ * strip_->ExpositionTime(), playedFrom_);
+}
+
+}  // namespace vorlane::editor

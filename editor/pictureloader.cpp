@@ -1,0 +1,53 @@
+#include "editor/pictureloader.h"
+
+#include <utility>
+
+namespace vorlane::editor {
+
+PictureLoader::PictureLoader(ThumbnailDecoder decoder, QObject* parent)
+    : QObject(parent), decoder_(std::move(decoder)) {
+    pool_.setMaxThreadCount(2);
+}
+
+PictureLoader::~PictureLoader() {
+    pool_.clear();
+    pool_.waitForDone();
+}
+
+void PictureLoader::want(const QString& path, int edge) {
+    const bool known = expected_.Is(path, edge);
+    wanted_ = known ? std::exchange(expected_, {}) : Known{path, edge};
+    if (!known) return Read(path, edge);
+    if (wanted_.read) Q_EMIT loaded(path, wanted_.image);
+}
+
+void PictureLoader::expect(const QString& path, int edge) {
+    if (expected_.Is(path, edge)) return;
+    expected_ = {path, edge};
+    Read(path, edge);
+}
+
+void PictureLoader::forget() {
+    pool_.clear();
+    wanted_ = expected_ = {};
+}
+
+// The pool is done before this ends, so this is there to be called.
+void PictureLoader::Read(const QString& path, int edge) {
+    pool_.start([this, path, edge, decoder = decoder_] {
+        const QImage image = decoder(path, edge).thumbnail.image;
+        QMetaObject::invokeMethod(
+            this, [this, path, edge, image] { Done(path, edge, image); }, Qt::QueuedConnection);
+    });
+}
+
+void PictureLoader::Done(const QString& path, int edge, const QImage& image) {
+    for (Known* known : {&wanted_, &expected_}) {
+        if (!known->Is(path, edge) || known->read) continue;
+        known->image = image;
+        known->read = true;
+        if (known == &wanted_) Q_EMIT loaded(path, image);
+    }
+}
+
+}  // namespace vorlane::editor

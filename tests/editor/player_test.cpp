@@ -1,0 +1,205 @@
+// Playing a show: through the player's own window, and from the editor's.
+#include "editor/navigator.h"
+#include "editor/show.h"
+#include "editor/showfile.h"
+#include "editor/showplayer.h"
+#include "editor/strip.h"
+#include "tests/editor/windowfixture.h"
+#include "timeline/etimeline.h"
+
+#include <QtEndian>
+
+namespace vorlane::editor {
+namespace {
+
+class SilentChannel final : public SoundChannel {
+public:
+    explicit SilentChannel(QStringList& played) : played_(played) {}
+    void play(const QString& path, qint64, bool) override { played_.push_back(QFileInfo(path).fileName()); }
+    void stop() override {}
+    void setPaused(bool) override {}
+    void setVolume(int) override {}
+
+private:
+    QStringList& played_;
+};
+
+// One second of silence.
+QByteArray Wave() {
+    constexpr quint32 kRate = 8000;
+    QByteArray bytes("RIFF----WAVEfmt ----------------------data----");
+    const auto put = [&bytes](int at, auto value) { qToLittleEndian(value, bytes.data() + at); };
+    put(4, quint32{36 + kRate});
+    bytes.resize(44);
+    put(16, quint32{16});
+    put(20, quint16{1});
+    put(22, quint16{1});
+    put(24, kRate);
+    put(28, kRate);
+    put(32, quint16{1});
+    put(34, quint16{8});
+    bytes.replace(36, 4, "data");
+    put(40, kRate);
+    return bytes + QByteArray(kRate, '\x80');
+}
+
+class PlayerTest : public WindowFixture {
+protected:
+    PlayerTest() {
+        window_->setSoundChannels([this] { return std::make_unique<SilentChannel>(played_); });
+    }
+    ShowPlayer& Player() { return *window_->player(); }
+    // Whether the player comes to show a picture of that colour, all of it.
+    bool Shows(QColor color) {
+        return test::WaitFor([&] {
+            PlayerWindow& player = Player().window();
+            if (player.picture().isNull() || player.fade() < 1) return false;
+            const QColor seen = player.grab().toImage().pixelColor(player.rect().center());
+            return std::abs(seen.red() - color.red()) < 6 && std::abs(seen.blue() - color.blue()) < 6;
+        });
+    }
+    void PressInPlayer(int key) { QTest::keyClick(&Player().window(), static_cast<Qt::Key>(key)); }
+    bool OpenColors() {
+        pictures_.WritePicture("a.jpg", Qt::red);
+        pictures_.WritePicture("b.jpg", Qt::blue);
+        pictures_.WritePicture("c.jpg", Qt::red);
+        return Open(Folder());
+    }
+
+    QStringList played_;
+};
+
+TEST_F(PlayerTest, PlaysOnTheWholeScreenFromTheCurrentSlideOn) {
+    ASSERT_TRUE(OpenColors());
+    window_->navigator().setCurrent(1);
+    window_->play();
+    EXPECT_TRUE(Player().window().isFullScreen());
+    EXPECT_EQ(Player().playback().slide(), 1);
+    EXPECT_TRUE(Shows(Qt::blue));
+    Player().playback().advance(5000);
+    EXPECT_EQ(Player().playback().slide(), 2);
+    EXPECT_TRUE(Shows(Qt::red));
+}
+
+TEST_F(PlayerTest, OnePictureFadesIntoTheNext) {
+    ASSERT_TRUE(OpenColors());
+    window_->playFromStart();
+    ASSERT_TRUE(Shows(Qt::red));
+    bool between = false;
+    QObject::connect(Player().window().findChild<QVariantAnimation*>(), &QVariantAnimation::valueChanged, window_.get(),
+                     [&] { between = between || (Player().window().fade() > 0 && Player().window().fade() < 1); });
+    PressInPlayer(Qt::Key_Right);
+    EXPECT_TRUE(Shows(Qt::blue));
+    EXPECT_TRUE(between);
+}
+
+TEST_F(PlayerTest, KeysStepPauseAndEnd) {
+    ASSERT_TRUE(OpenColors());
+    window_->playFromStart();
+    PressInPlayer(Qt::Key_Right);
+    EXPECT_EQ(Player().playback().slide(), 1);
+    PressInPlayer(Qt::Key_Left);
+    EXPECT_EQ(Player().playback().slide(), 0);
+    PressInPlayer(Qt::Key_Space);
+    EXPECT_FALSE(Player().playback().isPlaying());
+    PressInPlayer(Qt::Key_Space);
+    EXPECT_TRUE(Player().playback().isPlaying());
+    QTest::mouseClick(&Player().window(), Qt::LeftButton);
+    EXPECT_EQ(Player().playback().slide(), 1);
+    PressInPlayer(Qt::Key_Escape);
+    EXPECT_FALSE(Player().playback().isActive());
+    EXPECT_FALSE(Player().window().isVisible());
+    EXPECT_EQ(window_->navigator().current(), 1);
+}
+
+TEST_F(PlayerTest, EndsByItselfAfterTheLastPicture) {
+    ASSERT_TRUE(OpenColors());
+    window_->navigator().setCurrent(2);
+    window_->play();
+    Player().playback().advance(5000);
+    EXPECT_FALSE(Player().window().isVisible());
+    EXPECT_EQ(window_->navigator().current(), 2);
+}
+
+TEST_F(PlayerTest, APictureThatIsGoneIsNamedAndThePlayGoesOn) {
+    ASSERT_TRUE(OpenColors());
+    ASSERT_TRUE(QFile::remove(pictures_.Path("b.jpg")));
+    window_->playFromStart();
+    ASSERT_TRUE(Shows(Qt::red));
+    PressInPlayer(Qt::Key_Right);
+    EXPECT_TRUE(test::WaitFor([this] { return Player().window().picture().isNull(); }));
+    PressInPlayer(Qt::Key_Right);
+    EXPECT_TRUE(Shows(Qt::red));
+}
+
+TEST_F(PlayerTest, TheSoundsOfTheShowArePlayed) {
+    SavedShow show;
+    for (const char* name : {"a.jpg", "b.jpg"}) show.pictures.push_back(pictures_.WritePicture(name));
+    show.sounds = {{SoundKind::Music, 0, pictures_.Path("song.wav")},
+                   {SoundKind::Comment, 1, pictures_.Path("one.wav")}};
+    const QString path = pictures_.Path("s.vorlane");
+    ASSERT_EQ(SaveShow(path, show), "");
+    ASSERT_TRUE(window_->openShow(path) && Settle());
+    window_->playFromStart();
+    EXPECT_EQ(played_, QStringList("song.wav"));
+    Player().playback().advance(5000);
+    EXPECT_EQ(played_, QStringList({"song.wav", "one.wav"}));
+}
+
+TEST_F(PlayerTest, TheStripFollows) {
+    ASSERT_TRUE(OpenColors());
+    window_->navigator().setCurrent(1);
+    const auto triangles = [this] {
+        const std::string drawn = window_->strip().timeline().Surface().dump();
+        return QString::fromStdString(drawn).count("Polygon");
+    };
+    const auto before = triangles();
+    window_->play();
+    EXPECT_GT(triangles(), before);
+    Player().playback().advance(2000);
+    EXPECT_EQ(Player().playback().second(), 7);
+    EXPECT_GT(triangles(), before);
+    PressInPlayer(Qt::Key_Escape);
+    EXPECT_EQ(triangles(), before);
+}
+
+TEST_F(PlayerTest, NothingToPlayIsTold) {
+    window_->play();
+    EXPECT_EQ(window_->player(), nullptr);
+    EXPECT_EQ(Status(), QString::fromUtf8("Il n'y a aucune image à lire"));
+}
+
+// --- The real channel ---
+
+TEST_F(PlayerTest, ASoundComesToItsEnd) {
+    MediaChannel channel;
+    bool finished = false;
+    QObject::connect(&channel, &SoundChannel::finished, [&finished] { finished = true; });
+    channel.setVolume(50);
+    channel.play(pictures_.Write("a.wav", Wave()), 0, false);
+    EXPECT_TRUE(test::WaitFor([&finished] { return finished; }));
+}
+
+TEST_F(PlayerTest, ASoundThatIsOverByThenEndsAtOnce) {
+    MediaChannel channel;
+    bool finished = false;
+    QObject::connect(&channel, &SoundChannel::finished, [&finished] { finished = true; });
+    channel.play(pictures_.Write("a.wav", Wave()), 60000, false);
+    EXPECT_TRUE(test::WaitFor([&finished] { return finished; }));
+}
+
+TEST_F(PlayerTest, ASoundThatCannotBePlayedIsTold) {
+    for (const QString& path : {pictures_.Path("none.wav"), pictures_.Write("bad.wav", "no sound")}) {
+        MediaChannel channel;
+        QString failed;
+        bool finished = false;
+        QObject::connect(&channel, &SoundChannel::failed, [&failed](const QString& which) { failed = which; });
+        QObject::connect(&channel, &SoundChannel::finished, [&finished] { finished = true; });
+        channel.play(path, 0, false);
+        EXPECT_TRUE(test::WaitFor([&finished] { return finished; })) << path.toStdString();
+        EXPECT_EQ(failed, path);
+    }
+}
+
+}  // namespace
+}  // namespace vorlane::editor
