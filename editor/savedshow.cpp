@@ -109,10 +109,12 @@ QString PlaceOf(QLatin1String array, qsizetype index) {
     return QStringLiteral("%1[%2]").arg(array).arg(index);
 }
 
-// An absolute, clean path of a file; what can't name one is damage.
+// An absolute, clean path of a file; what can't name one is damage. A name that begins with a colon is one of the folder,
+// though Qt would take it for a resource of the program.
 QString FileAt(const QString& text, const QDir& base, const QString& place) {
     if (text.isEmpty() || text.contains(QChar::Null)) throw Damage{place};
-    return QDir::cleanPath(base.absoluteFilePath(text));
+    const QString path = text.startsWith(u':') ? QStringLiteral("./") + text : text;
+    return QDir::cleanPath(base.absoluteFilePath(path));
 }
 
 SortOrder OrderOf(const Members& members) {
