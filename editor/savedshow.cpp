@@ -109,8 +109,8 @@ QString PlaceOf(QLatin1String array, qsizetype index) {
     return QStringLiteral("%1[%2]").arg(array).arg(index);
 }
 
-// An absolute, clean path of a file; what can't name one is damage. A name that begins with a colon is one of the folder,
-// though Qt would take it for a resource of the program.
+// An absolute, clean path of a file; what can't name one is damage. A name that begins with a colon is one of the
+// folder, though Qt would take it for a resource of the program.
 QString FileAt(const QString& text, const QDir& base, const QString& place) {
     if (text.isEmpty() || text.contains(QChar::Null)) throw Damage{place};
     const QString path = text.startsWith(u':') ? QStringLiteral("./") + text : text;
