@@ -46,7 +46,8 @@ void Vorlane::ConnectSlideDrags(const sheet::SlideMember& member) {
     sheet::Hear(events.OLESetData, member, [this](DataObject& data, int16_t& format) {
         if (!internalDrag_) Events.OLESetData(data, format);
     });
-    sheet::Hear(events.OLECompleteDrag, member, [this](int32_t& effect) { SlideCompleteDrag(effect); });
+    // A drag ends for the sheet also when its slide has gone meanwhile.
+    events.OLECompleteDrag.connect([this](int32_t& effect) { SlideCompleteDrag(effect); });
 }
 
 void Vorlane::ConnectGroundDrags() {

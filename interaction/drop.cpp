@@ -103,10 +103,10 @@ int32_t Vorlane::MoveFiles(ListBox& list, const std::vector<DraggedFile>& files)
     };
     const int32_t count = list.ListCount();
     selection_.CurrentSlot = -1;
+    drag_.Moved = true;
     RemoveAllSelected();
     const auto gone = static_cast<size_t>(count - list.ListCount());
     const size_t first = files.size() == items.size() ? files.size() - gone : 0;
-    drag_.Moved = true;
     std::exception_ptr failed;
     int32_t next = ToInt32(Max(0, place - before(place)));
     for (size_t i = first; i < files.size(); ++i) {

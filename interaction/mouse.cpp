@@ -132,6 +132,7 @@ void Vorlane::LeaveOnlySelected(int16_t index) {
 
 void Vorlane::Toggle(int16_t index) {
     const auto slide = Diapo.Item(index);
+    if (slide->Value() < 0) return;  // its item has gone at a yield
     const bool selected = !slide->Selected();
     TakeMarkFromOthers(index);
     Select(*slide, selected ? selection_.BackColorCurrent : selection_.SelectedColor, selected);

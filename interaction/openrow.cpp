@@ -103,11 +103,15 @@ void Vorlane::DragRestoreLig(int16_t row) {
     GuardVoid(restore, "DragRestoreLig", row);
 }
 
-// The mark goes, and all slides of the open row go home, also where it is still opening.
+// The mark goes, and all slides of the open row go home, also where it is still opening, and where they are another
+// row's by now.
 void Vorlane::CloseRow() {
     ++drag_.Ends;
     ImgDrag.SetVisible(false);
     DragRestoreLig(drag_.OpenRow);
+    ForEachSlide([](eDiapoLight& slide) {
+        if (slide.Left() != slide.Col()) slide.Move(slide.Col(), slide.Top());
+    });
     drag_.OpenRow = droprow::kNoRow;
 }
 

@@ -116,6 +116,7 @@ void Vorlane::EndEdit(bool& cancel, MsgBoxObject* msgBox) {
     if (*slot < 0 || *slot >= Diapo.Count()) return;
     if (cancel) return CloseEdit("", "", true);
     const int32_t item = Diapo.Item(*slot)->Value();
+    if (item < 0) return CloseEdit("", "", true);
     const std::string oldPath = ItemFullPath(item);
     const std::string oldName = NameIn(oldPath);
     const std::string typed = Txt.Text();

@@ -72,12 +72,15 @@ MemoryListBox* Vorlane::UnwatchedList() const {
     return dynamic_cast<MemoryListBox*>(&Bound());
 }
 
-// What has come in at a yield may have left slides behind: they follow the list.
+// What has come in at a yield may have left slides behind: they follow the list, and the mark follows the current item.
 void Vorlane::ShowSelection() {
     ForEachSlide([this](eDiapoLight& slide) {
-        if (slide.Value() < 0) return;
+        if (slide.Value() < 0 || slide.Value() >= ListCount()) return;
         const bool selected = Bound().Selected(slide.Value());
-        if (slide.Selected() != selected) Select(slide, GroundOf(slide.Value()), selected);
+        const bool marked = slide.BackColor() == selection_.BackColorCurrent;
+        const bool current = slide.Value() == selection_.CurrentListIndex;
+        const bool follows = slide.Selected() == selected && (!selected || marked == current);
+        if (!follows) Select(slide, GroundOf(slide.Value()), selected);
     });
 }
 

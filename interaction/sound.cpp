@@ -39,8 +39,9 @@ int32_t Vorlane::CanalOf(bool comment) const {
 
 // --- Clicks ---
 
-// A click on another item's button silences both channels, also when the host then plays nothing. A sound that can't be
-// played turns the button all the same; the next tick turns it back.
+// A click on another item's button silences both channels, also when the host then plays nothing. What still plays on
+// the channel gives way in any case. A sound that can't be played turns the button all the same; the next tick turns it
+// back.
 void Vorlane::SlideClickPlay(int16_t index, bool comment) {
     const auto click = [&] {
         const int32_t item = Diapo.Item(index)->Value();
@@ -54,6 +55,8 @@ void Vorlane::SlideClickPlay(int16_t index, bool comment) {
         int32_t button = ButtonOf(comment);
         Events.ClickPlay(index, file, button, CanalOf(comment), play, alias);
         if (file.empty()) return;
+        const std::string before = sound_.Of(comment).Alias;
+        if (Desktop().sounds.IsOpen(before) && (play || alias != before)) StopSoundInt(comment, -1);
         sound_.PlayingListIndex = item;
         if (play) {
             const auto start = [&] { return Desktop().sounds.Play(file, CanalOf(comment), kFullVolume); };

@@ -28,7 +28,7 @@ bool Vorlane::Stands(const ListBox& list, const Doomed& doomed) const {
 // Announces an item, unless a drag only moves the selection, and takes it out. Gives whether it has gone.
 bool Vorlane::TakeOut(ListBox& list, const Doomed& doomed, int16_t index) {
     if (!Stands(list, doomed)) return false;
-    const bool moves = index < 0 && internalDrag_;
+    const bool moves = index < 0 && internalDrag_ && drag_.Moved;
     if (!moves) {
         int32_t key = list.ItemData(doomed.Index);
         Events.Removed(index, key);
@@ -83,9 +83,10 @@ void Vorlane::Renumber(int32_t removed) {
 }
 
 // Moves the looks behind a slide up by one, with a yield after each; the last look then stands twice. Gives false when
-// the slides have changed at a yield.
+// the slides or the number of items have changed at a yield.
 bool Vorlane::CloseUp(int16_t index) {
     const int32_t slides = Diapo.Count();
+    const int32_t items = ListCount();
     for (int16_t k = index; k < slides - 1; ++k) {
         const auto behind = ToInt16(k + 1);
         CopyDiapo(behind, k);
@@ -93,7 +94,7 @@ bool Vorlane::CloseUp(int16_t index) {
         Desktop().clock.DoEvents();
         const bool stands =
             Diapo.Count() == slides && Diapo.Item(k)->Value() == shown && Diapo.Item(behind)->Value() == shown;
-        if (!stands) return false;
+        if (!stands || ListCount() != items) return false;
     }
     return true;
 }
@@ -148,7 +149,7 @@ void Vorlane::RemoveAllSelected() {
         const int32_t fills = pass_.Fills;
         const int64_t left = int64_t{list->ListCount()} - static_cast<int64_t>(items.size());
         const bool complete = TakeOutAll(*list, items);
-        if (internalDrag_) return;
+        if (internalDrag_ && drag_.Moved) return;  // the drop shows the list
         InitVScroll(false);
         const bool cleared = before.Top >= 0 && First().Value() < 0;
         const bool undisturbed = complete && fills == pass_.Fills && ListCount() == left;

@@ -72,7 +72,8 @@ void UserDrag::Leave() {
 void UserDrag::Drop() {
     if (ended_) return;
     ended_ = true;
-    if (window_ == nullptr || effect_ == 0) return Leave();
+    const bool over = window_ != nullptr && window_->PointAt(x_, y_, shift_);  // the window may have shrunk meanwhile
+    if (!over || effect_ == 0) return Leave();
     int32_t effect = effect_;
     std::exchange(window_, nullptr)->Router().DragDrop(data_, effect, 0, shift_, x_, y_);
     effect_ = effect & allowed_;

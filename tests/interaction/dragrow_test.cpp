@@ -172,5 +172,65 @@ TEST_F(DragTest, ADragFromOutsideScrollsWithEachMove) {
     EXPECT_FALSE(sheet->TimerDrag.Enabled());
 }
 
+// --- What happens to the sheet meanwhile ---
+
+TEST_F(DragTest, AnotherGridLeavesNoSlideOfTheOldRowAside) {
+    ShowDraggable(30);
+    DragSlide(1, [&](UserDrag& drag) {
+        Over(drag, 4, 0.2F);
+        ASSERT_NE(Lefts(3, 5), "5 111 217");
+        window.Resize(240, kHeight);
+        desktop.clock.Advance(300);
+        drag.Escape();
+    });
+    for (int32_t k = 0; k < sheet->Diapo.Count(); ++k) {
+        EXPECT_EQ(sheet->Diapo.Item(k)->Left(), sheet->Diapo.Item(k)->Col()) << "slide " << k;
+    }
+    EXPECT_EQ(Mark(), "hidden");
+}
+
+TEST_F(DragTest, ASheetThatHasShrunkAwayFromThePointerTakesNoDrop) {
+    ShowDraggable(30);
+    const int32_t count = sheet->Count();
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    Over(drag, 2, 0.8F);
+    window.Resize(240, kHeight);
+    drag.Drop();
+    EXPECT_EQ(sheet->Count(), count);
+    EXPECT_EQ(Mark(), "hidden");
+    EXPECT_EQ(Lefts(0, 1), "5 111");
+}
+
+TEST_F(DragTest, ASlideThatHasGoneMeanwhileEndsItsDragAllTheSame) {
+    ShowDraggable(9);
+    DragSlide(4, [&](UserDrag& drag) {
+        Over(drag, 1, 0.2F);
+        sheet->Clear();
+        drag.Escape();
+    });
+    EXPECT_THAT(Told(), testing::HasSubstr("ole CompleteDrag 0\n"));
+    EXPECT_FALSE(sheet->TimerDrag.Enabled());
+    EXPECT_EQ(desktop.forms.OpenForms(), 0) << "the ghost";
+    AddItems(0, 8);
+    sheet->StartLecture();
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    Over(drag, 1, 0.2F);
+    EXPECT_EQ(drag.Effect(), 1) << "a copy: no drag of the sheet's own runs any more";
+}
+
+TEST_F(DragTest, AHostThatRemovesTheSelectionDuringADragIsServedAsEver) {
+    ShowDraggable(12);
+    DragSlide(1, [&](UserDrag& drag) {
+        Over(drag, 4, 0.2F);
+        desktop.trace.Clear();
+        sheet->RemoveAllSelected();
+        EXPECT_THAT(Heard(), testing::StartsWith("host Removed -1 key 1001\n"));
+        EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+        ExpectSlidesAgreeWithList();
+        drag.Escape();
+    });
+    EXPECT_EQ(sheet->Count(), 11);
+}
+
 }  // namespace
 }  // namespace vorlane

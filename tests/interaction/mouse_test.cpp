@@ -172,5 +172,15 @@ TEST_F(MouseTest, AHostMaySwallowAKey) {
     EXPECT_EQ(code, 0);
 }
 
+TEST_F(MouseTest, APressWhoseItemGoesAtItsYieldSelectsNothing) {
+    Show(9);
+    for (const int32_t item : {3, 4}) sheet->LstInterne.SetSelected(item, true);
+    sheet->StartLecture();
+    desktop.clock.AtYield(1, [this] { sheet->Clear(); });
+    Click(0);
+    EXPECT_EQ(States(), "-");
+    EXPECT_EQ(sheet->CountSelected(), 0);
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -415,5 +415,15 @@ TEST_F(RenameTest, RenameDiapoOfASlideThatIsNotThereChangesNothing) {
     EXPECT_EQ(sheet->ImageFullPath(1), Path("Yack.jpg"));
 }
 
+TEST_F(RenameTest, AnEditOfASlideWhoseItemHasGoneIsCanceled) {
+    Type("Aube");
+    sheet->Clear();
+    Heard();
+    Enter();
+    EXPECT_THAT(Heard(), testing::StartsWith("host AfterEdit [] [] canceled\n"));
+    EXPECT_FALSE(sheet->Txt.Visible());
+    EXPECT_TRUE(Exists(Path("Zebre.jpg")));
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -261,5 +261,30 @@ TEST_F(SoundTest, TheTextButtonIsToldAndNothingElse) {
     EXPECT_EQ(Happened(), "sounds ClickText 4\n");
 }
 
+// It has fallen silent, and the tick that would close it has not come.
+TEST_F(SoundTest, WhatIsStillOpenOnTheChannelGivesWayToWhatTheSameItemPlaysNext) {
+    ClickMusic(2);
+    desktop.sounds.End("son1");
+    Happened();
+    ClickMusic(2);
+    EXPECT_EQ(Happened(),
+              "sounds ClickPlay 2 button 0 canal 11 []\nsound stop son1\nsound play /s/a.mp3 on 11 at 100 as son2\n");
+    EXPECT_EQ(Music(2), "stop");
+    EXPECT_EQ(desktop.sounds.OpenSounds(), 1);
+    sheet->StopSound();
+}
+
+TEST_F(SoundTest, WhatIsStillOpenOnTheChannelGivesWayToTheHostsOwnSound) {
+    ClickMusic(2);
+    desktop.sounds.End("son1");
+    plays = false;
+    ownAlias = "mine";
+    ClickMusic(2);
+    EXPECT_EQ(desktop.sounds.OpenSounds(), 0);
+    EXPECT_EQ(sheet->AliasMusic(), "mine");
+    EXPECT_EQ(Music(2), "stop");
+    sheet->StopSound();
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -167,6 +167,41 @@ TEST_F(YieldTest, AnotherRemovalBehindTakesTheItemThatItsSlideShows) {
     EXPECT_EQ(sheet->LstInterne.FindItemData(1018), -1);
 }
 
+TEST_F(YieldTest, AnotherRemovalOfAnySlideTakesTheItemThatItShows) {
+    for (int32_t n = 1; n <= 6; ++n) {
+        for (int16_t slot = 0; slot < 9; ++slot) {
+            SCOPED_TRACE(std::to_string(n) + ", slide " + std::to_string(slot));
+            std::string gone;
+            RemoveWith(n, [&] {
+                gone = sheet->ImageFullPath(sheet->Diapo.Item(slot)->Value());
+                sheet->Remove(slot);
+            });
+            EXPECT_EQ(sheet->Count(), 38);
+            for (int32_t i = 0; i < sheet->Count(); ++i) EXPECT_NE(sheet->ImageFullPath(i), gone);
+            sheet->Clear();
+        }
+    }
+}
+
+TEST_F(YieldTest, ASlideThatBecomesCurrentIsTheOnlyOneWithTheMark) {
+    for (int32_t n = 1; n <= 6; ++n) {
+        for (int16_t slot = 0; slot < 8; ++slot) {
+            SCOPED_TRACE(std::to_string(n) + ", slide " + std::to_string(slot));
+            int32_t current = -1;
+            RemoveWith(n, [&] {
+                current = sheet->Diapo.Item(slot)->Value();
+                sheet->SetSelected(slot, true);
+            });
+            for (int32_t k = 0; k < sheet->Diapo.Count(); ++k) {
+                const auto slide = sheet->Diapo.Item(k);
+                const bool marked = slide->Selected() && slide->BackColor() == sheet->BackColorCurrent();
+                EXPECT_EQ(marked, slide->Value() == current) << "slide " << k;
+            }
+            sheet->Clear();
+        }
+    }
+}
+
 TEST_F(YieldTest, ASortIsKept) {
     RemoveWith(3, [this] { sheet->Sort(); });
     EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
@@ -187,6 +222,15 @@ TEST_F(YieldTest, UnloadedSlidesAreFilledAnew) {
         for (int32_t k = 8; k >= 4; --k) sheet->Diapo.Unload(k);
     });
     EXPECT_EQ(Slides(), "12 13 14 15 16 17 18 19 20");
+}
+
+TEST_F(RemovalTest, AnotherRemovalAtAYieldMayTakeTheLastItem) {
+    Show(2);
+    desktop.clock.AtYield(1, [this] { sheet->Remove(0); });
+    sheet->Remove(0);
+    EXPECT_EQ(sheet->Count(), 0);
+    EXPECT_EQ(Slides(), "(.)");
+    ExpectNoError();
 }
 
 TEST_F(RemovalTest, AnEndedSheetAtAYieldIsAFailure) {
