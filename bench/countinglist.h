@@ -41,6 +41,7 @@ public:
         ++lookUps;
         return items_.FindItemData(data);
     }
+    uint64_t DataState() const override { return items_.DataState(); }
     int32_t NewIndex() const override { return items_.NewIndex(); }
     bool Sorted() const override { return items_.Sorted(); }
 

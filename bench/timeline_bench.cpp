@@ -119,6 +119,21 @@ void PaintLongShow(benchmark::State& state) {
 }
 BENCHMARK(PaintLongShow)->Unit(benchmark::kMicrosecond);
 
+// Fills the show of an attached sheet, from its end to its beginning.
+void AddSounds(benchmark::State& state) {
+    const auto count = static_cast<int32_t>(state.range(0));
+    const SoundFile file;
+    Bench bench(count, kLongWidth, 0, 0);
+    bench.desktop.sounds.Add(file.Path(), 4);
+    for (auto _ : state) {
+        for (int32_t n = count - 1; n >= 0; --n) bench.line.Musiques()->Add(file.Path(), 1000 + n);
+        state.PauseTiming();
+        bench.line.Musiques()->Clear();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(AddSounds)->Arg(100)->Arg(kLongShow)->Unit(benchmark::kMillisecond);
+
 void SoundOfASlide(benchmark::State& state) {
     Bench bench(10, kLongWidth, static_cast<int32_t>(state.range(0)), 0);
     const auto sounds = bench.line.Musiques()->CollectItem();

@@ -54,6 +54,9 @@ public:
     virtual void SetItemData(int32_t index, int32_t data) = 0;
     // First index whose ItemData is data, -1 for none.
     virtual int32_t FindItemData(int32_t data) const = 0;
+    // Names what ItemData gives for all the items in their order: as long as this stays the same number, that stays the
+    // same, and no two lists have the same one. 0 from a list that doesn't tell.
+    virtual uint64_t DataState() const { return 0; }
     // Index of the item added last, -1 when there is none.
     virtual int32_t NewIndex() const = 0;
     // The list keeps itself in text order.

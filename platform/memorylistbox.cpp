@@ -2,6 +2,8 @@
 
 #include "platform/failure.h"
 
+#include <atomic>
+
 namespace vorlane {
 
 namespace {
@@ -19,6 +21,13 @@ bool HoldsEveryIndexOnce(std::span<const int32_t> order, int32_t count) {
 }
 
 }  // namespace
+
+// Room for more changes than a list lives to see.
+uint64_t MemoryListBox::FirstState() {
+    constexpr uint64_t kChanges = uint64_t{1} << 40;
+    static std::atomic<uint64_t> lists{0};
+    return ++lists * kChanges;
+}
 
 std::string MemoryListBox::List(int32_t index) const {
     CheckIndex(index);
@@ -53,6 +62,7 @@ void MemoryListBox::AddItem(std::string_view text, int32_t index) {
     if (index < 0 || index > ListCount()) throw failures::SubscriptOutOfRange();
     if (ListCount() == ItemBlocks::MaxCount) throw failures::OutOfMemory();
     items_.Insert(index, text);
+    ++state_;
     newIndex_ = index;
     if (listIndex_ >= index) ++listIndex_;
 }
@@ -60,6 +70,7 @@ void MemoryListBox::AddItem(std::string_view text, int32_t index) {
 void MemoryListBox::RemoveItem(int32_t index) {
     CheckIndex(index);
     items_.Remove(index);
+    ++state_;
     newIndex_ = -1;
     if (listIndex_ == index) {
         listIndex_ = -1;
@@ -70,6 +81,7 @@ void MemoryListBox::RemoveItem(int32_t index) {
 
 void MemoryListBox::Clear() {
     items_ = ItemBlocks();
+    ++state_;
     listIndex_ = -1;
     newIndex_ = -1;
 }
@@ -87,6 +99,7 @@ int32_t MemoryListBox::ItemData(int32_t index) const {
 void MemoryListBox::SetItemData(int32_t index, int32_t data) {
     CheckIndex(index);
     items_.SetKey(index, data);
+    ++state_;
 }
 
 int32_t MemoryListBox::FindItemData(int32_t data) const {
@@ -96,6 +109,7 @@ int32_t MemoryListBox::FindItemData(int32_t data) const {
 void MemoryListBox::Reorder(std::span<const int32_t> order) {
     if (!HoldsEveryIndexOnce(order, ListCount())) throw failures::InvalidCall();
     items_.Reorder(order);
+    ++state_;
     listIndex_ = -1;
     newIndex_ = ListCount() - 1;
 }

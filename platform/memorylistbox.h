@@ -16,6 +16,8 @@ namespace vorlane {
 class MemoryListBox final : public ListBox {
 public:
     explicit MemoryListBox(vorlane::Hwnd handle) : handle_(handle) {}
+    MemoryListBox(const MemoryListBox&) = delete;
+    MemoryListBox& operator=(const MemoryListBox&) = delete;
 
     int32_t ListCount() const override { return items_.Count(); }
     std::string List(int32_t index) const override;
@@ -41,6 +43,7 @@ public:
     // The first look-up of a list walks over it once, the following ones don't. One that follows the removal of the
     // first of several items with the same data walks too.
     int32_t FindItemData(int32_t data) const override;
+    uint64_t DataState() const override { return state_; }
     // -1 also after a removal.
     int32_t NewIndex() const override { return newIndex_; }
     bool Sorted() const override { return false; }
@@ -63,11 +66,13 @@ public:
 
 private:
     void CheckIndex(int32_t index) const;
+    static uint64_t FirstState();
 
     vorlane::Hwnd handle_;
     ItemBlocks items_;
     int32_t listIndex_ = -1;
     int32_t newIndex_ = -1;
+    uint64_t state_ = FirstState();
     float width_ = 0;
 };
 

@@ -24,6 +24,34 @@ int32_t ClsSon::NumDiapo(int32_t key) {
     return numDiapo_;
 }
 
+void ClsSon::AnswerNumDiapo(std::function<int32_t(int32_t key)> answer, std::function<uint64_t()> state) {
+    answer_ = std::move(answer);
+    state_ = std::move(state);
+    known_ = {};
+}
+
+const std::vector<int32_t>* ClsSon::KnownNumbers() {
+    const uint64_t state = answer_ && state_ ? state_() : 0;
+    if (state == 0) return nullptr;
+    const bool good = known_.State == state && known_.Revision == sounds_->Revision();
+    if (good) return &known_.Numbers;
+    known_ = {state, sounds_->Revision(), {}};
+    for (int32_t i = 1; i <= Count(); ++i) known_.Numbers.push_back(answer_(sounds_->Item(i).DiapoKey));
+    return &known_.Numbers;
+}
+
+// A sound has come to a place of a list whose numbers were known.
+void ClsSon::KeepKnown(int32_t diapoKey, size_t place) {
+    known_.Numbers.insert(known_.Numbers.begin() + static_cast<std::ptrdiff_t>(place), answer_(diapoKey));
+    known_.Revision = sounds_->Revision();
+}
+
+// Leaves the list to its holders.
+void ClsSon::Begin() {
+    sounds_ = std::make_shared<SonCollection>();
+    known_ = {};
+}
+
 void ClsSon::FollowDisplay() {
     Events.csGetRedraw(redraw_);
     if (redraw_) Events.csRepaint();
@@ -50,12 +78,24 @@ void ClsSon::Add(const std::string& soundFileName, int32_t diapoKey, int32_t dia
 }
 
 void ClsSon::Place(const tSon& son, int32_t diapoValue) {
-    const std::optional<int32_t> before = FirstBehind(son.DiapoKey, diapoValue);
+    const bool known = OnlyOwnerAnswers() && KnownNumbers() != nullptr;
+    const std::optional<int32_t> before =
+        known ? FirstKnownBehind(son.DiapoKey, diapoValue) : FirstBehind(son.DiapoKey, diapoValue);
     if (before) {
         sounds_->Add(son, KeyText(son.DiapoKey), *before);
     } else {
         sounds_->Add(son, KeyText(son.DiapoKey));
     }
+    if (known) KeepKnown(son.DiapoKey, static_cast<size_t>(before.value_or(Count())) - 1);
+}
+
+// The same as FirstBehind without a question for each sound.
+std::optional<int32_t> ClsSon::FirstKnownBehind(int32_t diapoKey, int32_t diapoValue) const {
+    const int32_t wanted = diapoValue == -1 ? answer_(diapoKey) : diapoValue;
+    const std::vector<int32_t>& numbers = known_.Numbers;
+    const auto stop = std::find_if(numbers.begin(), numbers.end(), [&](int32_t n) { return n == -1 || n > wanted; });
+    if (wanted == -1 || stop == numbers.end() || *stop == -1) return std::nullopt;
+    return static_cast<int32_t>(stop - numbers.begin()) + 1;
 }
 
 // Index of the first sound on a later slide than the wanted one; nothing when a slide without a number comes first.
@@ -72,9 +112,9 @@ std::optional<int32_t> ClsSon::FirstBehind(int32_t diapoKey, int32_t diapoValue)
 }
 
 void ClsSon::Sort() {
-    const auto old = std::exchange(sounds_, std::make_shared<SonCollection>());
-    const bool heard = !answer_ || Events.csGetNumDiapo.connected();
-    heard ? SortByEvents(*old) : SortByAnswers(*old);
+    const auto old = sounds_;
+    Begin();
+    OnlyOwnerAnswers() ? SortByAnswers(*old) : SortByEvents(*old);
 }
 
 void ClsSon::SortByEvents(const SonCollection& old) {
@@ -150,7 +190,7 @@ void ClsSon::RemoveFromName(const std::string& fileName) {
 }
 
 void ClsSon::Clear() {
-    sounds_ = std::make_shared<SonCollection>();
+    Begin();
     FollowDisplay();
 }
 

@@ -2,8 +2,9 @@
 // nothing of a sheet nor of a screen: it asks its owner through events where a slide stands and whether the display
 // follows, and the owner answers before the event returns. What the owner leaves unanswered keeps the last answer.
 //
-// Add and Sort ask for the numbers of slides at each step of their scans. A sort whose questions only the owner
-// answers, by AnswerNumDiapo, comes to the same order with one question for each sound.
+// Add and Sort ask for the numbers of slides at each step of their scans. Where only the owner answers, by
+// AnswerNumDiapo, a sort comes to the same order with one question for each sound; and where the owner tells, too, when
+// its answers may be others, the numbers are kept as long as they are good.
 #pragma once
 
 #include "platform/event.h"
@@ -17,6 +18,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace vorlane {
 
@@ -90,22 +92,38 @@ public:
     // The list itself. Clear and Sort leave it to its holders and begin another one.
     const std::shared_ptr<SonCollection>& CollectItem() const { return sounds_; }
     void SetTypeSon(int32_t type) { typeSon_ = type; }
-    // The owner's own answer to csGetNumDiapo, ahead of the event's handlers. It must not change the list.
-    void AnswerNumDiapo(std::function<int32_t(int32_t key)> answer) { answer_ = std::move(answer); }
+    // The owner's own answer to csGetNumDiapo, ahead of the event's handlers. It must not change the list. state names
+    // what the answers go by: all of them stay the same as long as it is the same number; 0 where that can't be told.
+    void AnswerNumDiapo(std::function<int32_t(int32_t key)> answer, std::function<uint64_t()> state = {});
+    // The owner's answers for all sounds, in their order; nullptr without a state. Good until the next call.
+    const std::vector<int32_t>* KnownNumbers();
 
     ClsSonEvents Events;
 
 private:
+    // The owner's answers, and what they go by.
+    struct Known {
+        uint64_t State = 0;
+        uint64_t Revision = 0;  // of the list
+        std::vector<int32_t> Numbers;
+    };
+
     int32_t NumDiapo(int32_t key);
+    bool OnlyOwnerAnswers() const { return answer_ && !Events.csGetNumDiapo.connected(); }
+    void Begin();
+    void KeepKnown(int32_t diapoKey, size_t place);
     void SortByEvents(const SonCollection& old);
     void SortByAnswers(const SonCollection& old);
     void Place(const tSon& son, int32_t diapoValue);
     std::optional<int32_t> FirstBehind(int32_t diapoKey, int32_t diapoValue);
+    std::optional<int32_t> FirstKnownBehind(int32_t diapoKey, int32_t diapoValue) const;
     void FollowDisplay();
 
     Trelmic6 utilities_;
     std::shared_ptr<SonCollection> sounds_ = std::make_shared<SonCollection>();
     std::function<int32_t(int32_t key)> answer_;
+    std::function<uint64_t()> state_;
+    Known known_;
     int32_t typeSon_ = 0;
     bool redraw_ = false;  // last answers of the owner
     int32_t numDiapo_ = 0;

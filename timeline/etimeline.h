@@ -349,7 +349,8 @@ private:
     // soundbars.cpp
     void PaintBars(const TimeScale& scale);
     void BuildBars(const TimeScale& scale);
-    void PlaceSound(Row& row, const tSon& son, const TimeScale& scale, bool& passed);
+    // position: of the sound's slide.
+    void PlaceSound(Row& row, const tSon& son, int32_t position, const TimeScale& scale, bool& passed);
     void AddBar(BarList& list, const tSon& son, int32_t start, const TimeScale& scale);
     void ExtendRepetitions(BarList& list);
     void SetRowTops();
@@ -375,6 +376,8 @@ private:
     // sheetlink.cpp
     void Follow(Row& row, SonType type, std::shared_ptr<ClsSon> sounds);
     Vorlane& Sheet() const;  // fails with ObjectNotSet()
+    // Names what PositionOf goes by, see ListBox::DataState.
+    uint64_t PositionsState() const;
     void SortSounds();
 
     Trelmic6 utilities_;

@@ -28,7 +28,7 @@ void eTimeLine::Follow(Row& row, SonType type, std::shared_ptr<ClsSon> sounds) {
     row.Heard.emplace_back(events.csGetDiapoIndex.connect([this](int32_t key, int16_t& diapoIndex) {
         diapoIndex = link_.Sheet == nullptr ? int16_t{-1} : link_.Sheet->GetIndexFromKey(key);
     }));
-    row.Sounds->AnswerNumDiapo([this](int32_t key) { return PositionOf(key); });
+    row.Sounds->AnswerNumDiapo([this](int32_t key) { return PositionOf(key); }, [this] { return PositionsState(); });
     row.Heard.emplace_back(events.csGetRedraw.connect([this](bool& redraw) { redraw = redraw_; }));
     row.Heard.emplace_back(events.csRemoveSound.connect(
         [this, type](int32_t key, int16_t diapoIndex) { Events.RemovedSound(type, key, diapoIndex); }));
@@ -46,6 +46,11 @@ Vorlane& eTimeLine::Sheet() const {
 
 int32_t eTimeLine::PositionOf(int32_t diapoKey) const {
     return link_.Sheet == nullptr ? -1 : link_.Sheet->GetListIndexFromItemData(diapoKey);
+}
+
+uint64_t eTimeLine::PositionsState() const {
+    ListControl* list = link_.Sheet == nullptr ? nullptr : link_.Sheet->Liste();
+    return list == nullptr || list->AsListBox() == nullptr ? 0 : list->AsListBox()->DataState();
 }
 
 void eTimeLine::AttachVorlane(Vorlane* sheet) {

@@ -25,6 +25,7 @@ void SonCollection::Insert(const tSon& son, const std::string& key, size_t place
     keys_.insert(entry->Key);
     byDiapoKey_.emplace(son.DiapoKey, entry.get());
     entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(place), std::move(entry));
+    ++revision_;
 }
 
 void SonCollection::Remove(int32_t index) {
@@ -33,6 +34,7 @@ void SonCollection::Remove(int32_t index) {
     byDiapoKey_.erase(std::find_if(first, last, [&](const auto& known) { return known.second == gone->get(); }));
     keys_.erase((*gone)->Key);
     entries_.erase(gone);
+    ++revision_;
 }
 
 int32_t SonCollection::FindDiapoKey(int32_t diapoKey) const {

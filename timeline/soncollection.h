@@ -31,6 +31,9 @@ public:
     int32_t FindDiapoKey(int32_t diapoKey) const;
     int32_t FindLowerName(std::string_view lowerName) const;
 
+    // Moves on with every change.
+    uint64_t Revision() const { return revision_; }
+
 private:
     struct Entry {
         tSon Son;
@@ -46,6 +49,7 @@ private:
     std::vector<std::unique_ptr<const Entry>> entries_;
     std::unordered_set<std::string_view> keys_;
     std::unordered_multimap<int32_t, const Entry*> byDiapoKey_;
+    uint64_t revision_ = 0;
 };
 
 }  // namespace vorlane

@@ -28,21 +28,27 @@ void eTimeLine::PaintBars(const TimeScale& scale) {
 void eTimeLine::BuildBars(const TimeScale& scale) {
     bool passedMusic = false;
     bool passedComment = false;
-    const auto place = [&](Row& row, int32_t i, bool& passed) {
-        const auto& sounds = row.Sounds->CollectItem();
-        if (i <= sounds->Count()) PlaceSound(row, sounds->Item(i), scale, passed);
+    const auto known = [](const Row& row) {
+        const std::vector<int32_t>* numbers = row.Sounds ? row.Sounds->KnownNumbers() : nullptr;
+        return numbers == nullptr ? std::vector<int32_t>() : *numbers;
     };
+    const auto place = [&](Row& row, const std::vector<int32_t>& positions, int32_t i, bool& passed) {
+        const tSon& son = row.Sounds->CollectItem()->Item(i);
+        const size_t at = static_cast<size_t>(i) - 1;
+        PlaceSound(row, son, at < positions.size() ? positions[at] : PositionOf(son.DiapoKey), scale, passed);
+    };
+    const std::vector<int32_t> musics = known(musics_);
+    const std::vector<int32_t> comments = known(comments_);
     const auto count = [](const Row& row) { return row.Sounds ? row.Sounds->Count() : 0; };
     musics_.Bars.clear();
     comments_.Bars.clear();
     for (int32_t i = std::max(count(musics_), count(comments_)); i >= 1; --i) {
-        if (i <= count(musics_)) Attempt([&] { place(musics_, i, passedMusic); });
-        if (i <= count(comments_)) Attempt([&] { place(comments_, i, passedComment); });
+        if (i <= count(musics_)) Attempt([&] { place(musics_, musics, i, passedMusic); });
+        if (i <= count(comments_)) Attempt([&] { place(comments_, comments, i, passedComment); });
     }
 }
 
-void eTimeLine::PlaceSound(Row& row, const tSon& son, const TimeScale& scale, bool& passed) {
-    const int32_t position = PositionOf(son.DiapoKey);
+void eTimeLine::PlaceSound(Row& row, const tSon& son, int32_t position, const TimeScale& scale, bool& passed) {
     if (position < 0) return;
     const int32_t start = timescale::Start(position, settings_.ExpositionTime);
     if (start >= scale.LastSecond) return;

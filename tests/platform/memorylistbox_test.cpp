@@ -4,6 +4,8 @@
 #include "plainitems.h"
 
 #include <numeric>
+#include <utility>
+#include <vector>
 
 namespace vorlane {
 namespace {
@@ -286,6 +288,36 @@ TEST_F(MemoryList, DoesAsAPlainListDoes) {
             ASSERT_EQ(Selection(), SelectedIndices(items));
         }
     }
+}
+
+TEST(MemoryListBoxDataState, MovesOnWithEveryChangeOfTheDataAndNothingElse) {
+    MemoryListBox list(1);
+    uint64_t state = list.DataState();
+    const auto moves = [&](auto&& change) {
+        change();
+        return std::exchange(state, list.DataState()) != list.DataState();
+    };
+    EXPECT_NE(state, 0U);
+    EXPECT_TRUE(moves([&] { list.AddItem("a"); }));
+    EXPECT_TRUE(moves([&] { list.AddItem("b", 0); }));
+    EXPECT_TRUE(moves([&] { list.SetItemData(0, 7); }));
+    EXPECT_TRUE(moves([&] { list.Reorder(std::vector<int32_t>{1, 0}); }));
+    EXPECT_TRUE(moves([&] { list.RemoveItem(0); }));
+    EXPECT_TRUE(moves([&] { list.Clear(); }));
+    list.AddItem("c");
+    state = list.DataState();
+    EXPECT_FALSE(moves([&] { list.SetList(0, "d"); }));
+    EXPECT_FALSE(moves([&] { list.SetSelected(0, true); }));
+    EXPECT_FALSE(moves([&] { list.FindItemData(0); }));
+}
+
+TEST(MemoryListBoxDataState, NoTwoListsHaveTheSame) {
+    MemoryListBox first(1);
+    MemoryListBox second(1);
+    EXPECT_NE(first.DataState(), second.DataState());
+    first.AddItem("a");
+    second.AddItem("a");
+    EXPECT_NE(first.DataState(), second.DataState());
 }
 
 }  // namespace

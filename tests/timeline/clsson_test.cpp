@@ -1,7 +1,9 @@
 #include "clssontest.h"
 #include "tests/platform/expectfailure.h"
 
+#include <map>
 #include <random>
+#include <vector>
 
 namespace vorlane {
 namespace {
@@ -101,6 +103,89 @@ TEST_F(ClsSonTest, WithoutAnswersTheLastOnesStand) {
     answering.disconnect();
     alone.Clear();
     EXPECT_EQ(repaints, 2);
+}
+
+// --- Numbers that are known ---
+
+// An owner that answers alone, tells what its answers go by and counts them.
+struct Owner {
+    explicit Owner(ClsSon& sounds) {
+        sounds.AnswerNumDiapo(
+            [this](int32_t key) {
+                ++asked;
+                return numbers.count(key) == 0 ? -1 : numbers[key];
+            },
+            [this] { return state; });
+    }
+    std::map<int32_t, int32_t> numbers;
+    uint64_t state = 1;
+    int asked = 0;
+};
+
+TEST_F(ClsSonTest, WhereTheOwnerTellsWhatItsAnswersGoByEachSoundIsAskedForOnce) {
+    ClsSon quiet(desktop.Roles());
+    Owner owner(quiet);
+    const std::string file = File();
+    for (int32_t key = 0; key < 100; ++key) {
+        owner.numbers[key] = 500 - key;
+        quiet.Add(file, key);
+    }
+    EXPECT_LE(owner.asked, 2 * 100);
+    owner.asked = 0;
+    ASSERT_NE(quiet.KnownNumbers(), nullptr);
+    EXPECT_EQ(quiet.KnownNumbers()->front(), 401);
+    EXPECT_EQ(owner.asked, 0);
+    owner.numbers[99] = 600;
+    EXPECT_EQ(quiet.KnownNumbers()->front(), 401) << "the owner has told of no change";
+    ++owner.state;
+    EXPECT_EQ(quiet.KnownNumbers()->front(), 600);
+    EXPECT_EQ(owner.asked, 100);
+    owner.state = 0;
+    EXPECT_EQ(quiet.KnownNumbers(), nullptr);
+}
+
+TEST_F(ClsSonTest, KnownNumbersFollowEveryChangeOfTheList) {
+    ClsSon quiet(desktop.Roles());
+    Owner owner(quiet);
+    const std::string file = File();
+    for (const int32_t key : {4, 2, 8}) {
+        owner.numbers[key] = key;
+        quiet.Add(file, key);
+    }
+    const auto known = [&] { return *quiet.KnownNumbers(); };
+    EXPECT_EQ(known(), (std::vector<int32_t>{2, 4, 8}));
+    quiet.Remove(4);
+    EXPECT_EQ(known(), (std::vector<int32_t>{2, 8}));
+    quiet.CollectItem()->Add(*quiet.Item(2), "x", 1);
+    EXPECT_EQ(known(), (std::vector<int32_t>{2, 2, 8}));
+    quiet.Clear();
+    EXPECT_EQ(known(), std::vector<int32_t>());
+    owner.numbers[6] = 60;
+    quiet.Add(file, 6, 6);
+    EXPECT_EQ(known(), std::vector<int32_t>{60}) << "what the owner answers, not what Add was told";
+}
+
+TEST_F(ClsSonTest, TheOrderIsTheOneThatTheQuestionsGive) {
+    std::mt19937 dice(7);  // NOLINT(cert-msc51-cpp): the same on every run
+    const std::string file = File();
+    for (int round = 0; round < 200; ++round) {
+        ClsSon asking(desktop.Roles());
+        ClsSon knowing(desktop.Roles());
+        Owner slow(asking);
+        slow.state = 0;
+        Owner quick(knowing);
+        for (int32_t step = 0; step < 30; ++step) {
+            const auto key = static_cast<int32_t>(dice() % 40);
+            const auto number = static_cast<int32_t>(dice() % 12) - 1;
+            const int32_t told = dice() % 3 == 0 ? static_cast<int32_t>(dice() % 12) : -1;
+            slow.numbers[key] = quick.numbers[key] = number;
+            ++quick.state;
+            for (ClsSon* list : {&asking, &knowing}) {
+                if (!list->Item(key)) list->Add(file, key, told);
+            }
+            ASSERT_EQ(Keys(knowing), Keys(asking)) << round << " " << step;
+        }
+    }
 }
 
 // --- Sort ---
