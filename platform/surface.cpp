@@ -31,8 +31,14 @@ void Surface::SetBackColor(OLE_COLOR color) {
 }
 
 void Surface::Cls() {
-    if (commands_.empty()) return;
-    commands_.clear();
+    if (commands_->empty()) return;
+    if (commands_.use_count() == 1) {
+        commands_->clear();
+    } else {
+        const size_t usual = commands_->size();
+        commands_ = std::make_shared<std::vector<draw::Command>>();
+        commands_->reserve(usual);
+    }
     Touch();
 }
 
@@ -85,7 +91,7 @@ void Surface::BitBlt(int32_t x, int32_t y, int32_t width, int32_t height, Pictur
 }
 
 void Surface::Append(draw::Command command) {
-    commands_.push_back(std::move(command));
+    commands_->push_back(std::move(command));
     Touch();
 }
 

@@ -129,7 +129,7 @@ struct Printer {
 
 std::string Surface::dump() const {
     std::string text = "BackColor " + Color(backColor_) + "\n";
-    for (const draw::Command& command : commands_) text += std::visit(Printer{}, command) + "\n";
+    for (const draw::Command& command : Commands()) text += std::visit(Printer{}, command) + "\n";
     return text;
 }
 

@@ -7,57 +7,26 @@
 #include "platform/qt/looks.h"
 #include "platform/qt/scaledpictures.h"
 #include "platform/qt/surfacepainter.h"
+#include "platform/qt/surfacereplay.h"
 #include "platform/shape.h"
 #include "platform/usercontrol.h"
 
 #include <iterator>
 
-#include <QGuiApplication>
 #include <QPainter>
-#include <QPalette>
 #include <QPixmap>
 
 namespace vorlane {
 
 namespace {
 
-// A surface as it was replayed last.
-struct Replayed final : SurfaceImage {
-    uint64_t revision = 0;
-    qint64 theme = 0;
-    double scale = 0;
-    QPixmap pixels;
-};
-
-void Replay(const Surface& surface, QPixmap& pixels, const PaintTools& tools, double scale) {
-    pixels.fill(ToQColor(surface.BackColor(), tools.screen));
-    QPainter painter(&pixels);
-    SurfacePainter(painter, tools, scale).Replay(surface);
-}
-
-// Of the control that fills a window: no other one looks like it, and its recording may be long.
-const QPixmap& ReplayOf(const Surface& surface, QSize size, double scale, const PaintTools& tools) {
-    const qint64 theme = QGuiApplication::palette().cacheKey();
-    auto image = std::static_pointer_cast<Replayed>(surface.Image());
-    if (image && image->revision == surface.Revision() && image->theme == theme && image->scale == scale &&
-        image->pixels.size() == size) {
-        return image->pixels;
-    }
-    if (!image) image = std::make_shared<Replayed>();
-    surface.KeepImage(image);
-    image->revision = surface.Revision();
-    image->theme = theme;
-    image->scale = scale;
-    if (image->pixels.size() != size) image->pixels = QPixmap(size);
-    Replay(surface, image->pixels, tools, scale);
-    return image->pixels;
-}
-
 // Of a control inside of another: many have the same frames.
 QPixmap SharedReplayOf(const Surface& surface, QSize size, double scale, const PaintTools& tools) {
     return tools.replays.Get(LookKey::Of(surface, size, scale), [&] {
         QPixmap pixels(size);
-        Replay(surface, pixels, tools, scale);
+        pixels.fill(ToQColor(surface.BackColor(), tools.screen));
+        QPainter painter(&pixels);
+        SurfacePainter(painter, tools, scale).Replay(surface);
         return pixels;
     });
 }
@@ -98,9 +67,13 @@ void ControlPainter::PaintSurface(const Surface& surface, QSize size, Replays re
         return painter_.fillRect(damaged_, ToQColor(surface.BackColor(), tools_.screen));
     }
     const double scale = grid_.Scale();
-    const QPixmap pixels =
-        replays == Replays::Own ? ReplayOf(surface, size, scale, tools_) : SharedReplayOf(surface, size, scale, tools_);
-    painter_.drawPixmap(damaged_.topLeft(), pixels, damaged_.translated(-origin_));
+    const QRect part = damaged_.translated(-origin_);
+    if (replays == Replays::Own) {
+        // Of the control that fills a window: no other one looks like it, and its recording may be long.
+        painter_.drawImage(damaged_.topLeft(), SurfaceReplay::Of(surface, size, scale, tools_), part);
+    } else {
+        painter_.drawPixmap(damaged_.topLeft(), SharedReplayOf(surface, size, scale, tools_), part);
+    }
 }
 
 template <class Drawn>

@@ -14,7 +14,7 @@
 namespace vorlane {
 
 SurfacePainter::SurfacePainter(QPainter& painter, const PaintTools& tools, double scale)
-    : painter_(painter), tools_(tools), grid_(scale) {}
+    : painter_(painter), tools_(tools), grid_(scale), rows_(painter) {}
 
 void SurfacePainter::Replay(const Surface& surface) {
     for (const draw::Command& command : surface.Commands()) std::visit(*this, command);
@@ -28,9 +28,13 @@ QColor SurfacePainter::Color(SystemColor color) const {
     return Color(FromSystem(color));
 }
 
+void SurfacePainter::Fill(const QRect& area, const QColor& color) {
+    rows_ ? rows_.Fill(rows_.Seen(area), color.rgb()) : painter_.fillRect(area, color);
+}
+
 void SurfacePainter::operator()(const draw::Line& line) {
     if (line.X1 != line.X2 && line.Y1 != line.Y2) return Slanted(line);
-    painter_.fillRect(grid_.Cells(line.X1, line.Y1, line.X2, line.Y2), Color(line.Color));
+    Fill(grid_.Cells(line.X1, line.Y1, line.X2, line.Y2), Color(line.Color));
 }
 
 void SurfacePainter::Slanted(const draw::Line& line) {
@@ -53,20 +57,20 @@ void SurfacePainter::Slanted(const draw::Line& line) {
 void SurfacePainter::operator()(const draw::OutlinedBox& box) {
     const QColor color = Color(box.Color);
     const QRect whole = grid_.Cells(box.X1, box.Y1, box.X2, box.Y2);
-    if (box.X1 == box.X2 || box.Y1 == box.Y2) return painter_.fillRect(whole, color);
+    if (box.X1 == box.X2 || box.Y1 == box.Y2) return Fill(whole, color);
     const QRect first = grid_.Cells(box.X1, box.Y1, box.X1, box.Y1);
     const QRect last = grid_.Cells(box.X2, box.Y2, box.X2, box.Y2);
     const int thickness = std::max({first.width(), first.height(), last.width(), last.height()});
     const QRect inside = whole.adjusted(thickness, thickness, -thickness, -thickness);
-    if (!inside.isValid()) return painter_.fillRect(whole, color);
-    painter_.fillRect(QRect(whole.topLeft(), QPoint(whole.right(), inside.top() - 1)), color);
-    painter_.fillRect(QRect(QPoint(whole.left(), inside.bottom() + 1), whole.bottomRight()), color);
-    painter_.fillRect(QRect(whole.left(), inside.top(), thickness, inside.height()), color);
-    painter_.fillRect(QRect(inside.right() + 1, inside.top(), thickness, inside.height()), color);
+    if (!inside.isValid()) return Fill(whole, color);
+    Fill(QRect(whole.topLeft(), QPoint(whole.right(), inside.top() - 1)), color);
+    Fill(QRect(QPoint(whole.left(), inside.bottom() + 1), whole.bottomRight()), color);
+    Fill(QRect(whole.left(), inside.top(), thickness, inside.height()), color);
+    Fill(QRect(inside.right() + 1, inside.top(), thickness, inside.height()), color);
 }
 
 void SurfacePainter::operator()(const draw::FilledBox& box) {
-    painter_.fillRect(grid_.Cells(box.X1, box.Y1, box.X2, box.Y2), Color(box.Color));
+    Fill(grid_.Cells(box.X1, box.Y1, box.X2, box.Y2), Color(box.Color));
 }
 
 void SurfacePainter::operator()(const draw::TextOutA& text) {
@@ -101,7 +105,7 @@ void SurfacePainter::operator()(const draw::Polygon& polygon) {
 }
 
 void SurfacePainter::operator()(const draw::SetPixel& pixel) {
-    painter_.fillRect(grid_.Cells(pixel.X, pixel.Y, pixel.X, pixel.Y), Color(pixel.Color));
+    Fill(grid_.Cells(pixel.X, pixel.Y, pixel.X, pixel.Y), Color(pixel.Color));
 }
 
 void SurfacePainter::operator()(const draw::BitBlt& copy) {

@@ -5,6 +5,7 @@
 
 #include "platform/qt/painttools.h"
 #include "platform/qt/pixelgrid.h"
+#include "platform/qt/pixelrows.h"
 #include "platform/surface.h"
 
 class QColor;
@@ -33,6 +34,7 @@ public:
 private:
     QColor Color(OLE_COLOR color) const;
     QColor Color(SystemColor color) const;
+    void Fill(const QRect& area, const QColor& color);
     void Fill(const draw::TRIVERTEX& first, const draw::TRIVERTEX& second, bool downwards);
     // A ring of one pixel inside rect, on the sides whose bits are set.
     void Ring(const WinRect& rect, uint32_t sides, SystemColor topLeft, SystemColor bottomRight);
@@ -41,6 +43,7 @@ private:
     QPainter& painter_;
     PaintTools tools_;
     PixelGrid grid_;
+    PixelRows rows_;
 };
 
 }  // namespace vorlane

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <vector>
 
-#include <QImage>
 #include <QPainter>
 
 namespace vorlane {
@@ -25,15 +25,51 @@ Span SpanOf(int32_t a, int32_t b) {
     return a <= b ? Span{a, b, false} : Span{b, a, true};
 }
 
-// A component at a distance from the first vertex, cut off to eight bits.
-int Component(uint16_t first, uint16_t second, int64_t distance, int64_t length) {
-    return static_cast<int>((first * (length - distance) + second * distance) / (256 * length));
-}
+// A component at each distance from the first vertex, cut off to eight bits: (first (length - p) + second p) / (256
+// length), step by step without another division.
+class Component {
+public:
+    Component(uint16_t first, uint16_t second, int64_t start, int64_t length)
+        : divisor_(256 * length), whole_(0), rest_(first * (length - start) + second * start) {
+        const int64_t step = int64_t{second} - first;
+        wholeStep_ = step / divisor_ - (step % divisor_ < 0 ? 1 : 0);
+        restStep_ = step - wholeStep_ * divisor_;
+        Carry(rest_ / divisor_);
+    }
+    int Value() const { return static_cast<int>(whole_); }
+    void Step() {
+        whole_ += wholeStep_;
+        rest_ += restStep_;
+        if (rest_ >= divisor_) Carry(1);
+    }
 
-QRgb GradientColor(const draw::TRIVERTEX& first, const draw::TRIVERTEX& second, int64_t distance, int64_t length) {
-    return qRgb(Component(first.Red, second.Red, distance, length),
-                Component(first.Green, second.Green, distance, length),
-                Component(first.Blue, second.Blue, distance, length));
+private:
+    void Carry(int64_t wholes) {
+        whole_ += wholes;
+        rest_ -= wholes * divisor_;
+    }
+
+    int64_t divisor_;
+    int64_t whole_;
+    int64_t rest_;  // 0 to below the divisor
+    int64_t wholeStep_ = 0;
+    int64_t restStep_ = 0;
+};
+
+// The colours from a distance on.
+std::vector<QRgb> GradientColors(const draw::TRIVERTEX& first, const draw::TRIVERTEX& second, int start, int count,
+                                 int length) {
+    Component red(first.Red, second.Red, start, length);
+    Component green(first.Green, second.Green, start, length);
+    Component blue(first.Blue, second.Blue, start, length);
+    std::vector<QRgb> colors(static_cast<size_t>(count));
+    for (QRgb& color : colors) {
+        color = qRgb(red.Value(), green.Value(), blue.Value());
+        red.Step();
+        green.Step();
+        blue.Step();
+    }
+    return colors;
 }
 
 // --- Edges ---
@@ -124,16 +160,18 @@ void SurfacePainter::Fill(const draw::TRIVERTEX& first, const draw::TRIVERTEX& s
     const draw::TRIVERTEX& from = swapped ? second : first;
     const draw::TRIVERTEX& to = swapped ? first : second;
 
-    const QRect seen = area.intersected(painter_.viewport());
+    const QRect seen = rows_ ? rows_.Seen(area) : area.intersected(painter_.viewport());
+    if (seen.isEmpty()) return;
     const int start = downwards ? seen.top() - area.top() : seen.left() - area.left();
     const int count = downwards ? seen.height() : seen.width();
     const int length = downwards ? area.height() : area.width();
-    if (seen.isEmpty()) return;
-    QImage row(downwards ? QSize(1, count) : QSize(count, 1), QImage::Format_RGB32);
+    const std::vector<QRgb> colors = GradientColors(from, to, start, count, length);
+    if (rows_ && !downwards) return rows_.FillRows(seen, colors.data());
     for (int i = 0; i < count; ++i) {
-        row.setPixel(downwards ? 0 : i, downwards ? i : 0, GradientColor(from, to, start + i, length));
+        const QRect line = downwards ? QRect(seen.left(), seen.top() + i, seen.width(), 1)
+                                     : QRect(seen.left() + i, seen.top(), 1, seen.height());
+        Fill(line, QColor::fromRgb(colors[static_cast<size_t>(i)]));
     }
-    painter_.drawImage(seen, row);
 }
 
 void SurfacePainter::operator()(const draw::DrawEdge& edge) {
@@ -153,7 +191,7 @@ void SurfacePainter::Ring(const WinRect& rect, uint32_t sides, SystemColor topLe
     const int right = rect.Right - 1;
     const int bottom = rect.Bottom - 1;
     const auto side = [&](uint32_t bit, int x1, int y1, int x2, int y2, SystemColor color) {
-        if ((sides & bit) != 0) painter_.fillRect(grid_.Cells(x1, y1, x2, y2), Color(color));
+        if ((sides & bit) != 0) Fill(grid_.Cells(x1, y1, x2, y2), Color(color));
     };
     side(kTop, rect.Left, rect.Top, right, rect.Top, topLeft);
     side(kLeft, rect.Left, rect.Top, rect.Left, bottom, topLeft);
@@ -173,11 +211,11 @@ void SurfacePainter::operator()(const draw::RoundRect& frame) {
         const RowSpan whole = RowOf(outer, corner, y);
         const RowSpan hole = inner.isValid() ? RowOf(inner, innerCorner, y) : RowSpan{0, 0};
         if (hole.behind <= hole.first) {
-            painter_.fillRect(whole.first, y, whole.behind - whole.first, 1, color);
+            Fill(QRect(whole.first, y, whole.behind - whole.first, 1), color);
             continue;
         }
-        painter_.fillRect(whole.first, y, hole.first - whole.first, 1, color);
-        painter_.fillRect(hole.behind, y, whole.behind - hole.behind, 1, color);
+        Fill(QRect(whole.first, y, hole.first - whole.first, 1), color);
+        Fill(QRect(hole.behind, y, whole.behind - hole.behind, 1), color);
     }
 }
 

@@ -187,5 +187,20 @@ TEST_F(SurfaceTest, RefusesACoordinateThatCannotBeRounded) {
     EXPECT_EQ(surface.Revision(), 0U);
 }
 
+TEST(SurfaceRecording, ClsLeavesARecordingToItsHolders) {
+    Surface surface;
+    surface.Line(0, 0, 1, 1, 5);
+    const auto held = surface.Recording();
+    surface.SetPixel(3, 4, 5);
+    EXPECT_EQ(held->size(), 2U) << "it grows";
+    surface.Cls();
+    surface.SetPixel(1, 1, 7);
+    EXPECT_EQ(held->size(), 2U);
+    EXPECT_EQ(surface.Commands().size(), 1U);
+    EXPECT_NE(surface.Recording(), held);
+    EXPECT_EQ(surface.Commands().front(), draw::Command(draw::SetPixel{1, 1, 7}));
+    EXPECT_NE(surface.Commands().front(), held->back());
+}
+
 }  // namespace
 }  // namespace vorlane
