@@ -4,11 +4,13 @@
 #include "platform/qt/controlhost.h"
 #include "platform/qt/dragdata.h"
 #include "platform/qt/keys.h"
+#include "platform/qt/movepointer.h"
 #include "platform/qt/qtwindows.h"
 
 #include <utility>
 
 #include <QDrag>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QPointer>
 
@@ -17,21 +19,35 @@ namespace vorlane {
 namespace {
 
 constexpr int32_t kCopy = 1;
+constexpr int32_t kMove = 2;
 
 int32_t OfferedToOthers(int32_t allowed) {
     return (allowed & kCopy) != 0 ? kCopy : allowed;
 }
 
+// What Qt carries with the pointer where there is no picture: a dot beside it. This one is under its tip.
+QPixmap Nothing() {
+    QPixmap dot(1, 1);
+    dot.fill(Qt::transparent);
+    return dot;
+}
+
 }  // namespace
 
 struct QtDrags::Run {
+    QPointer<QDrag> Drag;
     int32_t Allowed;
     const std::function<void(int32_t effect)>& Feedback;
     int32_t Told = 0;
     std::optional<int32_t> Answered{};  // by a widget of the desktop that it is over
+    QPixmap Mover = MovePointer(qApp->devicePixelRatio());
 
     void Tell(int32_t effect) {
         if (std::exchange(Told, effect) != effect) Attempt([&] { Feedback(effect); });
+    }
+    // The pointer over what takes the copy that is offered; the system's own when null.
+    void Point(const QPixmap& pointer) {
+        if (Drag) Drag->setDragCursor(pointer, Qt::CopyAction);
     }
 };
 
@@ -41,11 +57,13 @@ int32_t QtDrags::DoDrag(Hwnd window, DataObject& data, int32_t allowed,
                         const std::function<void(int32_t effect)>& feedback) {
     const QPointer<QWidget> widget = windows_.WidgetOf(window);
     if (widget.isNull() || Running()) return 0;
-    Run run{allowed, feedback};
-    run_ = &run;
     auto* drag = new QDrag(widget.data());
     drag->setParent(nullptr);
     drag->setMimeData(MimeDataFrom(data).release());
+    drag->setPixmap(Nothing());
+    drag->setHotSpot({0, 0});
+    Run run{drag, allowed, feedback};
+    run_ = &run;
     QObject ears;
     QObject::connect(widget.data(), &QObject::destroyed, &ears, &QDrag::cancel);
     QObject::connect(drag, &QDrag::actionChanged, &ears, [&run](Qt::DropAction action) {
@@ -68,11 +86,14 @@ std::optional<int32_t> QtDrags::Answered() const {
 void QtDrags::Answer(int32_t effect) {
     if (!Running()) return;
     run_->Answered = effect;
+    run_->Point(effect == kMove ? run_->Mover : QPixmap());
     run_->Tell(effect);
 }
 
 void QtDrags::Leave() {
-    if (Running()) run_->Answered.reset();
+    if (!Running()) return;
+    run_->Answered.reset();
+    run_->Point({});
 }
 
 }  // namespace vorlane

@@ -76,8 +76,8 @@ protected:
 
 TEST_F(DragUnderX, ASlideMovesToTheMarkInTheOpenedRow) {
     bool opened = false;
+    bool arrow = false;
     QPoint ghostAtFirst;
-    QPoint ghostAtLast;
     EXPECT_TRUE(Dragging(0)
                     .Do([&] { ghostAtFirst = Ghost()->pos() - QCursor::pos(); })
                     .GoTo(In(4, 0.2))
@@ -85,12 +85,14 @@ TEST_F(DragUnderX, ASlideMovesToTheMarkInTheOpenedRow) {
                     .Do([&] {
                         const auto slide = sheet->sheet().Diapo.Item(4);
                         opened = slide->Left() > slide->Col();
+                        arrow = !QGuiApplication::overrideCursor()->pixmap().isNull();
                     })
                     .Until([&] { return Ghost()->pos() - QCursor::pos() == ghostAtFirst; }, "the ghost at the pointer")
                     .Release()
                     .Play());
     EXPECT_TRUE(User::Until([&] { return done >= 0; }));
     EXPECT_TRUE(opened);
+    EXPECT_TRUE(arrow);
     EXPECT_EQ(done, 2);
     EXPECT_EQ(ItemsOf(*sheet), "b 1001, c 1002, d 1003, a 1000, e 1004, f 1005, g 1006");
     EXPECT_EQ(sheet->SelectedTableau(), QList<int>{3});
