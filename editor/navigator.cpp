@@ -46,6 +46,8 @@ bool IsText(const QKeyEvent& event) {
 Navigator::Navigator(VorlaneWidget& sheet, Show& show, QObject* parent)
     : QObject(parent), sheet_(sheet), show_(show), typing_(QApplication::keyboardInputInterval() * 2) {
     sheet.installEventFilter(this);
+    // The sheet tells no release that came while it was at work on the press.
+    connect(&sheet, &VorlaneWidget::OnMouseDown, this, &Navigator::FollowMouse);
     connect(&sheet, &VorlaneWidget::OnMouseUp, this, &Navigator::FollowMouse);
 }
 

@@ -7,6 +7,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QWindow>
 
 namespace vorlane::editor {
 namespace {
@@ -120,6 +121,18 @@ TEST_F(NavigationTest, TheKeysLeadOnFromWhereTheMouseClicked) {
     Press(Qt::Key_Right);
     EXPECT_EQ(Current(), 4);
     EXPECT_EQ(Selection(), std::vector{4});
+}
+
+TEST_F(NavigationTest, AClickThatIsOverAtOnceIsFollowedToo) {
+    ASSERT_TRUE(OpenPictures("abc"));
+    const QPoint place = window_->sheet().mapTo(window_.get(), window_->sheet().DiapoRect(1).center().toPoint());
+    QWindow* screen = window_->windowHandle();
+    const auto release = [&] { QTest::mouseRelease(screen, Qt::LeftButton, {}, place); };
+    QMetaObject::invokeMethod(window_.get(), release, Qt::QueuedConnection);  // while the press is at work
+    QTest::mousePress(screen, Qt::LeftButton, {}, place);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window_->navigator().current(), 1);
+    EXPECT_EQ(Status(), QString::fromUtf8("3 images — 1 sélectionnée"));
 }
 
 TEST_F(NavigationTest, ADoubleClickOpensThePicture) {
