@@ -7,8 +7,10 @@
 #include "tests/platform/qt/board.h"
 
 #include <gtest/gtest.h>
+#include <memory>
 #include <set>
 #include <stdexcept>
+#include <utility>
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -180,6 +182,19 @@ TEST_F(ControlHostTest, AHandlerThatThrowsEndsInTheHost) {
 }
 
 // --- Painting ---
+
+TEST_F(ControlHostTest, AControlWhoseWidgetGoesAwayInTheMiddleOfAKeyEndsBehindIt) {
+    auto other = std::make_unique<test::BoardHost>(desktop);
+    auto held = std::make_shared<int>();
+    const std::weak_ptr<int> life = held;
+    other->board.Changed.connect([held = std::move(held)] {});
+    bool lived = false;
+    other->board.Input.KeyDown.connect([&](int16_t&, int16_t) { other.reset(); });
+    other->board.Input.KeyDown.connect([&](int16_t&, int16_t) { lived = !life.expired(); });
+    Key(*other, QEvent::KeyPress, Qt::Key_A, "a");
+    EXPECT_TRUE(lived);
+    EXPECT_TRUE(life.expired());
+}
 
 TEST_F(ControlHostTest, TheWidgetShowsTheControl) {
     Show();
