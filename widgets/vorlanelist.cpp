@@ -52,6 +52,10 @@ bool VorlaneList::AddItem(const QString& text, int key, int index) {
     return added;
 }
 
+void VorlaneList::SetList(int index, const QString& text) {
+    if (ListBox* list = Changeable()) Attempt([&] { list->SetList(index, ToText(text)); });
+}
+
 void VorlaneList::RemoveItem(int index) {
     if (ListBox* list = Changeable()) Attempt([&] { list->RemoveItem(index); });
 }

@@ -29,6 +29,8 @@ public:
     // --- Of lists that can be changed; without effect on a list of files ---
     // At the end, or in front of index. False when the list doesn't take it.
     bool AddItem(const QString& text, int key, int index = -1);
+    // Key and selection stay.
+    void SetList(int index, const QString& text);
     void RemoveItem(int index);
     void Clear();
     int ItemData(int index) const;

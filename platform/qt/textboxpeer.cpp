@@ -44,6 +44,7 @@ void TextBoxPeer::Follow() {
     setEnabled(model_.Enabled());
     const Box box = model_.BoundsInRoot();
     setGeometry(QRectF(box.Left, box.Top, box.Width, box.Height).toRect());
+    if (!model_.Visible() && hasFocus()) host_.setFocus(Qt::OtherFocusReason);
     setVisible(model_.Visible());
     busy_ = false;
 }

@@ -38,6 +38,16 @@ TEST_F(VorlaneListTest, AddsAtTheEndAndInFrontOfAnItem) {
     EXPECT_EQ(widget.ImageFullPath(1), "/x");
 }
 
+TEST_F(VorlaneListTest, GivesAnItemAnotherText) {
+    list.SetSelected(1, true);
+    list.SetList(1, "x\t/x");
+    EXPECT_EQ(Texts(), "axcd");
+    EXPECT_EQ(list.ItemData(1), 11);
+    EXPECT_TRUE(list.Selected(1));
+    list.SetList(9, "x\t/y");
+    EXPECT_EQ(Texts(), "axcd");
+}
+
 TEST_F(VorlaneListTest, RemovesAndClears) {
     list.RemoveItem(2);
     EXPECT_EQ(Texts(), "abd");
