@@ -3,8 +3,10 @@
 #include "editor/caption.h"
 #include "editor/emptypage.h"
 #include "editor/focusring.h"
+#include "editor/infoballoon.h"
 #include "editor/look.h"
 #include "editor/navigator.h"
+#include "editor/renamer.h"
 #include "editor/show.h"
 #include "editor/showkeeper.h"
 #include "editor/showplayer.h"
@@ -14,6 +16,7 @@
 #include "editor/strip.h"
 #include "editor/stripmenu.h"
 #include "editor/stripsounds.h"
+#include "editor/waitnotice.h"
 #include "widgets/vorlanewidget.h"
 
 #include <utility>
@@ -50,6 +53,7 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
       show_(new Show(*sheet_, this)),
       navigator_(new Navigator(*sheet_, *show_, this)),
       drags_(new SlideDrags(*sheet_, *show_, this)),
+      renamer_(new Renamer(*sheet_, *show_, *navigator_, this)),
       provider_(new ThumbnailProvider(*sheet_, thumbnails_)),
       strip_(new Strip(*sheet_, this)),
       sounds_(new StripSounds(*strip_, *sheet_, *show_, this)),
@@ -72,6 +76,8 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
     statusBar()->setSizeGripEnabled(false);
     sheet_->installEventFilter(this);
     new FocusRing(*sheet_, *navigator_);
+    ShowInfoBalloons(*sheet_);
+    ShowWaitDuringLongWork(*sheet_, *show_);
 
     connect(sheet_, &VorlaneWidget::OnAdded, this,
             [this](int index, const QString& file) { sheet_->SetCaptionBottom(index, CaptionOf(file, locale())); });

@@ -34,6 +34,7 @@ namespace vorlane::editor {
 
 class EmptyPage;
 class Navigator;
+class Renamer;
 class Show;
 class ShowKeeper;
 class ShowPlayer;
@@ -100,6 +101,7 @@ public Q_SLOTS:
     // Plays the show on the whole screen, from the current slide on or from its first one.
     void play();
     void playFromStart();
+    void renameCurrent();
     void selectAll();
     void toggleFullScreen();
 
@@ -145,6 +147,7 @@ private:
     void ConnectStrip();
     void ItemsChanged();
     void Added(const std::vector<FolderItem>& items, int beforeKey);
+    void TellName(const QString& from, const QString& to);
     void MoveSelected(int lines);
     void SayHeld();
     void Say(const QString& notice);
@@ -216,6 +219,7 @@ private:
     Navigator* navigator_;
     ShowKeeper* keeper_ = nullptr;
     SlideDrags* drags_;
+    Renamer* renamer_;
     ThumbnailProvider* provider_;
     Strip* strip_;
     StripSounds* sounds_;

@@ -1,6 +1,7 @@
 // What the user does to the slides.
 #include "editor/editorwindow.h"
 #include "editor/navigator.h"
+#include "editor/renamer.h"
 #include "editor/show.h"
 #include "editor/showkeeper.h"
 #include "editor/statuspanel.h"
@@ -12,6 +13,7 @@
 
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QFileInfo>
 #include <QMenu>
 
 namespace vorlane::editor {
@@ -19,6 +21,10 @@ namespace vorlane::editor {
 namespace {
 
 constexpr int kNoticeTime = 8000;  // milliseconds
+
+QString NameOf(const QString& path) {
+    return QFileInfo(path).fileName();
+}
 
 }  // namespace
 
@@ -31,6 +37,11 @@ void EditorWindow::ConnectShow() {
     connect(navigator_, &Navigator::activated, this, &EditorWindow::OpenItem);
     connect(sheet_, &VorlaneWidget::OnDblClick, this, [this](int index, const QImage&, const QString&, int button) {
         if (button == 1) OpenItem(sheet_->Value(index));
+    });
+    connect(renamer_, &Renamer::renamed, this, &EditorWindow::TellName);
+    connect(show_, &Show::renamedAgain, this, &EditorWindow::TellName);
+    connect(show_, &Show::renameFailed, this, [this](const QString& from, const QString& to) {
+        Say(tr("« %1 » n'a pas pu reprendre le nom « %2 »").arg(NameOf(from), NameOf(to)));
     });
     noticeEnd_.setSingleShot(true);
     connect(&noticeEnd_, &QTimer::timeout, this, [this] { Say({}); });
@@ -77,6 +88,15 @@ void EditorWindow::removeSelected() {
     const int behind = selected.back() + 1 - removed;
     navigator_->mark(std::min(behind, count() - 1));
     Say(tr("%Ln diapositive(s) retirée(s) de la planche ; les fichiers restent sur le disque", nullptr, removed));
+}
+
+void EditorWindow::renameCurrent() {
+    if (navigator_->current() < 0) return Say(tr("Aucune diapositive n'est sélectionnée"));
+    renamer_->start(navigator_->current());
+}
+
+void EditorWindow::TellName(const QString& from, const QString& to) {
+    Say(tr("« %1 » s'appelle maintenant « %2 »").arg(NameOf(from), NameOf(to)));
 }
 
 void EditorWindow::selectAll() {
@@ -130,7 +150,7 @@ bool EditorWindow::ShowContextMenu(const QContextMenuEvent& event) {
     if (item >= 0) {
         if (!sheet_->Liste().Selected(item)) navigator_->setCurrent(item);
         navigator_->mark(item);
-        menu->addActions({menus_.show, menus_.remove});
+        menu->addActions({menus_.show, menus_.rename, menus_.remove});
         menu->addSeparator();
         menu->addActions({menus_.moveBack, menus_.moveOn});
         menu->addSeparator();

@@ -61,6 +61,8 @@ void EditorWindow::MakeEditMenu() {
     menus_.edit->addSeparator();
     menus_.show = AddAction(menus_.edit, QKeySequence(Qt::Key_Return));
     menus_.show->setShortcutContext(Qt::WidgetShortcut);  // told here; the sheet's keys see to it
+    menus_.rename = AddAction(menus_.edit, QKeySequence(Qt::Key_F2));
+    menus_.rename->setShortcutContext(Qt::WidgetShortcut);  // as above: the strip has keys of its own
     menus_.remove = AddAction(menus_.edit, QKeySequence::Delete);
     menus_.edit->addSeparator();
     menus_.moveBack = AddAction(menus_.edit, QKeySequence(Qt::ALT | Qt::Key_Left));
@@ -69,6 +71,7 @@ void EditorWindow::MakeEditMenu() {
     connect(menus_.redo, &QAction::triggered, show_, &Show::redo);
     connect(menus_.selectAll, &QAction::triggered, this, &EditorWindow::selectAll);
     connect(menus_.show, &QAction::triggered, this, [this] { OpenItem(navigator_->current()); });
+    connect(menus_.rename, &QAction::triggered, this, &EditorWindow::renameCurrent);
     connect(menus_.remove, &QAction::triggered, this, &EditorWindow::removeSelected);
     connect(menus_.moveBack, &QAction::triggered, this, [this] { MoveSelected(-1); });
     connect(menus_.moveOn, &QAction::triggered, this, [this] { MoveSelected(1); });
@@ -133,6 +136,7 @@ void EditorWindow::NameMenus() {
     NameUndo();
     menus_.selectAll->setText(tr("&Tout sélectionner"));
     menus_.show->setText(tr("&Ouvrir l'image"));
+    menus_.rename->setText(tr("Re&nommer le fichier"));
     menus_.remove->setText(tr("Re&tirer de la planche"));
     menus_.moveBack->setText(tr("Déplacer vers le &début"));
     menus_.moveOn->setText(tr("Déplacer vers la &fin"));

@@ -89,8 +89,7 @@ std::vector<Name> SplitNames(const QStringList& files) {
 FolderItem Item(const Name& name) {
     const QString path = name.folder + name.text;
     const QFileInfo file(path);
-    const FileFacts facts{name.text, file.lastModified(), file.birthTime(), file.size()};
-    return {path, SortData(facts, name.sortName), !file.isFile()};
+    return {path, SortData(FactsOf(file), name.sortName), !file.isFile()};
 }
 
 }  // namespace

@@ -24,6 +24,7 @@ struct Menus {
     QAction* redo;
     QAction* selectAll;
     QAction* show;
+    QAction* rename;
     QAction* remove;
     QAction* moveBack;
     QAction* moveOn;

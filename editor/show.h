@@ -68,6 +68,8 @@ public:
     void sort(SortOrder order);
     // Does what else can be done to a show; passed over by a show that is at work. Takes the command over.
     void push(QUndoCommand* command);
+    // A file was renamed, and the sheet knows it already: its items take their place in the order.
+    void renamed(const QString& from, const QString& to);
     void undo();
     void redo();
 
@@ -75,6 +77,13 @@ Q_SIGNALS:
     // Items came, went or moved.
     void changed();
     void orderChanged();
+    // Work that keeps the user waiting, with many items, begins; it has ended.
+    void longWorkBegins();
+    void longWorkEnds();
+    // The way back, or on, from a rename: the file has its other name, or could not be given it. Then what was done
+    // before is for good.
+    void renamedAgain(const QString& from, const QString& to);
+    void renameFailed(const QString& from, const QString& to);
 
 private:
     struct Placed {
@@ -89,7 +98,9 @@ private:
     };
     class ChangeCommand;
     class SortCommand;
+    class RenameCommand;
     class Busy;
+    class LongWork;
 
     std::vector<Placed> Selected() const;
     void Unselect();
@@ -100,6 +111,9 @@ private:
     void Restore(const std::vector<int>& keys, SortOrder order);
     std::vector<int> Keys() const;
     void SetOrderState(SortOrder order);
+    void ForgetIfLost();
+    void RenameBack(const QString& from, const QString& to);
+    void FollowName(const QString& from, const QString& to);
 
     VorlaneWidget& sheet_;
     QUndoStack undo_;
@@ -107,6 +121,7 @@ private:
     int nextKey_ = 0;
     bool busy_ = false;
     std::optional<std::vector<Placed>> moving_;  // what the sheet moves, as it was before
+    bool lost_ = false;  // a file is not where the way back wants it
 };
 
 }  // namespace vorlane::editor

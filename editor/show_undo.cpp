@@ -1,5 +1,6 @@
 // What the user does to a show, and the way back.
 #include "editor/show.h"
+#include "editor/sortdata.h"
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
@@ -7,6 +8,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include <QFile>
+#include <QFileInfo>
 #include <QUndoCommand>
 
 namespace vorlane::editor {
@@ -27,6 +30,21 @@ public:
     Busy& operator=(const Busy&) = delete;
 
 private:
+    Show& show_;
+};
+
+class Show::LongWork {
+public:
+    explicit LongWork(Show& show) : show_(show) {
+        if (show.count() >= kMany) Q_EMIT show_.longWorkBegins();
+    }
+    ~LongWork() { Q_EMIT show_.longWorkEnds(); }
+    LongWork(const LongWork&) = delete;
+    LongWork& operator=(const LongWork&) = delete;
+
+private:
+    static constexpr int kMany = 100000;  // items, a noticeable wait
+
     Show& show_;
 };
 
@@ -68,6 +86,24 @@ private:
     std::vector<int> keys_;
 };
 
+// The file has its new name already when it is pushed.
+class Show::RenameCommand : public QUndoCommand {
+public:
+    RenameCommand(Show& show, QString from, QString to)
+        : QUndoCommand(tr("le changement de nom")), show_(show), from_(std::move(from)), to_(std::move(to)) {}
+
+    void redo() override {
+        if (std::exchange(done_, true)) show_.RenameBack(from_, to_);
+    }
+    void undo() override { show_.RenameBack(to_, from_); }
+
+private:
+    Show& show_;
+    QString from_;
+    QString to_;
+    bool done_ = false;
+};
+
 void Show::Push(Change change, const QString& name) {
     undo_.push(new ChangeCommand(*this, std::move(change), name));
     Q_EMIT changed();
@@ -92,6 +128,7 @@ int Show::removeSelected() {
     Change change{Selected(), {}};
     const auto removed = static_cast<int>(change.out.size());
     if (removed == 0) return 0;
+    const LongWork work(*this);
     sheet_.RemoveAllSelected();
     Push(std::move(change), tr("le retrait"));
     return removed;
@@ -165,12 +202,54 @@ void Show::undo() {
     if (busy_) return;
     const Busy busy(*this);
     undo_.undo();
+    ForgetIfLost();
 }
 
 void Show::redo() {
     if (busy_) return;
     const Busy busy(*this);
     undo_.redo();
+    ForgetIfLost();
+}
+
+// --- Renames ---
+
+void Show::renamed(const QString& from, const QString& to) {
+    const Busy busy(*this);
+    FollowName(from, to);
+    undo_.push(new RenameCommand(*this, from, to));
+}
+
+// Without a file's name the commands before would bring back what is not there.
+void Show::ForgetIfLost() {
+    if (!std::exchange(lost_, false)) return;
+    undo_.clear();
+    undo_.resetClean();
+}
+
+// Nothing is ever replaced.
+void Show::RenameBack(const QString& from, const QString& to) {
+    if (QFileInfo::exists(to) || !QFile::rename(from, to)) {
+        lost_ = true;
+        Q_EMIT renameFailed(from, to);
+        return;
+    }
+    FollowName(from, to);
+    Q_EMIT renamedAgain(from, to);
+}
+
+// All items of the file, which may be on the list more than once.
+void Show::FollowName(const QString& from, const QString& to) {
+    const QFileInfo file(to);
+    const QString text = ItemText({to, SortData(FactsOf(file), SortName(file.fileName()))});
+    VorlaneList list = sheet_.Liste();
+    for (int i = 0; i < count(); ++i) {
+        const QString path = sheet_.ImageFullPath(i);
+        if (path == from) sheet_.RenameDiapo(i, from, to);
+        if (path == from || path == to) list.SetList(i, text);
+    }
+    Order(order_);
+    Q_EMIT changed();
 }
 
 // --- Orders ---
@@ -184,6 +263,7 @@ void Show::SetOrderState(SortOrder order) {
 void Show::Order(SortOrder order) {
     SetOrderState(order);
     if (!order.Sorts()) return;
+    const LongWork work(*this);
     sheet_.Sort(static_cast<int>(order.by));
     Q_EMIT changed();
 }
@@ -201,6 +281,7 @@ void Show::Restore(const std::vector<int>& keys, SortOrder order) {
         QString text;
         bool selected;
     };
+    const LongWork work(*this);
     SetOrderState(order);
     VorlaneList list = sheet_.Liste();
     std::vector<int> present = Keys();

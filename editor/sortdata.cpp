@@ -1,5 +1,7 @@
 #include "editor/sortdata.h"
 
+#include <QFileInfo>
+
 namespace vorlane::editor {
 
 namespace {
@@ -46,6 +48,10 @@ QString SortName(const QString& fileName) {
     }
     flush();
     return sorted;
+}
+
+FileFacts FactsOf(const QFileInfo& file) {
+    return {file.fileName(), file.lastModified(), file.birthTime(), file.size()};
 }
 
 QString SortData(const FileFacts& facts, const QString& sortName) {

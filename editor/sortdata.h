@@ -6,6 +6,8 @@
 #include <QDateTime>
 #include <QString>
 
+class QFileInfo;
+
 namespace vorlane::editor {
 
 // The character that joins criteria.
@@ -23,6 +25,8 @@ struct FileFacts {
     QDateTime created{};  // not valid where nobody knows
     qint64 length = 0;
 };
+
+FileFacts FactsOf(const QFileInfo& file);
 
 QString SortData(const FileFacts& facts, const QString& sortName);
 

@@ -416,6 +416,18 @@
         <source>Impossible de lire le son «&#xa0;%1&#xa0;»&#xa0;: %2</source>
         <translation>Can&apos;t play the sound “%1”: %2</translation>
     </message>
+    <message>
+        <source>«&#xa0;%1&#xa0;» n&apos;a pas pu reprendre le nom «&#xa0;%2&#xa0;»</source>
+        <translation>“%1” could not take the name “%2” again</translation>
+    </message>
+    <message>
+        <source>«&#xa0;%1&#xa0;» s&apos;appelle maintenant «&#xa0;%2&#xa0;»</source>
+        <translation>“%1” is now called “%2”</translation>
+    </message>
+    <message>
+        <source>Re&amp;nommer le fichier</source>
+        <translation>Re&amp;name the File</translation>
+    </message>
 </context>
 <context>
     <name>vorlane::editor::Show</name>
@@ -434,6 +446,10 @@
     <message>
         <source>le tri</source>
         <translation>Sort</translation>
+    </message>
+    <message>
+        <source>le changement de nom</source>
+        <translation>the change of name</translation>
     </message>
 </context>
 <context>
@@ -681,6 +697,43 @@
     <message>
         <source>Pause</source>
         <translation>Paused</translation>
+    </message>
+</context>
+<context>
+    <name>InfoBalloon</name>
+    <message>
+        <source>Prise le %1</source>
+        <translation>Taken %1</translation>
+    </message>
+    <message>
+        <source>%1 × %2 pixels</source>
+        <translation>%1 × %2 pixels</translation>
+    </message>
+    <message>
+        <source>Image illisible</source>
+        <translation>Unreadable picture</translation>
+    </message>
+    <message>
+        <source>Modifiée le %1</source>
+        <translation>Changed %1</translation>
+    </message>
+    <message>
+        <source>Fichier introuvable</source>
+        <translation>File not found</translation>
+    </message>
+</context>
+<context>
+    <name>WaitNotice</name>
+    <message>
+        <source>Un instant…</source>
+        <translation>One moment…</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::Renamer</name>
+    <message>
+        <source>Un autre fichier porte déjà le nom «&#xa0;%1&#xa0;».</source>
+        <translation>Another file has the name “%1” already.</translation>
     </message>
 </context>
 </TS>
