@@ -71,7 +71,7 @@ enum class SoundTrouble {
     Missing = 0,     // the file is not there
     Unplayable = 1,  // it is damaged, or no sound
     Gone = 2,        // the file has gone while it plays; it is heard as far as the system still gives it
-    NoDevice = 3,    // there is nothing to hear it on: it plays silently
+    NoDevice = 3,    // there is nothing to hear it on: it plays silently, or ends if the device has gone
 };
 Q_ENUM_NS(SoundTrouble)
 

@@ -28,12 +28,13 @@ void PlayingSound::Start(int volume) {
     output_->setVolume(QAudio::convertVolume(static_cast<float>(volume) / 100, QAudio::LogarithmicVolumeScale,
                                              QAudio::LinearVolumeScale));
     player_->setAudioOutput(output_);
-    connect(player_, &QMediaPlayer::errorOccurred, this, [this] { EndBy(SoundTrouble::Unplayable); });
+    connect(player_, &QMediaPlayer::errorOccurred, this, &PlayingSound::EndByError);
     connect(player_, &QMediaPlayer::mediaStatusChanged, this, [this](QMediaPlayer::MediaStatus status) {
         if (status == QMediaPlayer::InvalidMedia) EndBy(SoundTrouble::Unplayable);
         if (status == QMediaPlayer::EndOfMedia) playing_ = false;
     });
-    if (QMediaDevices::defaultAudioOutput().isNull()) Tell(SoundTrouble::NoDevice);
+    heard_ = !QMediaDevices::defaultAudioOutput().isNull();
+    if (!heard_) Tell(SoundTrouble::NoDevice);
     player_->setSource(QUrl::fromLocalFile(path_));
     player_->play();
 }
@@ -58,6 +59,12 @@ void PlayingSound::EndBy(SoundTrouble trouble) {
     if (!playing_) return;
     playing_ = false;
     Tell(trouble);
+}
+
+// The player tells of a device that goes as of a damaged file.
+void PlayingSound::EndByError() {
+    const bool deviceGone = heard_ && QMediaDevices::defaultAudioOutput().isNull();
+    EndBy(deviceGone ? SoundTrouble::NoDevice : SoundTrouble::Unplayable);
 }
 
 void PlayingSound::Tell(SoundTrouble trouble) {

@@ -37,10 +37,12 @@ private:
     void Start(int volume);
     void Tell(SoundTrouble trouble);
     void EndBy(SoundTrouble trouble);
+    void EndByError();
 
     QString path_;                    // absolute
     QAudioOutput* output_ = nullptr;  // none for a file that is not there
     QMediaPlayer* player_ = nullptr;
+    bool heard_ = false;  // there was a device at the start
     bool playing_ = true;
     std::set<SoundTrouble> told_;
 };

@@ -9,7 +9,7 @@ enum class SoundTrouble {
     Missing = 0,     // the file is not there: nothing is heard
     Unplayable = 1,  // it is no sound, or damaged: nothing is heard, or nothing more
     Gone = 2,        // the file has gone while it plays; what the system still gives of it is heard
-    NoDevice = 3,    // there is nothing to hear it on: it plays for its time, silently
+    NoDevice = 3,    // there is nothing to hear it on: it plays for its time, silently, or ends if the device has gone
 };
 
 // For the user.
