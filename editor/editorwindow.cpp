@@ -12,6 +12,7 @@
 #include "editor/showplayer.h"
 #include "editor/slidedrags.h"
 #include "editor/slidesize.h"
+#include "editor/soundbuttons.h"
 #include "editor/statuspanel.h"
 #include "editor/strip.h"
 #include "editor/stripmenu.h"
@@ -57,6 +58,8 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
       provider_(new ThumbnailProvider(*sheet_, thumbnails_)),
       strip_(new Strip(*sheet_, this)),
       sounds_(new StripSounds(*strip_, *sheet_, *show_, this)),
+      buttons_(new SoundButtons(
+          *sheet_, *show_, [this](int key, bool comment) { return SoundOf(key, comment); }, this)),
       soundMenu_(nullptr),
       status_(new StatusPanel(this)),
       opener_([](const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); }) {
@@ -98,6 +101,7 @@ EditorWindow::~EditorWindow() {
     show_->undoStack().disconnect(this);
     delete provider_;  // before the service that it serves from
     delete soundMenu_;
+    delete buttons_;
     delete sounds_;
     delete std::exchange(sheet_, nullptr);
 }

@@ -39,6 +39,7 @@ class Show;
 class ShowKeeper;
 class ShowPlayer;
 class SlideDrags;
+class SoundButtons;
 class StatusPanel;
 class Strip;
 class StripMenu;
@@ -145,6 +146,7 @@ private:
     // editorwindow_edit.cpp
     void ConnectShow();
     void ConnectStrip();
+    QString SoundOf(int key, bool comment) const;
     void ItemsChanged();
     void Added(const std::vector<FolderItem>& items, int beforeKey);
     void TellName(const QString& from, const QString& to);
@@ -223,6 +225,7 @@ private:
     ThumbnailProvider* provider_;
     Strip* strip_;
     StripSounds* sounds_;
+    SoundButtons* buttons_;
     StripMenu* soundMenu_;
     StatusPanel* status_;
     Menus menus_{};

@@ -4,9 +4,11 @@
 #include "editor/renamer.h"
 #include "editor/show.h"
 #include "editor/showkeeper.h"
+#include "editor/soundbuttons.h"
 #include "editor/statuspanel.h"
 #include "editor/strip.h"
 #include "editor/stripmenu.h"
+#include "editor/stripsounds.h"
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
@@ -55,6 +57,14 @@ void EditorWindow::ConnectStrip() {
         if (!keeper_->path().isEmpty()) keeper_->touch();
         ShowStatus();
     });
+    connect(buttons_, &SoundButtons::said, this, &EditorWindow::Say);
+    connect(sounds_, &StripSounds::changed, buttons_, &SoundButtons::refresh);
+}
+
+// What is heard on the slide of that key, empty for nothing.
+QString EditorWindow::SoundOf(int key, bool comment) const {
+    const auto sound = sounds_->find(comment ? SoundKind::Comment : SoundKind::Music, key);
+    return sound ? sound->Nom : QString();
 }
 
 int EditorWindow::count() const {

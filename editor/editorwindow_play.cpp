@@ -52,6 +52,7 @@ void EditorWindow::PlayFrom(int first) {
             Say(tr("Impossible de lire le son « %1 » : %2").arg(QFileInfo(path).fileName(), why));
         });
     }
+    sheet_->StopSound();
     playedFrom_ = first;
     player_->play(std::move(*show), first, this);
 }

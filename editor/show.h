@@ -121,7 +121,7 @@ private:
     int nextKey_ = 0;
     bool busy_ = false;
     std::optional<std::vector<Placed>> moving_;  // what the sheet moves, as it was before
-    bool lost_ = false;  // a file is not where the way back wants it
+    bool lost_ = false;                          // a file is not where the way back wants it
 };
 
 }  // namespace vorlane::editor

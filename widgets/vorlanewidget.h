@@ -259,6 +259,11 @@ public:
     // The list index that a slide shows, -1 for none; and where it lies, empty for a slide that isn't shown.
     int Value(int index) const;
     QRectF DiapoRect(int index) const;
+    // Whether a slide has a button for its music, for its comment.
+    bool HaveSoundMusic(int index) const;
+    void SetHaveSoundMusic(int index, bool have);
+    bool HaveSoundComment(int index) const;
+    void SetHaveSoundComment(int index, bool have);
     // Where its name stands; empty for a slide that isn't shown or shows no name.
     QRectF NameRect(int index) const;
 
@@ -317,6 +322,8 @@ public Q_SLOTS:
     // Starts the sheet with its present properties, as a saved one starts: what it takes over once at its start, as the
     // ground of selected slides, it takes over as it is now. Its slides want filling then.
     void StartAgain();
+    // Ends the sheet's work: it has no list, no timers and no messages then. Harmless when called again.
+    void Terminate();
     // Shows the sound button of a slide, 0 music or 1 comment, as playing or stopped.
     void BtState(int index, int typeBt, bool modePlayed);
     // Stops the music (0), the comment (1) or both (-1) and restores their buttons.

@@ -193,6 +193,10 @@ void VorlaneWidget::StartAgain() {
     });
 }
 
+void VorlaneWidget::Terminate() {
+    Do("Terminate", [&] { sheet_.Terminate(); });
+}
+
 void VorlaneWidget::InitListe(ui::ListeMode mode, ListControl* newList, const QString& newPath,
                               const QString& newPattern, std::optional<int> stdSortArgs) {
     Do("InitListe", [&] {

@@ -18,6 +18,22 @@ void VorlaneWidget::StopSound(int only) {
     Do("StopSound", [&] { sheet_.StopSound(only); });
 }
 
+bool VorlaneWidget::HaveSoundMusic(int index) const {
+    return Ask("HaveSoundMusic", false, [&] { return sheet_.Diapo.Item(index)->HaveSoundMusic(); });
+}
+
+void VorlaneWidget::SetHaveSoundMusic(int index, bool have) {
+    Do("SetHaveSoundMusic", [&] { sheet_.Diapo.Item(index)->SetHaveSoundMusic(have); });
+}
+
+bool VorlaneWidget::HaveSoundComment(int index) const {
+    return Ask("HaveSoundComment", false, [&] { return sheet_.Diapo.Item(index)->HaveSoundComment(); });
+}
+
+void VorlaneWidget::SetHaveSoundComment(int index, bool have) {
+    Do("SetHaveSoundComment", [&] { sheet_.Diapo.Item(index)->SetHaveSoundComment(have); });
+}
+
 void VorlaneWidget::ConnectSounds() {
     auto& events = sheet_.Events;
     events.ClickPlay.connect([this](int16_t index, std::string& soundFileNameToPlay, int32_t& button, int32_t canal,

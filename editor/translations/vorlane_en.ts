@@ -736,4 +736,23 @@
         <translation>Another file has the name “%1” already.</translation>
     </message>
 </context>
+<context>
+    <name>vorlane::editor::SoundButtons</name>
+    <message>
+        <source>Le son «&#xa0;%1&#xa0;» est introuvable</source>
+        <translation>The sound “%1” can&apos;t be found</translation>
+    </message>
+    <message>
+        <source>Le fichier «&#xa0;%1&#xa0;» est abîmé ou n&apos;est pas un son</source>
+        <translation>The file “%1” is damaged or no sound</translation>
+    </message>
+    <message>
+        <source>Le fichier «&#xa0;%1&#xa0;» a disparu pendant la lecture</source>
+        <translation>The file “%1” has gone while it played</translation>
+    </message>
+    <message>
+        <source>Aucun périphérique audio&#xa0;: «&#xa0;%1&#xa0;» ne s&apos;entend pas</source>
+        <translation>No audio device: “%1” can&apos;t be heard</translation>
+    </message>
+</context>
 </TS>

@@ -356,6 +356,25 @@ TEST_F(VorlaneWidgetWindows, TheSheetsWindowHasItsNumber) {
     EXPECT_EQ(widget.hDC(), widget.sheet().hDC());
 }
 
+TEST_F(VorlaneWidgetWindows, AnEndedSheetHasNoList) {
+    widget.Terminate();
+    widget.Terminate();
+    EXPECT_EQ(widget.Liste().ListCount(), 0);
+    EXPECT_EQ(errors, "");
+}
+
+TEST_F(VorlaneWidgetWindows, ASlideHasTheSoundButtonsThatItIsGiven) {
+    widget.SetHaveSoundMusic(1, true);
+    widget.SetHaveSoundComment(0, true);
+    EXPECT_TRUE(widget.HaveSoundMusic(1));
+    EXPECT_TRUE(widget.sheet().Diapo.Item(1)->BtPlayVisible());
+    EXPECT_FALSE(widget.HaveSoundMusic(0));
+    EXPECT_TRUE(widget.HaveSoundComment(0));
+    EXPECT_FALSE(widget.HaveSoundComment(1));
+    widget.SetHaveSoundMusic(1, false);
+    EXPECT_FALSE(widget.sheet().Diapo.Item(1)->BtPlayVisible());
+}
+
 TEST_F(VorlaneWidgetWindows, ANameStandsWithinItsSlide) {
     EXPECT_TRUE(widget.DiapoRect(1).contains(widget.NameRect(1)));
     EXPECT_FALSE(widget.NameRect(1).isEmpty());

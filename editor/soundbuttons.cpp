@@ -1,0 +1,90 @@
+#include "editor/soundbuttons.h"
+
+#include "editor/show.h"
+#include "widgets/vorlanewidget.h"
+
+#include <utility>
+
+#include <QFileInfo>
+
+namespace vorlane::editor {
+
+namespace {
+
+QString TroubleText(ui::SoundTrouble trouble, const QString& name) {
+    switch (trouble) {
+        case ui::SoundTrouble::Missing:
+            return SoundButtons::tr("Le son « %1 » est introuvable").arg(name);
+        case ui::SoundTrouble::Unplayable:
+            return SoundButtons::tr("Le fichier « %1 » est abîmé ou n'est pas un son").arg(name);
+        case ui::SoundTrouble::Gone:
+            return SoundButtons::tr("Le fichier « %1 » a disparu pendant la lecture").arg(name);
+        case ui::SoundTrouble::NoDevice:
+            return SoundButtons::tr("Aucun périphérique audio : « %1 » ne s'entend pas").arg(name);
+    }
+    return {};
+}
+
+bool IsMissing(const QString& file) {
+    return !file.isEmpty() && !QFileInfo::exists(file);
+}
+
+}  // namespace
+
+SoundButtons::SoundButtons(VorlaneWidget& sheet, Show& show, Finder finder, QObject* parent)
+    : QObject(parent), sheet_(sheet), finder_(std::move(finder)) {
+    sheet.SetShowDiapoTools(true);  // the room for the buttons
+    connect(&sheet, &VorlaneWidget::OnBeforeSetPicture, this,
+            [this](int slide, const QString&, SlideContent* content) { Describe(slide, *content); });
+    connect(&sheet, &VorlaneWidget::OnClickPlay, this,
+            [this](int slide, QString* file, const int* button, int, bool* play) {
+                *file = Play(slide, *button == 1);
+                *play = true;
+            });
+    connect(&sheet, &VorlaneWidget::OnSoundTrouble, this, [this](int, const QString& file, ui::SoundTrouble trouble) {
+        Q_EMIT said(TroubleText(trouble, QFileInfo(file).fileName()));
+    });
+    // The sheet knows what plays by its place in the list.
+    connect(&show, &Show::changed, this, [this] { sheet_.StopSound(); });
+}
+
+int SoundButtons::KeyOf(int slide) const {
+    const int item = sheet_.Value(slide);
+    return item < 0 ? -1 : sheet_.Key(item);
+}
+
+void SoundButtons::Describe(int slide, SlideContent& content) const {
+    const int key = KeyOf(slide);
+    const QString music = finder_(key, false);
+    const QString comment = finder_(key, true);
+    content.HaveSound = !music.isEmpty();
+    content.HaveComment = !comment.isEmpty();
+    content.InvalidMusic = IsMissing(music);
+    content.InvalidCom = IsMissing(comment);
+}
+
+QString SoundButtons::Play(int slide, bool comment) {
+    const int key = KeyOf(slide);
+    playing_.at(comment ? 1 : 0) = {key, finder_(key, comment)};
+    return playing_.at(comment ? 1 : 0).file;
+}
+
+// --- Changes ---
+
+void SoundButtons::refresh() {
+    StopChanged();
+    for (int slide = 0; slide < sheet_.CountAffiche(); ++slide) {
+        const int key = KeyOf(slide);
+        sheet_.SetHaveSoundMusic(slide, key >= 0 && !finder_(key, false).isEmpty());
+        sheet_.SetHaveSoundComment(slide, key >= 0 && !finder_(key, true).isEmpty());
+    }
+}
+
+void SoundButtons::StopChanged() {
+    for (const bool comment : {false, true}) {
+        const Playing& playing = playing_.at(comment ? 1 : 0);
+        if (playing.file != finder_(playing.key, comment)) sheet_.StopSound(comment ? 1 : 0);
+    }
+}
+
+}  // namespace vorlane::editor
