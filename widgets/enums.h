@@ -48,7 +48,7 @@ enum class ListeMode { lmFileList = 0, lmList = 1 };
 Q_ENUM_NS(ListeMode)
 
 // Where a time line's marks stand: at whole seconds, or one to a slide.
-enum class TimeMarks { etltFree = 0, etltFollowDiapo = 1 };
+enum TimeMarks : int { etltFree = 0, etltFollowDiapo = 1 };
 Q_ENUM_NS(TimeMarks)
 
 // Where the wait window stands over the sheet, and slides in from.

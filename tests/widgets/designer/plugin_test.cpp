@@ -3,7 +3,9 @@
 #include "platform/qt/qtdesktop.h"
 #include "sheet/vorlane.h"
 #include "slide/ediapolight.h"
+#include "timeline/etimeline.h"
 #include "widgets/diapolightwidget.h"
+#include "widgets/timelinewidget.h"
 #include "widgets/vorlanewidget.h"
 
 #include <gmock/gmock.h>
@@ -37,7 +39,7 @@ namespace vorlane {
 namespace {
 
 using ::testing::HasSubstr;
-using ::testing::UnorderedElementsAreArray;
+using ::testing::UnorderedElementsAre;
 
 std::string Text(const QString& text) {
     return text.toStdString();
@@ -67,7 +69,8 @@ protected:
 TEST_F(DesignerPlugin, BringsTheControlsByTheirClasses) {
     std::vector<std::string> names;
     for (const auto* control : Controls()) names.push_back(Text(control->name()));
-    EXPECT_THAT(names, UnorderedElementsAreArray({"vorlane::VorlaneWidget", "vorlane::DiapoLightWidget"}));
+    EXPECT_THAT(names,
+                UnorderedElementsAre("vorlane::VorlaneWidget", "vorlane::DiapoLightWidget", "vorlane::TimeLineWidget"));
 }
 
 TEST_F(DesignerPlugin, TellsOfEachControlItsHeaderItsIconAndWhatItIs) {
@@ -163,6 +166,9 @@ TEST_F(FormEditor, MakesControlsThatShowThemselvesAsSamples) {
     const auto* slide = Make<DiapoLightWidget>("vorlane::DiapoLightWidget");
     ASSERT_NE(slide, nullptr);
     EXPECT_FALSE(slide->slide().Ambient().UserMode);
+    const auto* timeLine = Make<TimeLineWidget>("vorlane::TimeLineWidget");
+    ASSERT_NE(timeLine, nullptr);
+    EXPECT_FALSE(timeLine->timeline().Ambient().UserMode);
 }
 
 TEST_F(FormEditor, GroupsTheirPropertiesByTopic) {
