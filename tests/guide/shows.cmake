@@ -1,0 +1,6 @@
+file(READ "${PAGE}" page)
+file(READ "${CODE}" code)
+string(FIND "${page}" "```cpp\n${code}```" place)
+if(place EQUAL -1)
+  message(FATAL_ERROR "${PAGE} does not show ${CODE} as it is")
+endif()

@@ -1,6 +1,0 @@
-file(READ "${README}" readme)
-file(READ "${HOST}" host)
-string(FIND "${readme}" "```cpp\n${host}```" place)
-if(place EQUAL -1)
-  message(FATAL_ERROR "README.md does not show ${HOST} as it is")
-endif()
