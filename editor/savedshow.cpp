@@ -173,7 +173,7 @@ SavedShow ShowOf(const Members& members, const QDir& base) {
     for (qsizetype i = 0; i < entries.size(); ++i)
         show.pictures.push_back(FileAt(entries[i].toString(), base, PlaceOf(pictures, i)));
     if (members.Has(sort)) show.order = OrderOf(members.Object(sort));
-    show.exposure = members.Whole(QLatin1String("exposure"), show.exposure, kLeastExposure, kMostExposure);
+    show.exposure = members.Whole(QLatin1String("exposure"), show.exposure, 1, kLongestExposition);
     show.sounds = SoundsOf(members.Array(QLatin1String("sounds")), base, static_cast<int>(show.pictures.size()));
     if (members.Has(origin)) show.origin = FileAt(members.Text(origin), base, origin);
     return show;

@@ -32,7 +32,7 @@ struct SavedSound {
 struct SavedShow {
     QStringList pictures{};  // in their order; absolute paths, each as often as the show has it
     SortOrder order{SortBy::Hand, false};
-    int exposure = 5;  // seconds that a picture is shown
+    int exposure = 5;  // seconds that a picture is shown, 1 to kLongestExposition
     std::vector<SavedSound> sounds{};
     QString origin{};  // of a show kept for recovery: its file, empty when it never had one
     bool operator==(const SavedShow&) const = default;
@@ -40,8 +40,6 @@ struct SavedShow {
 
 // The version of the text that is written; one of a later version is not read.
 inline constexpr int kShowVersion = 1;
-inline constexpr int kLeastExposure = 1;
-inline constexpr int kMostExposure = 3600;
 
 // base: the folder of the file.
 QByteArray ShowText(const SavedShow& show, const QDir& base);

@@ -118,6 +118,10 @@ int Strip::keyOf(int listIndex) const {
     return listIndex < 0 || listIndex >= sheet_.Liste().ListCount() ? -1 : sheet_.Key(listIndex);
 }
 
+int Strip::itemOf(int key) const {
+    return sheet_.GetListIndexFromItemData(key);
+}
+
 int Strip::showSeconds() const {
     return sheet_.Liste().ListCount() * ExpositionTime();
 }

@@ -27,6 +27,8 @@ public:
     int itemAt(double x) const;
     // The key of an item of the list, -1 for none.
     int keyOf(int listIndex) const;
+    // The place of that item in the list, -1 when it has left.
+    int itemOf(int key) const;
     // The length of the whole show, seconds.
     int showSeconds() const;
 

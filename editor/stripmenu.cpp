@@ -3,15 +3,18 @@
 #include "editor/navigator.h"
 #include "editor/preferences.h"
 #include "editor/stripsounds.h"
+#include "editor/volumepanel.h"
 #include "widgets/filekind.h"
 
 #include <algorithm>
 
 #include <QAction>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMenu>
 #include <QMenuBar>
+#include <QStandardPaths>
 
 namespace vorlane::editor {
 
@@ -23,7 +26,9 @@ StripMenu::StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator
       menu_(bar.addMenu(QString())),
       addMusic_(AddAction(QKeySequence(Qt::CTRL | Qt::Key_M))),
       addComment_(AddAction(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M))),
+      record_(AddAction(QKeySequence(Qt::CTRL | Qt::Key_R))),
       repeat_(AddAction()),
+      volumes_(AddAction()),
       removeMusic_(AddAction()),
       removeComment_(AddAction()),
       exposition_(AddAction()),
@@ -31,6 +36,7 @@ StripMenu::StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator
     menu_->insertSeparator(repeat_);
     menu_->insertSeparator(exposition_);
     repeat_->setCheckable(true);
+    record_->setCheckable(true);
     show_->setCheckable(true);
     show_->setChecked(true);
     connect(addMusic_, &QAction::triggered, this, [this] { Choose(SoundKind::Music); });
@@ -40,6 +46,10 @@ StripMenu::StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator
     connect(removeMusic_, &QAction::triggered, this, [this] { Remove(SoundKind::Music); });
     connect(removeComment_, &QAction::triggered, this, [this] { Remove(SoundKind::Comment); });
     connect(exposition_, &QAction::triggered, this, &StripMenu::ChooseExposition);
+    connect(volumes_, &QAction::triggered, this, &StripMenu::ChooseVolumes);
+    connect(record_, &QAction::triggered, this, &StripMenu::Record);
+    connect(&recorder_, &CommentRecorder::secondBegan, &strip, [&strip](int second) { strip.Record(second); });
+    connect(&recorder_, &CommentRecorder::broken, this, &StripMenu::EndRecording);
     connect(show_, &QAction::toggled, &strip, &QWidget::setVisible);
     connect(&strip, &Strip::soundsDropped, this, &StripMenu::AddTo);
     connect(&sounds, &StripSounds::changed, this, &StripMenu::ShowState);
@@ -61,6 +71,8 @@ void StripMenu::retranslate() {
     menu_->setTitle(tr("&Sons"));
     addMusic_->setText(tr("Ajouter une &musique…"));
     addComment_->setText(tr("Ajouter un &commentaire…"));
+    record_->setText(tr("&Enregistrer un commentaire"));
+    volumes_->setText(tr("&Volumes…"));
     repeat_->setText(tr("&Répéter la musique"));
     removeMusic_->setText(tr("Retirer &la musique"));
     removeComment_->setText(tr("Retirer le c&ommentaire"));
@@ -80,10 +92,13 @@ void StripMenu::ShowState() {
     repeat_->setEnabled(music.has_value());
     repeat_->setChecked(music && music->Repetition);
     removeMusic_->setEnabled(music.has_value());
-    removeComment_->setEnabled(sounds_.find(SoundKind::Comment, key).has_value());
+    const bool comment = sounds_.find(SoundKind::Comment, key).has_value();
+    removeComment_->setEnabled(comment);
+    volumes_->setEnabled(music || comment);
     const bool slides = strip_.showSeconds() > 0;
     addMusic_->setEnabled(slides);
     addComment_->setEnabled(slides);
+    record_->setEnabled(slides || recorder_.isRunning());
 }
 
 // --- Adding ---
@@ -123,6 +138,59 @@ void StripMenu::ChooseExposition() {
     const int seconds = QInputDialog::getInt(Window(), tr("Durée d'exposition"), tr("Secondes par diapositive :"),
                                              strip_.ExpositionTime(), 1, kLongestExposition, 1, &chosen);
     if (chosen) strip_.SetExpositionTime(seconds);
+}
+
+void StripMenu::ChooseVolumes() {
+    const int item = Current();
+    const auto music = sounds_.find(SoundKind::Music, strip_.keyOf(item));
+    const auto comment = sounds_.find(SoundKind::Comment, strip_.keyOf(item));
+    auto* panel = new VolumePanel(Window());
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    if (music) {
+        panel->addVolume(tr("Musique"), music->VolNormal);
+        panel->addVolume(tr("Musique pendant un commentaire"), music->VolPendantComment);
+    }
+    if (comment) panel->addVolume(tr("Commentaire"), comment->VolComment);
+    connect(panel, &QDialog::accepted, this,
+            [this, panel, item, hasMusic = music.has_value(), hasComment = comment.has_value()] {
+                std::optional<MusicVolumes> musicVolumes;
+                if (hasMusic) musicVolumes = {panel->volume(0), panel->volume(1)};
+                std::optional<int> commentVolume;
+                if (hasComment) commentVolume = panel->volume(hasMusic ? 2 : 0);
+                sounds_.setVolumes(item, musicVolumes, commentVolume);
+            });
+    panel->open();
+}
+
+// --- Recording ---
+
+void StripMenu::setFolder(const QString& folder) {
+    if (recorder_.isRunning()) EndRecording();
+    folder_ = folder;
+}
+
+void StripMenu::Record(bool on) {
+    if (!on) return EndRecording();
+    const int item = std::max(Current(), 0);
+    const QString music = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
+    const QString path = CommentRecorder::freeName(folder_.isEmpty() ? music : folder_, tr("Commentaire"));
+    const QString failure = recorder_.start(path);
+    record_->setChecked(failure.isEmpty());
+    if (!failure.isEmpty()) return Q_EMIT said(failure);
+    recordedKey_ = strip_.keyOf(item);
+    strip_.Record(0, item);
+    Q_EMIT said(tr("Parlez : le commentaire est enregistré"));
+}
+
+void StripMenu::EndRecording() {
+    const QString path = recorder_.stop();
+    record_->setChecked(false);
+    strip_.RecordEnd();
+    if (path.isEmpty()) return Q_EMIT said(tr("Le commentaire n'a pas pu être enregistré"));
+    const int item = strip_.itemOf(recordedKey_);
+    if (item >= 0) return AddTo(SoundKind::Comment, {path}, item);
+    Q_EMIT said(
+        tr("La diapositive n'est plus là ; le commentaire est dans « %1 »").arg(QDir::toNativeSeparators(path)));
 }
 
 }  // namespace vorlane::editor

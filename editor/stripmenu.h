@@ -1,7 +1,8 @@
-// StripMenu: the window's menu for sounds: adds musics and comments to the current slide, takes them away, repeats
-// them, and sets for how long each slide is shown.
+// StripMenu: the window's menu for sounds: adds musics and comments to the current slide, records comments, takes
+// sounds away, repeats them, sets their volumes and for how long each slide is shown.
 #pragma once
 
+#include "editor/commentrecorder.h"
 #include "editor/strip.h"
 
 #include <QObject>
@@ -27,8 +28,8 @@ public:
     void addFiles(SoundKind kind, const QStringList& files);
 
 public Q_SLOTS:
-    // Where a file dialog starts.
-    void setFolder(const QString& folder) { folder_ = folder; }
+    // Where a file dialog starts and recorded comments go. What is being recorded is ended, and kept.
+    void setFolder(const QString& folder);
 
 Q_SIGNALS:
     void said(const QString& notice);
@@ -41,6 +42,9 @@ private:
     void Remove(SoundKind kind);
     void AddTo(SoundKind kind, const QStringList& files, int listIndex);
     void ChooseExposition();
+    void ChooseVolumes();
+    void Record(bool on);
+    void EndRecording();
     void ShowState();
 
     Strip& strip_;
@@ -49,12 +53,16 @@ private:
     QMenu* menu_;
     QAction* addMusic_;
     QAction* addComment_;
+    QAction* record_;
     QAction* repeat_;
+    QAction* volumes_;
     QAction* removeMusic_;
     QAction* removeComment_;
     QAction* exposition_;
     QAction* show_;
     QString folder_;
+    CommentRecorder recorder_{this};
+    int recordedKey_ = -1;  // of the slide that the comment is recorded for
 };
 
 }  // namespace vorlane::editor

@@ -154,6 +154,28 @@ bool StripSounds::setRepeated(SoundKind kind, int listIndex, bool repeated) {
     return true;
 }
 
+bool StripSounds::setVolumes(int listIndex, std::optional<MusicVolumes> music, std::optional<int> comment) {
+    if (show_.isBusy() || listIndex < 0) return false;
+    const int key = sheet_.Key(listIndex);
+    std::vector<Change> changes;
+    const auto change = [&](SoundKind kind, auto&& set) {
+        const auto before = find(kind, key);
+        auto after = before;
+        if (after) set(*after);
+        if (after != before) changes.push_back({kind, key, before, after});
+    };
+    if (music) {
+        change(SoundKind::Music, [&](TimeLineSound& sound) {
+            sound.VolNormal = music->usual;
+            sound.VolPendantComment = music->underComment;
+        });
+    }
+    if (comment) change(SoundKind::Comment, [&](TimeLineSound& sound) { sound.VolComment = *comment; });
+    if (changes.empty()) return false;
+    Push(std::move(changes), tr("le volume"));
+    return true;
+}
+
 // --- The strip's collections ---
 
 // Painted once.

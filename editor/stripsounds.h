@@ -22,6 +22,11 @@ namespace vorlane::editor {
 
 class Show;
 
+struct MusicVolumes {
+    int usual = 100;
+    int underComment = 25;
+};
+
 class StripSounds : public QObject {
     Q_OBJECT
 
@@ -50,6 +55,8 @@ public:
     // False when the slide has none.
     bool remove(SoundKind kind, int listIndex);
     bool setRepeated(SoundKind kind, int listIndex, bool repeated);
+    // In percent. False for a kind that the slide has no sound of, and where nothing changes.
+    bool setVolumes(int listIndex, std::optional<MusicVolumes> music, std::optional<int> comment);
 
 Q_SIGNALS:
     void changed();

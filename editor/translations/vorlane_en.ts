@@ -593,6 +593,38 @@
         <source>Secondes par diapositive&#xa0;:</source>
         <translation>Seconds per slide:</translation>
     </message>
+    <message>
+        <source>&amp;Enregistrer un commentaire</source>
+        <translation>Record a &amp;Comment</translation>
+    </message>
+    <message>
+        <source>&amp;Volumes…</source>
+        <translation>&amp;Volumes…</translation>
+    </message>
+    <message>
+        <source>Musique</source>
+        <translation>Music</translation>
+    </message>
+    <message>
+        <source>Musique pendant un commentaire</source>
+        <translation>Music under a comment</translation>
+    </message>
+    <message>
+        <source>Commentaire</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Parlez&#xa0;: le commentaire est enregistré</source>
+        <translation>Speak: the comment is being recorded</translation>
+    </message>
+    <message>
+        <source>Le commentaire n&apos;a pas pu être enregistré</source>
+        <translation>The comment could not be recorded</translation>
+    </message>
+    <message>
+        <source>La diapositive n&apos;est plus là&#xa0;; le commentaire est dans «&#xa0;%1&#xa0;»</source>
+        <translation>The slide is gone; the comment is in “%1”</translation>
+    </message>
 </context>
 <context>
     <name>vorlane::editor::StripSounds</name>
@@ -611,6 +643,10 @@
     <message>
         <source>la fin de la répétition</source>
         <translation>End of Repetition</translation>
+    </message>
+    <message>
+        <source>le volume</source>
+        <translation>Volume</translation>
     </message>
 </context>
 <context>
@@ -753,6 +789,36 @@
     <message>
         <source>Aucun périphérique audio&#xa0;: «&#xa0;%1&#xa0;» ne s&apos;entend pas</source>
         <translation>No audio device: “%1” can&apos;t be heard</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::VolumePanel</name>
+    <message>
+        <source>Volumes</source>
+        <translation>Volumes</translation>
+    </message>
+    <message>
+        <source>&amp;Appliquer</source>
+        <translation>&amp;Apply</translation>
+    </message>
+    <message>
+        <source>A&amp;nnuler</source>
+        <translation>Ca&amp;ncel</translation>
+    </message>
+    <message>
+        <source>%L1&#xa0;%</source>
+        <translation>%L1%</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::CommentRecorder</name>
+    <message>
+        <source>Aucun microphone n&apos;est branché</source>
+        <translation>No microphone is connected</translation>
+    </message>
+    <message>
+        <source>Impossible d&apos;enregistrer «&#xa0;%1&#xa0;»&#xa0;: %2</source>
+        <translation>Can&apos;t record “%1”: %2</translation>
     </message>
 </context>
 </TS>

@@ -6,9 +6,12 @@
 #include "editor/showfile.h"
 #include "editor/stripmenu.h"
 #include "editor/stripsounds.h"
+#include "editor/volumepanel.h"
 #include "tests/editor/windowfixture.h"
 
+#include <QDir>
 #include <QScrollBar>
+#include <QSlider>
 #include <QtEndian>
 
 namespace vorlane::editor {
@@ -26,6 +29,12 @@ protected:
         qToLittleEndian(kRate, wave.data() + 28);
         qToLittleEndian(length, wave.data() + 40);
         return pictures_.Write(name, wave + QByteArray(static_cast<int>(length), '\x80'));
+    }
+    QAction& Beginning(const QString& text) {
+        for (QAction* action : window_->findChildren<QAction*>()) {
+            if (QString(action->text()).remove('&').startsWith(text)) return *action;
+        }
+        throw std::out_of_range(text.toStdString());
     }
     Strip& TheStrip() { return window_->strip(); }
     StripSounds& Sounds() { return window_->sounds(); }
@@ -278,6 +287,64 @@ TEST_F(StripTest, AShowsFileHoldsItsSoundsAndItsTime) {
     EXPECT_FALSE(window_->isWindowModified());
     EXPECT_EQ(LoadShow(path).show->exposure, 6);
     EXPECT_EQ(LoadShow(path).show->sounds, std::vector<SavedSound>{sounds[1]});
+}
+
+// --- Volumes ---
+
+TEST_F(StripTest, TheVolumesOfASlideAreSetWithAWayBack) {
+    ASSERT_TRUE(OpenPictures("abcd"));
+    Sounds().add(SoundKind::Music, {Sound("m.wav", 2)}, 1);
+    Sounds().add(SoundKind::Comment, {Sound("c.wav", 2)}, 1);
+    window_->navigator().setCurrent(1);
+    Beginning("Volumes").trigger();
+    auto* panel = window_->findChild<VolumePanel*>();
+    ASSERT_NE(panel, nullptr);
+    const auto sliders = panel->findChildren<QSlider*>();
+    ASSERT_EQ(sliders.size(), 3);
+    EXPECT_EQ(sliders[0]->value(), 100);
+    EXPECT_EQ(sliders[1]->value(), 25);
+    EXPECT_EQ(sliders[2]->value(), 100);
+    sliders[0]->setValue(80);
+    sliders[1]->setValue(10);
+    sliders[2]->setValue(60);
+    panel->accept();
+    const auto volumes = [this] {
+        const TimeLineSound music = *TheStrip().Musiques().ItemFromPos(1);
+        const TimeLineSound comment = *TheStrip().Comments().ItemFromPos(1);
+        return QList<int>{music.VolNormal, music.VolPendantComment, comment.VolComment};
+    };
+    EXPECT_EQ(volumes(), QList<int>({80, 10, 60}));
+    Undo();
+    EXPECT_EQ(volumes(), QList<int>({100, 25, 100}));
+}
+
+TEST_F(StripTest, WithoutASoundThereIsNoVolume) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    window_->navigator().setCurrent(0);
+    EXPECT_FALSE(Beginning("Volumes").isEnabled());
+    EXPECT_FALSE(Sounds().setVolumes(0, MusicVolumes{1, 2}, 3));
+    Sounds().add(SoundKind::Comment, {Sound("c.wav", 2)}, 0);
+    EXPECT_TRUE(Beginning("Volumes").isEnabled());
+    EXPECT_FALSE(Sounds().setVolumes(0, MusicVolumes{1, 2}, 100));
+    EXPECT_TRUE(Sounds().setVolumes(0, MusicVolumes{1, 2}, 3));
+}
+
+// --- Recording ---
+
+TEST_F(StripTest, WithoutAMicrophoneRecordingSaysSoAndOtherwiseItMakesAComment) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    window_->navigator().setCurrent(1);
+    QAction& record = Beginning("Enregistrer un commentaire");
+    record.trigger();
+    if (CommentRecorder::isPossible()) {
+        EXPECT_TRUE(record.isChecked());
+        record.trigger();
+        EXPECT_EQ(Told(SoundKind::Comment), "b:Commentaire 1");
+    } else {
+        EXPECT_EQ(Status(), "Aucun microphone n'est branché");
+        EXPECT_TRUE(QDir(Folder()).entryList({"*.wav"}).isEmpty());
+    }
+    EXPECT_FALSE(record.isChecked());
 }
 
 TEST_F(StripTest, AnotherFolderBeginsWithoutSounds) {
