@@ -77,7 +77,9 @@ protected:
             if (sheet->Diapo.Item(k)->Value() < 0) return "no name";
             sheet->StartEdit(ToInt16(k));
         }
-        constexpr const char* kNames[] = {"a", "A", "été", "x.y", "b c", "", "con", "a/b", "z ", "picture-1"};
+        // None of them is a part of the folder's own name, which is another each time.
+        constexpr const char* kNames[] = {"alpha", "ALPHA", "été",    "x.y",    "b c",
+                                          "",      "con",   "beta/b", "omega ", "picture-1"};
         if (Maybe(80)) sheet->Txt.SetText(kNames[Pick(0, 9)]);
         window.Router().SetFocus(&sheet->Txt);
         const int16_t key = Maybe(70) ? int16_t{13} : int16_t{27};
