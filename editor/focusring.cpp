@@ -12,6 +12,12 @@ namespace {
 
 constexpr double kWidth = 2;
 
+// All that the ring of a slide can cover.
+QRectF Around(const QRectF& slide) {
+    const double outside = 2 * kWidth;
+    return slide.isEmpty() ? slide : slide.adjusted(-outside, -outside, outside, outside);
+}
+
 }  // namespace
 
 FocusRing::FocusRing(VorlaneWidget& sheet, const Navigator& navigator)
@@ -30,15 +36,25 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void FocusRing::paintEvent(QPaintEvent*) {
-    if (!sheet_.hasFocus()) return;
+QRectF FocusRing::Slide() const {
     const int slide = navigator_.slideOf(navigator_.current());
-    if (slide < 0) return;
+    return sheet_.hasFocus() && slide >= 0 ? sheet_.DiapoRect(slide) : QRectF();
+}
+
+// A slide that makes room for a drag takes its ring along. What is painted then is the slide and the place where it
+// was, and so only a part of either ring.
+void FocusRing::paintEvent(QPaintEvent*) {
+    const QRectF slide = Slide();
+    if (slide != painted_) {
+        for (const QRectF& place : {painted_, slide}) update(Around(place).toAlignedRect());
+        painted_ = slide;
+    }
+    if (slide.isEmpty()) return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette().color(QPalette::Highlight), kWidth));
     const double outside = kWidth / 2 + 1;
-    painter.drawRoundedRect(sheet_.DiapoRect(slide).adjusted(-outside, -outside, outside, outside), 3, 3);
+    painter.drawRoundedRect(slide.adjusted(-outside, -outside, outside, outside), 3, 3);
 }
 
 }  // namespace vorlane::editor

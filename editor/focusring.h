@@ -1,6 +1,7 @@
 // FocusRing: the ring around a sheet's current slide while the sheet has the keyboard.
 #pragma once
 
+#include <QRectF>
 #include <QWidget>
 
 namespace vorlane {
@@ -23,8 +24,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    // The slide that the ring lies around, empty where there is none.
+    QRectF Slide() const;
+
     VorlaneWidget& sheet_;
     const Navigator& navigator_;
+    QRectF painted_;  // the slide as it stood when the ring was painted last
 };
 
 }  // namespace vorlane::editor

@@ -7,6 +7,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QScreen>
 #include <QWindow>
 
 namespace vorlane::editor {
@@ -223,6 +224,25 @@ TEST_F(NavigationTest, AFocusedSheetShowsItsCurrentSlide) {
     EXPECT_EQ(ring(), window_->palette().color(QPalette::Highlight));
     window_->sheet().clearFocus();
     EXPECT_EQ(ring(), window_->palette().color(QPalette::Window));
+}
+
+TEST_F(NavigationTest, TheRingGoesAlongWithASlideThatMakesRoom) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_Home);
+    ASSERT_TRUE(test::WaitFor([this] { return window_->sheet().hasFocus(); }));
+    const QRectF home = window_->sheet().DiapoRect(0);
+    const auto onScreen = [this](QPointF place) {
+        const QPoint inWindow = window_->sheet().mapTo(window_.get(), place.toPoint());
+        return window_->screen()->grabWindow(window_->winId()).toImage().pixelColor(inWindow);
+    };
+    const QColor ring = window_->palette().color(QPalette::Highlight);
+    const QColor ground = window_->palette().color(QPalette::Window);
+    const QPointF atFirst(home.left() + 5, home.top() - 2);
+    const QPointF atLast(home.right() + 40, home.top() - 2);
+    ASSERT_TRUE(test::WaitFor([&] { return onScreen(atFirst) == ring; }));
+    Slide(0).Move(home.left() + 60, home.top());
+    EXPECT_TRUE(test::WaitFor([&] { return onScreen(atLast) == ring; }));
+    EXPECT_TRUE(test::WaitFor([&] { return onScreen(atFirst) == ground; }));
 }
 
 TEST_F(NavigationTest, ASlideHasAMenu) {
