@@ -4,9 +4,13 @@
 #include "platform/desktop.h"
 
 #include <deque>
+#include <string>
+#include <unordered_map>
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QList>
 
 namespace vorlane {
 
@@ -17,10 +21,14 @@ public:
         Font font;
         QFont qfont;
         QFontMetricsF metrics;
+        mutable std::unordered_map<std::string, QList<QGlyphRun>> glyphs{};
     };
 
     // The answer stays good until ForgetFonts, or until very many other fonts have been asked for.
     const Resolved& Resolve(const Font& font) const;
+    // The glyphs of a line of text in a font of Resolve, from its left end on the baseline; they paint what the text
+    // would. nullptr for one that is to be painted as text. Laid out once, then remembered for as long as the font.
+    const QList<QGlyphRun>* Glyphs(const Resolved& font, const std::string& text) const;
     // For when the program's fonts have changed.
     void ForgetFonts() { fonts_.clear(); }
 

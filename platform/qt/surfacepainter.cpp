@@ -75,13 +75,25 @@ void SurfacePainter::operator()(const draw::FilledBox& box) {
 
 void SurfacePainter::operator()(const draw::TextOutA& text) {
     const QtTextMetrics::Resolved& font = tools_.fonts.Resolve(text.Font);
-    painter_.save();
-    painter_.translate(grid_.Edge(text.X), grid_.Edge(text.Y));
-    painter_.scale(grid_.Scale(), grid_.Scale());
-    painter_.setFont(font.qfont);
+    const QPointF place(grid_.Edge(text.X), grid_.Edge(text.Y));
+    const double scale = grid_.Scale();
     painter_.setPen(Color(text.Color));
-    painter_.drawText(QPointF(0, font.metrics.ascent()), QString::fromStdString(text.Text));
+    if (scale == 1) return Write(text.Text, font, place);
+    painter_.save();
+    painter_.translate(place);
+    painter_.scale(scale, scale);
+    Write(text.Text, font, {});
     painter_.restore();
+}
+
+void SurfacePainter::Write(const std::string& text, const QtTextMetrics::Resolved& font, const QPointF& place) {
+    const QPointF start = place + QPointF(0, font.metrics.ascent());
+    if (const QList<QGlyphRun>* runs = tools_.fonts.Glyphs(font, text)) {
+        for (const QGlyphRun& run : *runs) painter_.drawGlyphRun(start, run);
+    } else {
+        painter_.setFont(font.qfont);
+        painter_.drawText(start, QString::fromStdString(text));
+    }
 }
 
 void SurfacePainter::operator()(const draw::Polygon& polygon) {

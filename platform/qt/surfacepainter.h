@@ -6,7 +6,10 @@
 #include "platform/qt/painttools.h"
 #include "platform/qt/pixelgrid.h"
 #include "platform/qt/pixelrows.h"
+#include "platform/qt/qttextmetrics.h"
 #include "platform/surface.h"
+
+#include <string>
 
 class QColor;
 class QPainter;
@@ -35,6 +38,7 @@ private:
     QColor Color(OLE_COLOR color) const;
     QColor Color(SystemColor color) const;
     void Fill(const QRect& area, const QColor& color);
+    void Write(const std::string& text, const QtTextMetrics::Resolved& font, const QPointF& place);
     void Fill(const draw::TRIVERTEX& first, const draw::TRIVERTEX& second, bool downwards);
     // A ring of one pixel inside rect, on the sides whose bits are set.
     void Ring(const WinRect& rect, uint32_t sides, SystemColor topLeft, SystemColor bottomRight);

@@ -3,7 +3,7 @@
 #include "platform/qt/qtdesktop.h"
 #include "platform/qt/surfacepainter.h"
 
-#include <array>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -182,6 +182,35 @@ TEST_F(SurfaceReplayTest, TextsAreSharpAtEveryDensity) {
         EXPECT_GT(black, 12 * scale) << scale;
         if (scale < 2) continue;
         EXPECT_GT(black, gray / 3) << scale;
+    }
+}
+
+TEST_F(SurfaceReplayTest, RememberedGlyphsPaintWhatTheTextWould) {
+    const char* texts[] = {"0:45", "Été – 12 s", "AVATAR fi", "\xD7\xA9\xD7\x9C\xD7\x95\xD7\x9D 12", "a\tb", ""};
+    for (const bool underline : {false, true}) {
+        const Font font{"DejaVu Sans", 9, false, false, underline, false};
+        const QtTextMetrics::Resolved& resolved = desktop.metrics.Resolve(font);
+        for (const char* text : texts) {
+            for (const double scale : kScales) {
+                const QSize size = (QSizeF(kWidth, kHeight) * scale).toSize();
+                QImage expected(size, QImage::Format_RGB32);
+                expected.fill(Qt::white);
+                QPainter painter(&expected);
+                painter.translate(std::floor(4 * scale + 0.5), std::floor(6 * scale + 0.5));
+                painter.scale(scale, scale);
+                painter.setFont(resolved.qfont);
+                painter.drawText(QPointF(0, resolved.metrics.ascent()), QString::fromUtf8(text));
+                painter.end();
+                Surface surface;
+                surface.SetBackColor(0xFFFFFF);
+                surface.SetFont(font);
+                surface.TextOutA(4, 6, text);
+                for (int time = 0; time < 2; ++time) {
+                    surface.KeepImage(nullptr);
+                    ASSERT_EQ(Shown(surface, scale), expected) << text << " at " << scale;
+                }
+            }
+        }
     }
 }
 
