@@ -2,12 +2,11 @@
 // real.
 #pragma once
 
-#include <memory>
-
-#include <QAudioOutput>
-#include <QMediaPlayer>
 #include <QObject>
 #include <QString>
+
+class QAudioOutput;
+class QMediaPlayer;
 
 namespace vorlane::editor {
 
@@ -35,7 +34,8 @@ class MediaChannel final : public SoundChannel {
     Q_OBJECT
 
 public:
-    explicit MediaChannel(QObject* parent = nullptr);
+    using SoundChannel::SoundChannel;
+    ~MediaChannel() override { stop(); }
 
     void play(const QString& path, qint64 from, bool repeats) override;
     void stop() override;
@@ -43,12 +43,14 @@ public:
     void setVolume(int volume) override;
 
 private:
+    void Begin();
     void Seek();
     void End();
 
-    QAudioOutput output_;
-    QMediaPlayer player_;
-    QString path_;  // empty: nothing plays
+    QMediaPlayer* player_ = nullptr;  // of the sound that plays
+    QAudioOutput* output_ = nullptr;
+    QString path_{};
+    float volume_ = 1;
     qint64 from_ = 0;
     bool repeats_ = false;
     bool paused_ = false;

@@ -1,5 +1,9 @@
 #include "platform/qt/playingsound.h"
 
+#include "platform/qt/retiredplayer.h"
+
+#include <utility>
+
 #include <QAudioDevice>
 #include <QAudioOutput>
 #include <QFileInfo>
@@ -39,9 +43,13 @@ void PlayingSound::Start(int volume) {
     player_->play();
 }
 
+PlayingSound::~PlayingSound() {
+    Stop();
+}
+
 void PlayingSound::Stop() {
     playing_ = false;
-    if (player_ != nullptr) player_->stop();
+    if (player_ != nullptr) RetirePlayer(std::exchange(player_, nullptr), std::exchange(output_, nullptr));
 }
 
 void PlayingSound::FollowDevice() {

@@ -19,6 +19,7 @@ class PlayingSound : public QObject {
 public:
     // Plays at once, at a volume of 0 to 100 as the ear measures it.
     PlayingSound(const QString& path, int volume, QObject* parent);
+    ~PlayingSound() override;
 
     QString Path() const { return path_; }
     // Neither behind the end of the file, nor when nothing (more) of it can be played.
