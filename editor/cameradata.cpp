@@ -24,7 +24,7 @@ QString Text(const ExifData& data, ExifIfd ifd, ExifTag tag) {
     const ExifEntry* entry = Entry(data, ifd, tag, EXIF_FORMAT_ASCII);
     if (entry == nullptr) return {};
     const QByteArray bytes(reinterpret_cast<const char*>(entry->data), static_cast<qsizetype>(entry->size));
-    return QString::fromUtf8(bytes.left(bytes.indexOf('\0'))).simplified();
+    return QString::fromUtf8(bytes.constData()).simplified();  // up to the first zero, if there is one
 }
 
 double Number(ExifData& data, ExifTag tag) {

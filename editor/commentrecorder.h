@@ -28,7 +28,6 @@ public:
     // The file that was recorded; empty when nothing came of it.
     QString stop();
     bool isRunning() const { return source_ != nullptr; }
-    QString path() const { return file_ ? file_->fileName() : QString(); }
 
 Q_SIGNALS:
     // Whole seconds since the start, once a second.

@@ -99,6 +99,7 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
 
 EditorWindow::~EditorWindow() {
     show_->undoStack().disconnect(this);
+    delete keeper_;    // it hears of the show
     delete provider_;  // before the service that it serves from
     delete soundMenu_;
     delete buttons_;
@@ -145,6 +146,7 @@ void EditorWindow::changeEvent(QEvent* event) {
 }
 
 void EditorWindow::closeEvent(QCloseEvent* event) {
+    soundMenu_->endRecording();
     if (keeper_->isModified()) {
         event->ignore();
         return Leave([this] {

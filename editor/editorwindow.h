@@ -245,6 +245,7 @@ private:
     int missing_ = 0;       // those of these that are not on the disk
     QString recovered_;     // the file of the show that is being recovered
     int waiting_ = 0;       // the most slides that waited for their thumbnail since all had it
+    int begun_ = 0;         // how many folders and shows have come onto the sheet
     int deferred_ = 0;      // lots that were added and wait for the show to finish its work
     bool complete_ = true;  // all of the folder that was asked for last is on the list, or none of it will be
     QTimer slices_;

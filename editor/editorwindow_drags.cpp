@@ -20,7 +20,8 @@ void EditorWindow::ConnectDrags() {
 // The sheet takes what is dragged over it by itself; slides of its own have no other place here.
 void EditorWindow::dragEnterEvent(QDragEnterEvent* event) {
     if (drags_->areDragged() || SlideDrags::PathsOf(*event->mimeData()).isEmpty()) return;
-    event->acceptProposedAction();
+    event->setDropAction(Qt::CopyAction);  // the files stay where they are
+    event->accept();
     empty_->setDropping(true);
 }
 
@@ -32,7 +33,8 @@ void EditorWindow::dropEvent(QDropEvent* event) {
     empty_->setDropping(false);
     const QStringList paths = SlideDrags::PathsOf(*event->mimeData());
     if (paths.isEmpty()) return;
-    event->acceptProposedAction();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
     Receive(paths, -1);
 }
 

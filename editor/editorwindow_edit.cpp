@@ -120,12 +120,15 @@ void EditorWindow::addFiles(const QStringList& paths, int before) {
     additions_.add(paths, inFront ? sheet_->Key(before) : -1);
 }
 
+// What comes while a show is being read waits until all of it is there, for its sounds know the pictures by their
+// places. What was meant for another show is dropped.
 void EditorWindow::Added(const std::vector<FolderItem>& items, int beforeKey) {
-    if (show_->isBusy()) {
+    const bool readsShow = !complete_ && (!keeper_->path().isEmpty() || !recovered_.isEmpty());
+    if (show_->isBusy() || readsShow) {
         ++deferred_;
-        QTimer::singleShot(1, this, [this, items, beforeKey] {
+        QTimer::singleShot(1, this, [this, items, beforeKey, begun = begun_] {
             --deferred_;
-            Added(items, beforeKey);
+            if (begun == begun_) Added(items, beforeKey);
         });
         return;
     }

@@ -58,6 +58,7 @@ void EditorWindow::Opened(const QString& folder, int total) {
 }
 
 void EditorWindow::Begin(const Folder& folder) {
+    ++begun_;
     total_ = folder.total;
     read_ = missing_ = 0;
     additions_.clear();
@@ -103,7 +104,7 @@ QString EditorWindow::FailureText() const {
     return tr("Impossible de lire le dossier « %1 »").arg(QDir::toNativeSeparators(failed_));
 }
 
-// What is shown stays as it is.
+// What is shown stays as it is. A show that was being read has lost its end, so it is no longer that of its file.
 void EditorWindow::Failed(const QString& folder) {
     if (show_->isBusy()) {
         QTimer::singleShot(1, this, [this, folder] { Failed(folder); });
@@ -111,7 +112,12 @@ void EditorWindow::Failed(const QString& folder) {
     }
     failed_ = QDir::cleanPath(folder);
     if (!QFileInfo::exists(failed_)) recent_.remove(failed_);
-    total_ = read_;  // if another folder was being read, that has ended
+    if (read_ < total_) {
+        keeper_->begin({});
+        recovered_.clear();
+        ShowTitle();
+    }
+    total_ = read_;  // what was being read has ended
     Complete();
     Say(FailureText());
     Q_EMIT folderFailed(failed_);

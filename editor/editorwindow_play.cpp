@@ -39,7 +39,7 @@ void EditorWindow::playFromStart() {
 
 void EditorWindow::PlayFrom(int first) {
     std::optional<SavedShow> show = Present();
-    if (!show) return Say(tr("Les images sont encore en cours de lecture"));
+    if (!show) return Say(tr("La planche est encore occupée"));
     if (show->pictures.isEmpty()) return Say(tr("Il n'y a aucune image à lire"));
     if (!player_) {
         player_ = std::make_unique<ShowPlayer>(DecodeThumbnail, makeChannel_);

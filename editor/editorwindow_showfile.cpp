@@ -5,6 +5,7 @@
 #include "editor/showfile.h"
 #include "editor/showkeeper.h"
 #include "editor/strip.h"
+#include "editor/stripmenu.h"
 #include "editor/stripsounds.h"
 #include "widgets/vorlanewidget.h"
 
@@ -26,7 +27,7 @@ QString DialogFilter() {
 }
 
 QString WithExtension(const QString& path) {
-    return QFileInfo(path).suffix().isEmpty() ? path + u'.' + kShowExtension : path;
+    return IsShowFile(path) ? path : path + u'.' + kShowExtension;
 }
 
 }  // namespace
@@ -48,9 +49,9 @@ QString EditorWindow::showPath() const {
 
 // --- The show at hand ---
 
-// Nothing while it is being read.
+// Nothing while it is being read or changed.
 std::optional<SavedShow> EditorWindow::Present() const {
-    if (!complete_) return std::nullopt;
+    if (!complete_ || show_->isBusy()) return std::nullopt;
     SavedShow show;
     show.order = show_->order();
     show.exposure = strip_->ExpositionTime();
@@ -109,10 +110,15 @@ bool EditorWindow::save() {
 bool EditorWindow::saveAs() {
     const QString present = keeper_->path().isEmpty() ? folder_ : keeper_->path();
     const QString chosen = QFileDialog::getSaveFileName(this, tr("Enregistrer le diaporama"), present, DialogFilter());
-    return !chosen.isEmpty() && SaveTo(WithExtension(chosen));
+    if (chosen.isEmpty()) return false;
+    const QString path = WithExtension(chosen);
+    if (path == chosen || !QFileInfo::exists(path)) return SaveTo(path);
+    Say(tr("« %1 » existe déjà : choisissez un autre nom").arg(QFileInfo(path).fileName()));  // the dialog didn't ask
+    return false;
 }
 
 bool EditorWindow::SaveTo(const QString& path) {
+    soundMenu_->endRecording();
     const QString failure = keeper_->save(path);
     if (failure.isEmpty()) {
         recent_.add(keeper_->path());
@@ -131,6 +137,7 @@ void EditorWindow::chooseShow() {
 
 // Goes on once nothing is left that the user wants to keep; stays here when the user says so, or saving fails.
 void EditorWindow::Leave(const std::function<void()>& goOn) {
+    soundMenu_->endRecording();
     if (!keeper_->isModified()) return goOn();
     auto* box =
         new QMessageBox(QMessageBox::Warning, tr("Vorlane"),

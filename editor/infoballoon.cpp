@@ -28,7 +28,7 @@ QSize PictureSize(const QString& path) {
 
 QString ExposureText(double seconds, const QLocale& locale) {
     if (seconds >= 0.3) return locale.toString(seconds, 'g', 3) + QStringLiteral(" s");
-    return QStringLiteral("1/%1 s").arg(locale.toString(qRound(1 / seconds)));
+    return QStringLiteral("1/%1 s").arg(locale.toString(qRound64(1 / seconds)));
 }
 
 // How the picture was exposed, in a line.

@@ -17,7 +17,11 @@ PictureLoader::~PictureLoader() {
 void PictureLoader::want(const QString& path, int edge) {
     const bool known = expected_.Is(path, edge);
     wanted_ = known ? std::exchange(expected_, {}) : Known{path, edge};
-    if (!known) return Read(path, edge);
+    if (!known) {
+        pool_.clear();  // of what nobody waits for any more
+        expected_ = {};
+        return Read(path, edge);
+    }
     if (wanted_.read) Q_EMIT loaded(path, wanted_.image);
 }
 

@@ -22,7 +22,7 @@ struct SavedSound {
     int picture = 0;  // its index in the show
     QString path{};
     bool repeats = false;         // until the next one of its kind
-    bool boosted = true;          // speaks up over the other kind
+    bool boosted = true;          // kept for other players; this one plays it as it is
     int volume = 100;             // percent
     int volumeUnderComment = 25;  // of music while a comment plays
     int volumeOfComment = 100;

@@ -58,7 +58,9 @@ void Show::append(const FolderItem& item) {
 void Show::orderAppended() {
     const bool nothingElse = undo_.count() == 0;
     if (!order_.Sorts() || (order_ == SortOrder{} && nothingElse)) return;
+    const bool edited = isEdited();
     undo_.clear();  // its indices would no longer be true
+    if (edited) undo_.resetClean();
     Order(order_);
 }
 

@@ -42,7 +42,7 @@ void ShowKeeper::touch() {
 
 QString ShowKeeper::save(const QString& path) {
     const std::optional<SavedShow> show = present_();
-    if (!show) return tr("Les images sont encore en cours de lecture : enregistrez dans un instant");
+    if (!show) return tr("La planche est encore occupée : enregistrez dans un instant");
     const QString failure = SaveShow(path, *show);
     if (!failure.isEmpty()) return failure;
     path_ = QFileInfo(path).absoluteFilePath();

@@ -49,7 +49,7 @@ StripMenu::StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator
     connect(volumes_, &QAction::triggered, this, &StripMenu::ChooseVolumes);
     connect(record_, &QAction::triggered, this, &StripMenu::Record);
     connect(&recorder_, &CommentRecorder::secondBegan, &strip, [&strip](int second) { strip.Record(second); });
-    connect(&recorder_, &CommentRecorder::broken, this, &StripMenu::EndRecording);
+    connect(&recorder_, &CommentRecorder::broken, this, &StripMenu::endRecording);
     connect(show_, &QAction::toggled, &strip, &QWidget::setVisible);
     connect(&strip, &Strip::soundsDropped, this, &StripMenu::AddTo);
     connect(&sounds, &StripSounds::changed, this, &StripMenu::ShowState);
@@ -165,12 +165,12 @@ void StripMenu::ChooseVolumes() {
 // --- Recording ---
 
 void StripMenu::setFolder(const QString& folder) {
-    if (recorder_.isRunning()) EndRecording();
+    endRecording();
     folder_ = folder;
 }
 
 void StripMenu::Record(bool on) {
-    if (!on) return EndRecording();
+    if (!on) return endRecording();
     const int item = std::max(Current(), 0);
     const QString music = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
     const QString path = CommentRecorder::freeName(folder_.isEmpty() ? music : folder_, tr("Commentaire"));
@@ -179,10 +179,11 @@ void StripMenu::Record(bool on) {
     if (!failure.isEmpty()) return Q_EMIT said(failure);
     recordedKey_ = strip_.keyOf(item);
     strip_.Record(0, item);
-    Q_EMIT said(tr("Parlez : le commentaire est enregistré"));
+    Q_EMIT said(tr("Parlez : l'enregistrement est en cours"));
 }
 
-void StripMenu::EndRecording() {
+void StripMenu::endRecording() {
+    if (!recorder_.isRunning()) return;
     const QString path = recorder_.stop();
     record_->setChecked(false);
     strip_.RecordEnd();

@@ -26,6 +26,8 @@ public:
     void retranslate();
     // To the current slide, or to the first one; tells how it went.
     void addFiles(SoundKind kind, const QStringList& files);
+    // Ends the recording of a comment, if one runs, and puts it on its slide.
+    void endRecording();
 
 public Q_SLOTS:
     // Where a file dialog starts and recorded comments go. What is being recorded is ended, and kept.
@@ -44,7 +46,6 @@ private:
     void ChooseExposition();
     void ChooseVolumes();
     void Record(bool on);
-    void EndRecording();
     void ShowState();
 
     Strip& strip_;

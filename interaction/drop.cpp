@@ -161,15 +161,22 @@ void Vorlane::ShowMoved(int32_t movedAbove) {
 int32_t Vorlane::AddFiles(ListBox& list, const std::vector<DraggedFile>& files) {
     const bool sorts = sort_.SortedSens != SortSensType::ssNone;
     int32_t place = sorts ? -1 : DropPlace();
+    const int32_t before = list.ListCount();
     int32_t added = 0;
-    for (const DraggedFile& file : files) {
-        const int32_t more =
-            Trelmic6::PathExists(file.Path, PathKind::File) ? AddFile(list, file, place) : AddFolder(file.Path, place);
-        if (place >= 0) place += more;
-        added += more;
+    std::exception_ptr failed;
+    try {
+        for (const DraggedFile& file : files) {
+            const bool isFile = Trelmic6::PathExists(file.Path, PathKind::File);
+            const int32_t more = isFile ? AddFile(list, file, place) : AddFolder(file.Path, place);
+            if (place >= 0) place += more;
+            added += more;
+        }
+    } catch (...) {
+        failed = std::current_exception();
     }
-    if (added == 0) return 0;
-    sorts ? ShowSorted() : ShowDropped();
+    // What has come in before a failure shows as well.
+    if (added > 0 || list.ListCount() != before) sorts ? ShowSorted() : ShowDropped();
+    if (failed) std::rethrow_exception(failed);
     return added;
 }
 

@@ -80,8 +80,10 @@ void Vorlane::InitProperties() {
     Begin();
 }
 
-// A value that can't be read leaves its property as it was. Slides of an earlier start go: they have the old design.
+// A value that can't be read leaves its property as it was. Slides of an earlier start go: they have the old design; a
+// sheet that showed some is laid out anew.
 void Vorlane::ReadProperties(const PropertyBag& bag) {
+    const bool filled = HasSlides();
     for (int32_t k = Diapo.UpperBound(); k > 0; --k) {
         if (Diapo.Loaded(k)) Diapo.Unload(k);
     }
@@ -89,6 +91,7 @@ void Vorlane::ReadProperties(const PropertyBag& bag) {
         Attempt([&] { property.Read(*this, bag); });
     }
     Begin();
+    if (filled) TimerResize.SetEnabled(true);
 }
 
 void Vorlane::Begin() {

@@ -24,19 +24,27 @@ int32_t ClsSon::NumDiapo(int32_t key) {
     return numDiapo_;
 }
 
-void ClsSon::AnswerNumDiapo(std::function<int32_t(int32_t key)> answer, std::function<uint64_t()> state) {
+void ClsSon::AnswerNumDiapo(const void* owner, std::function<int32_t(int32_t key)> answer,
+                            std::function<uint64_t()> state) {
+    owner_ = owner;
     answer_ = std::move(answer);
     state_ = std::move(state);
     known_ = {};
 }
 
-const std::vector<int32_t>* ClsSon::KnownNumbers() {
+void ClsSon::LeaveUnanswered(const void* owner) {
+    if (owner == owner_) AnswerNumDiapo(nullptr, {});
+}
+
+const std::vector<int32_t>* ClsSon::KnownNumbers(const void* owner) {
+    if (owner != owner_) return nullptr;
     const uint64_t state = answer_ && state_ ? state_() : 0;
     if (state == 0) return nullptr;
     const bool good = known_.State == state && known_.Revision == sounds_->Revision();
     if (good) return &known_.Numbers;
-    known_ = {state, sounds_->Revision(), {}};
-    for (int32_t i = 1; i <= Count(); ++i) known_.Numbers.push_back(answer_(sounds_->Item(i).DiapoKey));
+    Known known{state, sounds_->Revision(), {}};
+    for (int32_t i = 1; i <= Count(); ++i) known.Numbers.push_back(answer_(sounds_->Item(i).DiapoKey));
+    known_ = std::move(known);
     return &known_.Numbers;
 }
 
@@ -78,7 +86,7 @@ void ClsSon::Add(const std::string& soundFileName, int32_t diapoKey, int32_t dia
 }
 
 void ClsSon::Place(const tSon& son, int32_t diapoValue) {
-    const bool known = OnlyOwnerAnswers() && KnownNumbers() != nullptr;
+    const bool known = OnlyOwnerAnswers() && KnownNumbers(owner_) != nullptr;
     const std::optional<int32_t> before =
         known ? FirstKnownBehind(son.DiapoKey, diapoValue) : FirstBehind(son.DiapoKey, diapoValue);
     if (before) {
@@ -178,13 +186,12 @@ void ClsSon::RemoveFromName(const std::string& fileName) {
     const std::string name = Trelmic6::LowerCase(fileName);
     int16_t diapoIndex = 0;
     for (int32_t index = sounds_->FindLowerName(name); index != -1; index = sounds_->FindLowerName(name)) {
-        const auto list = sounds_;
-        const tSon son = list->Item(index);
+        const tSon son = sounds_->Item(index);
         Events.csGetDiapoIndex(son.DiapoKey, diapoIndex);
         if (diapoIndex > -1) Events.csRemoveSound(son.DiapoKey, diapoIndex);
-        // A handler may have taken the sound out itself.
-        const bool stands = list == sounds_ && index <= Count() && list->Item(index) == son;
-        if (stands) sounds_->Remove(index);
+        // A handler may have taken the sound out itself, or moved it by a sort.
+        const int32_t now = sounds_->FindDiapoKey(son.DiapoKey);
+        if (now != -1 && sounds_->Item(now) == son) sounds_->Remove(now);
     }
     FollowDisplay();
 }

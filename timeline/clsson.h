@@ -94,9 +94,13 @@ public:
     void SetTypeSon(int32_t type) { typeSon_ = type; }
     // The owner's own answer to csGetNumDiapo, ahead of the event's handlers. It must not change the list. state names
     // what the answers go by: all of them stay the same as long as it is the same number; 0 where that can't be told.
-    void AnswerNumDiapo(std::function<int32_t(int32_t key)> answer, std::function<uint64_t()> state = {});
-    // The owner's answers for all sounds, in their order; nullptr without a state. Good until the next call.
-    const std::vector<int32_t>* KnownNumbers();
+    // A collection in several hands goes by the last one that answered.
+    void AnswerNumDiapo(const void* owner, std::function<int32_t(int32_t key)> answer,
+                        std::function<uint64_t()> state = {});
+    // Nothing when somebody else answers.
+    void LeaveUnanswered(const void* owner);
+    // That owner's answers for all sounds, in their order; nullptr without a state. Good until the next call.
+    const std::vector<int32_t>* KnownNumbers(const void* owner);
 
     ClsSonEvents Events;
 
@@ -121,6 +125,7 @@ private:
 
     Trelmic6 utilities_;
     std::shared_ptr<SonCollection> sounds_ = std::make_shared<SonCollection>();
+    const void* owner_ = nullptr;  // who answers; only compared
     std::function<int32_t(int32_t key)> answer_;
     std::function<uint64_t()> state_;
     Known known_;

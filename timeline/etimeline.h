@@ -378,6 +378,8 @@ private:
     Vorlane& Sheet() const;  // fails with ObjectNotSet()
     // Names what PositionOf goes by, see ListBox::DataState.
     uint64_t PositionsState() const;
+    template <class Act>
+    void ForEachCollection(Act&& act);  // as far as they are there
     void SortSounds();
 
     Trelmic6 utilities_;

@@ -49,6 +49,7 @@ tSon eTimeLine::Found::Choice(int32_t quoi) const {
 // looked for: then the first one ends the search.
 template <class Judge>
 void eTimeLine::Search(int32_t fromDiapoKey, int32_t quoi, bool forward, const Judge& judge, Found& found) const {
+    if (!Musiques() || !Comments()) throw failures::ObjectNotSet();
     const auto musics = Musiques()->CollectItem();
     const auto comments = Comments()->CollectItem();
     const int32_t from = StartOf(fromDiapoKey);
@@ -149,8 +150,10 @@ void eTimeLine::ShowMenu(bool musics, bool comments, bool onlyFiles, int32_t x, 
     menu_.MnuCtx = menu;
     const std::weak_ptr<const bool> alive = alive_;
     Attempt([&] {
-        menu->MenuTimeLine(Hwnd(), musics ? Musiques()->CollectItem() : nullptr,
-                           comments ? Comments()->CollectItem() : nullptr, onlyFiles, x, y);
+        const auto shown = [](bool wanted, const std::shared_ptr<ClsSon>& sounds) {
+            return wanted && sounds ? sounds->CollectItem() : nullptr;
+        };
+        menu->MenuTimeLine(Hwnd(), shown(musics, Musiques()), shown(comments, Comments()), onlyFiles, x, y);
     });
     if (!alive.expired()) menu_ = {};
 }

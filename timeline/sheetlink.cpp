@@ -21,20 +21,28 @@ constexpr eMnuTimeLineID kCommands[] = {emnutlPreviousSound, emnutlPreviousMusic
 
 void eTimeLine::Follow(Row& row, SonType type, std::shared_ptr<ClsSon> sounds) {
     row.Heard.clear();
-    if (row.Sounds) row.Sounds->AnswerNumDiapo({});
+    if (row.Sounds) row.Sounds->LeaveUnanswered(&row);
     row.Sounds = std::move(sounds);
     if (!row.Sounds) return;
     ClsSonEvents& events = row.Sounds->Events;
     row.Heard.emplace_back(events.csGetDiapoIndex.connect([this](int32_t key, int16_t& diapoIndex) {
         diapoIndex = link_.Sheet == nullptr ? int16_t{-1} : link_.Sheet->GetIndexFromKey(key);
     }));
-    row.Sounds->AnswerNumDiapo([this](int32_t key) { return PositionOf(key); }, [this] { return PositionsState(); });
+    row.Sounds->AnswerNumDiapo(
+        &row, [this](int32_t key) { return PositionOf(key); }, [this] { return PositionsState(); });
     row.Heard.emplace_back(events.csGetRedraw.connect([this](bool& redraw) { redraw = redraw_; }));
     row.Heard.emplace_back(events.csRemoveSound.connect(
         [this, type](int32_t key, int16_t diapoIndex) { Events.RemovedSound(type, key, diapoIndex); }));
     row.Heard.emplace_back(events.csRepaint.connect([this] {
         if (Ambient().UserMode) Paint();
     }));
+}
+
+template <class Act>
+void eTimeLine::ForEachCollection(Act&& act) {
+    for (const auto& sounds : {Musiques(), Comments()}) {
+        if (sounds) act(*sounds);
+    }
 }
 
 // --- The sheet ---
@@ -62,17 +70,14 @@ void eTimeLine::AttachVorlane(Vorlane* sheet) {
     hear(events.AfterDropAdd, [this](auto&&...) { Refresh(); });
     hear(events.KeyDown, [this](int16_t keyCode, int16_t) { KeyCommand(keyCode); });
     hear(events.OLECompleteDrag, [this](auto&&...) { SortSounds(); });
-    hear(events.Removed, [this](int16_t, int32_t key) {
-        Musiques()->Remove(key);
-        Comments()->Remove(key);
-    });
+    hear(events.Removed,
+         [this](int16_t, int32_t key) { ForEachCollection([key](ClsSon& sounds) { sounds.Remove(key); }); });
     hear(events.Sorted, [this] { SortSounds(); });
     hear(events.TLRefresh, [this] { Refresh(); });
 }
 
 void eTimeLine::SortSounds() {
-    Musiques()->Sort();
-    Comments()->Sort();
+    ForEachCollection([](ClsSon& sounds) { sounds.Sort(); });
     Refresh();
 }
 

@@ -29,7 +29,8 @@ void eTimeLine::BuildBars(const TimeScale& scale) {
     bool passedMusic = false;
     bool passedComment = false;
     const auto known = [](const Row& row) {
-        const std::vector<int32_t>* numbers = row.Sounds ? row.Sounds->KnownNumbers() : nullptr;
+        const std::vector<int32_t>* numbers = nullptr;
+        if (row.Sounds) Attempt([&] { numbers = row.Sounds->KnownNumbers(&row); });
         return numbers == nullptr ? std::vector<int32_t>() : *numbers;
     };
     const auto place = [&](Row& row, const std::vector<int32_t>& positions, int32_t i, bool& passed) {

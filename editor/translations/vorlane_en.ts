@@ -405,10 +405,6 @@
         <translation>Play from the &amp;Start</translation>
     </message>
     <message>
-        <source>Les images sont encore en cours de lecture</source>
-        <translation>The pictures are still being read</translation>
-    </message>
-    <message>
         <source>Il n&apos;y a aucune image à lire</source>
         <translation>There are no pictures to play</translation>
     </message>
@@ -427,6 +423,14 @@
     <message>
         <source>Re&amp;nommer le fichier</source>
         <translation>Re&amp;name the File</translation>
+    </message>
+    <message>
+        <source>La planche est encore occupée</source>
+        <translation>The sheet is still at work</translation>
+    </message>
+    <message>
+        <source>«&#xa0;%1&#xa0;» existe déjà&#xa0;: choisissez un autre nom</source>
+        <translation>“%1” exists already: choose another name</translation>
     </message>
 </context>
 <context>
@@ -614,16 +618,16 @@
         <translation>Comment</translation>
     </message>
     <message>
-        <source>Parlez&#xa0;: le commentaire est enregistré</source>
-        <translation>Speak: the comment is being recorded</translation>
-    </message>
-    <message>
         <source>Le commentaire n&apos;a pas pu être enregistré</source>
         <translation>The comment could not be recorded</translation>
     </message>
     <message>
         <source>La diapositive n&apos;est plus là&#xa0;; le commentaire est dans «&#xa0;%1&#xa0;»</source>
         <translation>The slide is gone; the comment is in “%1”</translation>
+    </message>
+    <message>
+        <source>Parlez&#xa0;: l&apos;enregistrement est en cours</source>
+        <translation>Speak: the recording is on</translation>
     </message>
 </context>
 <context>
@@ -711,13 +715,6 @@
     <message>
         <source>Impossible d&apos;enregistrer «&#xa0;%1&#xa0;»&#xa0;: %2</source>
         <translation>Can&apos;t save “%1”: %2</translation>
-    </message>
-</context>
-<context>
-    <name>vorlane::editor::ShowKeeper</name>
-    <message>
-        <source>Les images sont encore en cours de lecture&#xa0;: enregistrez dans un instant</source>
-        <translation>The pictures are still being read: save in a moment</translation>
     </message>
 </context>
 <context>
@@ -819,6 +816,13 @@
     <message>
         <source>Impossible d&apos;enregistrer «&#xa0;%1&#xa0;»&#xa0;: %2</source>
         <translation>Can&apos;t record “%1”: %2</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::ShowKeeper</name>
+    <message>
+        <source>La planche est encore occupée&#xa0;: enregistrez dans un instant</source>
+        <translation>The sheet is still at work: save in a moment</translation>
     </message>
 </context>
 </TS>

@@ -145,6 +145,36 @@ TEST_F(ShowFileTest, AFailedSavingLeavesTheFileAndTheMark) {
     EXPECT_TRUE(window_->isWindowModified());
 }
 
+TEST_F(ShowFileTest, AShowWhoseReadingIsCutOffIsNoLongerThatOfItsFile) {
+    const SavedShow show = OfPictures("abcdefgh");
+    const QString path = Write("a.vorlane", show);
+    ASSERT_TRUE(window_->openShow(path));
+    ASSERT_TRUE(test::WaitFor([this] { return window_->showPath() != "" || window_->isSettled(); }));
+    window_->openFolder(files_.filePath("nowhere"));
+    ASSERT_TRUE(Settle());
+    if (window_->count() == show.pictures.size()) {
+        EXPECT_EQ(window_->showPath(), path);
+    } else {
+        EXPECT_EQ(window_->showPath(), "");
+    }
+    EXPECT_EQ(LoadShow(path).show, show);
+}
+
+TEST_F(ShowFileTest, PicturesAddedWhileAShowIsReadLeaveItsSoundsAlone) {
+    SavedShow show = OfPictures("abc");
+    const QString song = files_.filePath("song.ogg");
+    show.sounds = {{SoundKind::Music, 2, song}};
+    const QString path = Write("a.vorlane", show);
+    const QString added = pictures_.WritePicture("x.jpg");
+    ASSERT_TRUE(window_->openShow(path));
+    window_->addFiles({added});
+    ASSERT_TRUE(Settle());
+    ASSERT_TRUE(window_->save());
+    const SavedShow saved = *LoadShow(path).show;
+    ASSERT_EQ(saved.sounds.size(), 1U);
+    EXPECT_EQ(saved.pictures.at(saved.sounds[0].picture), show.pictures[2]);
+}
+
 TEST_F(ShowFileTest, AFolderThatIsOnlySortedNeedsNoSaving) {
     ASSERT_TRUE(OpenPictures("abc"));
     window_->slides().sort({SortBy::Name, true});

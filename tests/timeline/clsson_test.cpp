@@ -111,6 +111,7 @@ TEST_F(ClsSonTest, WithoutAnswersTheLastOnesStand) {
 struct Owner {
     explicit Owner(ClsSon& sounds) {
         sounds.AnswerNumDiapo(
+            this,
             [this](int32_t key) {
                 ++asked;
                 return numbers.count(key) == 0 ? -1 : numbers[key];
@@ -132,16 +133,16 @@ TEST_F(ClsSonTest, WhereTheOwnerTellsWhatItsAnswersGoByEachSoundIsAskedForOnce) 
     }
     EXPECT_LE(owner.asked, 2 * 100);
     owner.asked = 0;
-    ASSERT_NE(quiet.KnownNumbers(), nullptr);
-    EXPECT_EQ(quiet.KnownNumbers()->front(), 401);
+    ASSERT_NE(quiet.KnownNumbers(this), nullptr);
+    EXPECT_EQ(quiet.KnownNumbers(this)->front(), 401);
     EXPECT_EQ(owner.asked, 0);
     owner.numbers[99] = 600;
-    EXPECT_EQ(quiet.KnownNumbers()->front(), 401) << "the owner has told of no change";
+    EXPECT_EQ(quiet.KnownNumbers(this)->front(), 401) << "the owner has told of no change";
     ++owner.state;
-    EXPECT_EQ(quiet.KnownNumbers()->front(), 600);
+    EXPECT_EQ(quiet.KnownNumbers(this)->front(), 600);
     EXPECT_EQ(owner.asked, 100);
     owner.state = 0;
-    EXPECT_EQ(quiet.KnownNumbers(), nullptr);
+    EXPECT_EQ(quiet.KnownNumbers(this), nullptr);
 }
 
 TEST_F(ClsSonTest, KnownNumbersFollowEveryChangeOfTheList) {
@@ -152,7 +153,7 @@ TEST_F(ClsSonTest, KnownNumbersFollowEveryChangeOfTheList) {
         owner.numbers[key] = key;
         quiet.Add(file, key);
     }
-    const auto known = [&] { return *quiet.KnownNumbers(); };
+    const auto known = [&] { return *quiet.KnownNumbers(this); };
     EXPECT_EQ(known(), (std::vector<int32_t>{2, 4, 8}));
     quiet.Remove(4);
     EXPECT_EQ(known(), (std::vector<int32_t>{2, 8}));
@@ -233,7 +234,7 @@ TEST_F(ClsSonTest, ASortByQuickAnswersGivesTheOrderOfTheScan) {
         const auto number = [&](int32_t key) { return numbers.at(key); };
         int32_t questions = 0;
         scanned.Events.csGetNumDiapo.connect([&](int32_t key, int32_t& answer) { answer = number(key); });
-        quick.AnswerNumDiapo([&](int32_t key) {
+        quick.AnswerNumDiapo(this, [&](int32_t key) {
             ++questions;
             return number(key);
         });
@@ -254,7 +255,7 @@ TEST_F(ClsSonTest, ASortByQuickAnswersGivesTheOrderOfTheScan) {
 TEST_F(ClsSonTest, AQuickAnswerComesAheadOfTheHandlersAndTheyAreStillAskedAtEachStep) {
     Put(1, 1);
     Put(2, 2);
-    sounds.AnswerNumDiapo([](int32_t key) { return 100 - key; });
+    sounds.AnswerNumDiapo(this, [](int32_t key) { return 100 - key; });
     sounds.Events.csGetNumDiapo.connect([](int32_t key, int32_t& number) { number = 100 - key; });
     Heard();
     sounds.Sort();

@@ -80,6 +80,44 @@ TEST_F(SheetLinkTest, WithRedrawTrueRemovedPaintsForEachSoundThatWent) {
     EXPECT_EQ(PaintsIn([&] { sheet.Events.Removed(0, key); }), 0);
 }
 
+TEST_F(SheetLinkTest, CollectionsThatChangeRowsKnowTheSlidesStill) {
+    Start();
+    const auto musics = line->Musiques();
+    const auto comments = line->Comments();
+    line->SetMusiques(comments);
+    line->SetComments(musics);
+    Music(2, 2);
+    Music(0, 2);
+    EXPECT_EQ(Sounds(), "100 102 | ");
+}
+
+TEST_F(SheetLinkTest, WithoutACollectionTheOtherOneIsKept) {
+    Start();
+    Comment(2, 2);
+    Comment(1, 2);
+    line->SetMusiques(nullptr);
+    sheet.Events.Sorted();
+    int32_t key = 101;
+    sheet.Events.Removed(0, key);
+    EXPECT_EQ(line->Comments()->Count(), 1);
+    int32_t errors = 0;
+    const auto heard = line->Events.Error.connect([&errors](auto&&...) { ++errors; });
+    line->NextSound(100, 2);
+    line->PreviousSound(103, 2);
+    EXPECT_EQ(errors, 2);
+}
+
+TEST_F(SheetLinkTest, ASortInBetweenStopsNoRemovalByName) {
+    Start();
+    Music(1, 2);
+    Music(2, 2);
+    const auto heard =
+        line->Musiques()->Events.csGetDiapoIndex.connect([this](int32_t, int16_t&) { line->Musiques()->Sort(); });
+    const std::string name = line->Musiques()->ItemFromPos(1).Nom;
+    line->Musiques()->RemoveFromName(name);
+    for (const tSon& son : line->Musiques()->NewEnum()) EXPECT_NE(son.Nom, name);
+}
+
 TEST_F(SheetLinkTest, ASortOnTheSheetSortsTheSounds) {
     Start();
     Music(1, 2);
