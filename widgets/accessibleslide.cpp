@@ -68,10 +68,6 @@ QAccessibleInterface* AccessibleSlide::parent() const {
     return widget_ ? QAccessible::queryAccessibleInterface(widget_) : nullptr;
 }
 
-void* AccessibleSlide::interface_cast(QAccessible::InterfaceType type) {
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
-}
-
 QStringList AccessibleSlide::actionNames() const {
     if (!isValid()) return {};
     return {pressAction(), toggleAction(), setFocusAction()};

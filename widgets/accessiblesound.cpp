@@ -82,10 +82,6 @@ QAccessibleInterface* AccessibleSound::parent() const {
     return widget_ ? QAccessible::queryAccessibleInterface(widget_) : nullptr;
 }
 
-void* AccessibleSound::interface_cast(QAccessible::InterfaceType type) {
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
-}
-
 QStringList AccessibleSound::actionNames() const {
     return isValid() ? QStringList(pressAction()) : QStringList();
 }
