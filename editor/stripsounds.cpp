@@ -11,9 +11,17 @@ namespace vorlane::editor {
 
 namespace {
 
-// How the core makes them where nothing else is said.
-constexpr int kVolume = 100;
-constexpr int kVolumeUnderComment = 25;
+TimeLineSound Made(const SavedSound& sound, int key, int seconds) {
+    return {static_cast<int>(sound.kind),
+            key,
+            sound.path,
+            sound.repeats,
+            seconds,
+            sound.volumeUnderComment,
+            sound.volume,
+            sound.volumeOfComment,
+            sound.boosted};
+}
 
 // The same to the ear; the length is the file's.
 bool Same(const TimeLineSound& a, const TimeLineSound& b) {
@@ -96,16 +104,7 @@ void StripSounds::clear() {
 void StripSounds::begin(const std::vector<SavedSound>& sounds) {
     sounds_ = {};
     for (const SavedSound& sound : sounds) {
-        const TimeLineSound made{static_cast<int>(sound.kind),
-                                 sound.picture,
-                                 sound.path,
-                                 sound.repeats,
-                                 0,
-                                 sound.volumeUnderComment,
-                                 sound.volume,
-                                 sound.volumeOfComment,
-                                 sound.boosted};
-        Set(sound.kind, sound.picture, made);
+        Set(sound.kind, sound.picture, Made(sound, sound.picture, 0));
     }
     follow();
 }
@@ -128,9 +127,7 @@ int StripSounds::add(SoundKind kind, const QStringList& files, int listIndex) {
         if (place >= show_.count()) break;
         const int key = sheet_.Key(place);
         const int seconds = strip_.SoundSeconds(file);
-        changes.push_back(ChangeOf(kind, key,
-                                   TimeLineSound{static_cast<int>(kind), key, file, false, seconds, kVolumeUnderComment,
-                                                 kVolume, kVolume, true}));
+        changes.push_back(ChangeOf(kind, key, Made({kind, place, file}, key, seconds)));
         place += SlidesOf(seconds, strip_.ExpositionTime());
     }
     const auto added = static_cast<int>(changes.size());

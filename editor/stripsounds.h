@@ -23,8 +23,8 @@ namespace vorlane::editor {
 class Show;
 
 struct MusicVolumes {
-    int usual = 100;
-    int underComment = 25;
+    int usual;
+    int underComment;
 };
 
 class StripSounds : public QObject {
