@@ -44,8 +44,8 @@ QString CommentRecorder::freeName(const QString& folder, const QString& stem) {
 
 QString CommentRecorder::start(const QString& path) {
     stop();
+    if (!isPossible()) return tr("Aucun microphone n'est branché");
     const QAudioDevice microphone = QMediaDevices::defaultAudioInput();
-    if (microphone.isNull()) return tr("Aucun microphone n'est branché");
     const QAudioFormat format = FormatOf(microphone);
     auto file = std::make_unique<WaveFile>(path, format);
     if (!file->begin())

@@ -30,6 +30,16 @@ QString WithExtension(const QString& path) {
     return IsShowFile(path) ? path : path + u'.' + kShowExtension;
 }
 
+// A question that stands open, not in the way of what goes on; the caller adds the answers. name: for finding it.
+QMessageBox* Question(QWidget* window, QMessageBox::Icon icon, const char* name, const QString& text,
+                      const QString& more) {
+    auto* box = new QMessageBox(icon, EditorWindow::tr("Vorlane"), text, QMessageBox::NoButton, window);
+    box->setObjectName(QLatin1String(name));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(more);
+    return box;
+}
+
 }  // namespace
 
 void EditorWindow::MakeKeeper() {
@@ -140,11 +150,8 @@ void EditorWindow::Leave(const std::function<void()>& goOn) {
     soundMenu_->endRecording();
     if (!keeper_->isModified()) return goOn();
     auto* box =
-        new QMessageBox(QMessageBox::Warning, tr("Vorlane"),
-                        tr("Enregistrer les modifications de « %1 » ?").arg(ShowName()), QMessageBox::NoButton, this);
-    box->setObjectName(QStringLiteral("unsaved"));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(tr("Les fichiers des images ne sont pas touchés."));
+        Question(this, QMessageBox::Warning, "unsaved", tr("Enregistrer les modifications de « %1 » ?").arg(ShowName()),
+                 tr("Les fichiers des images ne sont pas touchés."));
     const auto* saves = box->addButton(tr("&Enregistrer"), QMessageBox::AcceptRole);
     const auto* leaves = box->addButton(tr("&Ne pas enregistrer"), QMessageBox::DestructiveRole);
     box->setEscapeButton(box->addButton(tr("&Annuler"), QMessageBox::RejectRole));
@@ -162,11 +169,8 @@ void EditorWindow::offerRecovery() {
     const QString& file = files.front();
     const QString when = locale().toString(QFileInfo(file).lastModified(), QLocale::ShortFormat);
     auto* box =
-        new QMessageBox(QMessageBox::Question, tr("Vorlane"),
-                        tr("Un diaporama du %1 n'a pas été enregistré.").arg(when), QMessageBox::NoButton, this);
-    box->setObjectName(QStringLiteral("recovery"));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(tr("Le programme s'est arrêté avant. Voulez-vous retrouver ce diaporama ?"));
+        Question(this, QMessageBox::Question, "recovery", tr("Un diaporama du %1 n'a pas été enregistré.").arg(when),
+                 tr("Le programme s'est arrêté avant. Voulez-vous retrouver ce diaporama ?"));
     const auto* recovers = box->addButton(tr("&Retrouver"), QMessageBox::AcceptRole);
     const auto* drops = box->addButton(tr("&Supprimer"), QMessageBox::DestructiveRole);
     box->setEscapeButton(box->addButton(tr("&Plus tard"), QMessageBox::RejectRole));
