@@ -8,7 +8,6 @@
 #include <algorithm>
 
 #include <QAction>
-#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -48,9 +47,7 @@ void EditorWindow::PlayFrom(int first) {
             strip_->LectureEnd();
             navigator_->setCurrent(picture);
         });
-        connect(player_.get(), &ShowPlayer::soundFailed, this, [this](const QString& path, const QString& why) {
-            Say(tr("Impossible de lire le son « %1 » : %2").arg(QFileInfo(path).fileName(), why));
-        });
+        connect(player_.get(), &ShowPlayer::troubled, this, &EditorWindow::Say);
     }
     sheet_->StopSound();
     playedFrom_ = first;

@@ -15,7 +15,7 @@ ShowPlayer::ShowPlayer(ThumbnailDecoder decoder, const Soundtrack::MakeChannel& 
         soundtrack_.setPaused(!playing);
         window_.setPaused(!playing && playback_.isActive());
     });
-    connect(&soundtrack_, &Soundtrack::failed, this, &ShowPlayer::soundFailed);
+    connect(&soundtrack_, &Soundtrack::troubled, this, &ShowPlayer::troubled);
     connect(&window_, &PlayerWindow::pauseAsked, &playback_, &Playback::toggle);
     connect(&window_, &PlayerWindow::stepAsked, &playback_, &Playback::step);
     connect(&window_, &PlayerWindow::endAsked, &playback_, &Playback::stop);

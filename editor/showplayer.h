@@ -27,7 +27,8 @@ Q_SIGNALS:
     void secondBegan(int second);
     // picture: where it was.
     void ended(int picture);
-    void soundFailed(const QString& path, const QString& why);
+    // Something is wrong with a sound; for the user.
+    void troubled(const QString& text);
 
 private:
     void Begin(int picture, bool inTurn);

@@ -11,20 +11,6 @@ namespace vorlane::editor {
 
 namespace {
 
-QString TroubleText(ui::SoundTrouble trouble, const QString& name) {
-    switch (trouble) {
-        case ui::SoundTrouble::Missing:
-            return SoundButtons::tr("Le son « %1 » est introuvable").arg(name);
-        case ui::SoundTrouble::Unplayable:
-            return SoundButtons::tr("Le fichier « %1 » est abîmé ou n'est pas un son").arg(name);
-        case ui::SoundTrouble::Gone:
-            return SoundButtons::tr("Le fichier « %1 » a disparu pendant la lecture").arg(name);
-        case ui::SoundTrouble::NoDevice:
-            return SoundButtons::tr("Aucun périphérique audio : « %1 » ne s'entend pas").arg(name);
-    }
-    return {};
-}
-
 bool IsMissing(const QString& file) {
     return !file.isEmpty() && !QFileInfo::exists(file);
 }
@@ -41,9 +27,9 @@ SoundButtons::SoundButtons(VorlaneWidget& sheet, Show& show, Finder finder, QObj
                 *file = Play(slide, *button == 1);
                 *play = true;
             });
-    connect(&sheet, &VorlaneWidget::OnSoundTrouble, this, [this](int, const QString& file, ui::SoundTrouble trouble) {
-        Q_EMIT said(TroubleText(trouble, QFileInfo(file).fileName()));
-    });
+    connect(&sheet, &VorlaneWidget::OnSoundTrouble, this,
+            [this](int, const QString&, ui::SoundTrouble, const QString& text) { Q_EMIT said(text); });
+    connect(&sheet, &VorlaneWidget::OnSoundEnded, this, &SoundButtons::refresh);
     // The sheet knows what plays by its place in the list.
     connect(&show, &Show::changed, this, [this] { sheet_.StopSound(); });
 }

@@ -12,8 +12,9 @@ constexpr SoundKind kKinds[] = {SoundKind::Music, SoundKind::Comment};
 
 Soundtrack::Soundtrack(const MakeChannel& makeChannel, QObject* parent) : QObject(parent) {
     for (Voice& voice : voices_) {
-        voice.channel = makeChannel ? makeChannel() : std::make_unique<MediaChannel>();
-        connect(voice.channel.get(), &SoundChannel::failed, this, &Soundtrack::failed);
+        voice.channel = makeChannel ? makeChannel() : std::make_unique<SoundChannel>();
+        connect(voice.channel.get(), &SoundChannel::troubled, this,
+                [this](const QString&, ui::SoundTrouble, const QString& text) { Q_EMIT troubled(text); });
         connect(voice.channel.get(), &SoundChannel::finished, this, [this, &voice] {
             voice.sounds = false;
             SetVolumes();

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "editor/savedshow.h"
-#include "editor/soundchannel.h"
+#include "widgets/soundchannel.h"
 
 #include <array>
 #include <functional>
@@ -29,7 +29,8 @@ public:
     void stop();
 
 Q_SIGNALS:
-    void failed(const QString& path, const QString& why);
+    // Something is wrong with a sound; for the user.
+    void troubled(const QString& text);
 
 private:
     struct Voice {

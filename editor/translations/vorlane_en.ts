@@ -409,10 +409,6 @@
         <translation>There are no pictures to play</translation>
     </message>
     <message>
-        <source>Impossible de lire le son «&#xa0;%1&#xa0;»&#xa0;: %2</source>
-        <translation>Can&apos;t play the sound “%1”: %2</translation>
-    </message>
-    <message>
         <source>«&#xa0;%1&#xa0;» n&apos;a pas pu reprendre le nom «&#xa0;%2&#xa0;»</source>
         <translation>“%1” could not take the name “%2” again</translation>
     </message>
@@ -770,7 +766,7 @@
     </message>
 </context>
 <context>
-    <name>vorlane::editor::SoundButtons</name>
+    <name>vorlane::SoundTrouble</name>
     <message>
         <source>Le son «&#xa0;%1&#xa0;» est introuvable</source>
         <translation>The sound “%1” can&apos;t be found</translation>

@@ -11,8 +11,6 @@
 
 #include <QObject>
 
-class QFileSystemWatcher;
-
 namespace vorlane {
 
 class PlayingSound;
@@ -45,13 +43,8 @@ private:
         PlayingSound* playing;
     };
 
-    // Begins to look after the system's devices and the files that play.
-    void Watch();
-    void FileChanged(const QString& path);
-
     std::map<std::string, Sound> open_;
     int32_t played_ = 0;
-    QFileSystemWatcher* files_ = nullptr;
 };
 
 }  // namespace vorlane

@@ -1,29 +1,30 @@
 #include "platform/qt/soundtrouble.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace vorlane {
 
 namespace {
 
-QString Reason(SoundTrouble trouble) {
+const char* Sentence(SoundTrouble trouble) {
     switch (trouble) {
         case SoundTrouble::Missing:
-            return QStringLiteral("le fichier est introuvable");
+            return QT_TRANSLATE_NOOP("vorlane::SoundTrouble", "Le son « %1 » est introuvable");
         case SoundTrouble::Unplayable:
-            return QStringLiteral("le fichier est abîmé ou n'est pas un son");
+            return QT_TRANSLATE_NOOP("vorlane::SoundTrouble", "Le fichier « %1 » est abîmé ou n'est pas un son");
         case SoundTrouble::Gone:
-            return QStringLiteral("le fichier a disparu pendant la lecture");
+            return QT_TRANSLATE_NOOP("vorlane::SoundTrouble", "Le fichier « %1 » a disparu pendant la lecture");
         case SoundTrouble::NoDevice:
-            return QStringLiteral("aucun périphérique audio n'est disponible");
+            return QT_TRANSLATE_NOOP("vorlane::SoundTrouble", "Aucun périphérique audio : « %1 » ne s'entend pas");
     }
-    return {};
+    return "";
 }
 
 }  // namespace
 
 QString SoundTroubleText(SoundTrouble trouble, const QString& path) {
-    return QStringLiteral("%1 : %2.").arg(QFileInfo(path).fileName(), Reason(trouble));
+    return QCoreApplication::translate("vorlane::SoundTrouble", Sentence(trouble)).arg(QFileInfo(path).fileName());
 }
 
 }  // namespace vorlane

@@ -12,7 +12,8 @@ enum class SoundTrouble {
     NoDevice = 3,    // there is nothing to hear it on: it plays for its time, silently, or ends if the device has gone
 };
 
-// For the user.
+// For the user, in French; a host that shows another language installs a translator for the context
+// "vorlane::SoundTrouble".
 QString SoundTroubleText(SoundTrouble trouble, const QString& path);
 
 }  // namespace vorlane

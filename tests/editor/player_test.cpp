@@ -7,8 +7,6 @@
 #include "tests/editor/windowfixture.h"
 #include "timeline/etimeline.h"
 
-#include <QtEndian>
-
 namespace vorlane::editor {
 namespace {
 
@@ -23,25 +21,6 @@ public:
 private:
     QStringList& played_;
 };
-
-// One second of silence.
-QByteArray Wave() {
-    constexpr quint32 kRate = 8000;
-    QByteArray bytes("RIFF----WAVEfmt ----------------------data----");
-    const auto put = [&bytes](int at, auto value) { qToLittleEndian(value, bytes.data() + at); };
-    put(4, quint32{36 + kRate});
-    bytes.resize(44);
-    put(16, quint32{16});
-    put(20, quint16{1});
-    put(22, quint16{1});
-    put(24, kRate);
-    put(28, kRate);
-    put(32, quint16{1});
-    put(34, quint16{8});
-    bytes.replace(36, 4, "data");
-    put(40, kRate);
-    return bytes + QByteArray(kRate, '\x80');
-}
 
 class PlayerTest : public WindowFixture {
 protected:
@@ -167,38 +146,6 @@ TEST_F(PlayerTest, NothingToPlayIsTold) {
     window_->play();
     EXPECT_EQ(window_->player(), nullptr);
     EXPECT_EQ(Status(), QString::fromUtf8("Il n'y a aucune image à lire"));
-}
-
-// --- The real channel ---
-
-TEST_F(PlayerTest, ASoundComesToItsEnd) {
-    MediaChannel channel;
-    bool finished = false;
-    QObject::connect(&channel, &SoundChannel::finished, [&finished] { finished = true; });
-    channel.setVolume(50);
-    channel.play(pictures_.Write("a.wav", Wave()), 0, false);
-    EXPECT_TRUE(test::WaitFor([&finished] { return finished; }));
-}
-
-TEST_F(PlayerTest, ASoundThatIsOverByThenEndsAtOnce) {
-    MediaChannel channel;
-    bool finished = false;
-    QObject::connect(&channel, &SoundChannel::finished, [&finished] { finished = true; });
-    channel.play(pictures_.Write("a.wav", Wave()), 60000, false);
-    EXPECT_TRUE(test::WaitFor([&finished] { return finished; }));
-}
-
-TEST_F(PlayerTest, ASoundThatCannotBePlayedIsTold) {
-    for (const QString& path : {pictures_.Path("none.wav"), pictures_.Write("bad.wav", "no sound")}) {
-        MediaChannel channel;
-        QString failed;
-        bool finished = false;
-        QObject::connect(&channel, &SoundChannel::failed, [&failed](const QString& which) { failed = which; });
-        QObject::connect(&channel, &SoundChannel::finished, [&finished] { finished = true; });
-        channel.play(path, 0, false);
-        EXPECT_TRUE(test::WaitFor([&finished] { return finished; })) << path.toStdString();
-        EXPECT_EQ(failed, path);
-    }
 }
 
 }  // namespace

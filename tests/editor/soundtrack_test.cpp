@@ -5,6 +5,7 @@
 #include <QStringList>
 
 using namespace vorlane::editor;
+using vorlane::SoundChannel;
 
 namespace {
 
@@ -84,10 +85,9 @@ TEST_F(SoundtrackTest, PausesAndStopsBoth) {
     EXPECT_EQ(Trace(), "m: paused, c: paused, m: resumed, c: resumed, m: stop, c: stop");
 }
 
-TEST_F(SoundtrackTest, WhatFailsIsPassedOn) {
-    QStringList failures;
-    QObject::connect(&track_, &Soundtrack::failed,
-                     [&](const QString& path, const QString& why) { failures.push_back(path + "|" + why); });
-    Q_EMIT channels_[0]->failed("song", "gone");
-    EXPECT_EQ(failures, QStringList("song|gone"));
+TEST_F(SoundtrackTest, TroubleIsPassedOn) {
+    QStringList told;
+    QObject::connect(&track_, &Soundtrack::troubled, [&](const QString& text) { told.push_back(text); });
+    Q_EMIT channels_[0]->troubled("song", vorlane::ui::SoundTrouble::Gone, "the song has gone");
+    EXPECT_EQ(told, QStringList("the song has gone"));
 }

@@ -147,7 +147,7 @@ TEST_F(VorlaneWidgetSounds, AFileThatCannotBePlayedIsToldAndEnds) {
     EXPECT_TRUE(ShowsStop(0));
     EXPECT_TRUE(QTest::qWaitFor([this] { return happened.contains("ended 1"); }, kLimit));
     EXPECT_EQ(Happened(), "play 0 0 on 1, trouble 1 on 1, ended 1");
-    EXPECT_EQ(told, "text.mp3 : le fichier est abîmé ou n'est pas un son.");
+    EXPECT_EQ(told, "Le fichier « text.mp3 » est abîmé ou n'est pas un son");
     EXPECT_FALSE(ShowsStop(0));
     EXPECT_EQ(errors, "");
 }
@@ -157,7 +157,7 @@ TEST_F(VorlaneWidgetSounds, AMissingFileIsTold) {
     ClickComment(0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return !told.isEmpty(); }, kLimit));
     EXPECT_EQ(Happened(), "play 0 1 on 2, trouble 0 on 2");
-    EXPECT_EQ(told, "missing.ogg : le fichier est introuvable.");
+    EXPECT_EQ(told, "Le son « missing.ogg » est introuvable");
 }
 
 TEST_F(VorlaneWidgetSounds, OnlyTheSheetThatPlaysIsToldOfTrouble) {
