@@ -39,7 +39,7 @@ int SoundButtons::KeyOf(int slide) const {
     return item < 0 ? -1 : sheet_.Key(item);
 }
 
-void SoundButtons::Describe(int slide, SlideContent& content) const {
+void SoundButtons::Describe(int slide, SlideContent& content) {
     const int key = KeyOf(slide);
     const QString music = finder_(key, false);
     const QString comment = finder_(key, true);
@@ -47,6 +47,14 @@ void SoundButtons::Describe(int slide, SlideContent& content) const {
     content.HaveComment = !comment.isEmpty();
     content.InvalidMusic = IsMissing(music);
     content.InvalidCom = IsMissing(comment);
+    NoteMissing(key, false, content.InvalidMusic);
+    NoteMissing(key, true, content.InvalidCom);
+}
+
+// Whether that is news of the slide. The slides themselves lose their marks while they are scrolled.
+bool SoundButtons::NoteMissing(int key, bool comment, bool missing) {
+    std::set<int>& noted = missing_.at(comment ? 1 : 0);
+    return missing ? noted.insert(key).second : noted.erase(key) > 0;
 }
 
 QString SoundButtons::Play(int slide, bool comment) {
@@ -60,10 +68,21 @@ QString SoundButtons::Play(int slide, bool comment) {
 void SoundButtons::refresh() {
     StopChanged();
     for (int slide = 0; slide < sheet_.CountAffiche(); ++slide) {
-        const int key = KeyOf(slide);
-        sheet_.SetHaveSoundMusic(slide, key >= 0 && !finder_(key, false).isEmpty());
-        sheet_.SetHaveSoundComment(slide, key >= 0 && !finder_(key, true).isEmpty());
+        ShowButton(slide, false);
+        ShowButton(slide, true);
     }
+}
+
+// A button takes its picture when it comes, so one whose file has come back or is not there goes first.
+void SoundButtons::ShowButton(int slide, bool comment) {
+    const auto setHave = comment ? &VorlaneWidget::SetHaveSoundComment : &VorlaneWidget::SetHaveSoundMusic;
+    const auto setInvalid = comment ? &VorlaneWidget::SetHaveInvalidComm : &VorlaneWidget::SetHaveInvalidMusic;
+    const int key = KeyOf(slide);
+    const QString file = key < 0 ? QString() : finder_(key, comment);
+    const bool missing = IsMissing(file);
+    if (NoteMissing(key, comment, missing) || missing) (sheet_.*setHave)(slide, false);
+    (sheet_.*setInvalid)(slide, missing);
+    (sheet_.*setHave)(slide, !file.isEmpty());
 }
 
 void SoundButtons::StopChanged() {

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <functional>
+#include <set>
 
 #include <QObject>
 #include <QString>
@@ -26,7 +27,7 @@ public:
     // sheet and show outlive this.
     SoundButtons(VorlaneWidget& sheet, Show& show, Finder finder, QObject* parent = nullptr);
 
-    // What is heard on the slides has changed.
+    // What is heard on the slides has changed, or whether its files are there.
     void refresh();
 
 Q_SIGNALS:
@@ -40,13 +41,16 @@ private:
     };
 
     int KeyOf(int slide) const;
-    void Describe(int slide, SlideContent& content) const;
+    void Describe(int slide, SlideContent& content);
+    bool NoteMissing(int key, bool comment, bool missing);
+    void ShowButton(int slide, bool comment);
     QString Play(int slide, bool comment);
     void StopChanged();
 
     VorlaneWidget& sheet_;
     Finder finder_;
-    std::array<Playing, 2> playing_;  // what was played last: music, comment
+    std::array<Playing, 2> playing_;        // what was played last: music, comment
+    std::array<std::set<int>, 2> missing_;  // keys of the slides whose file was not there when they were last shown
 };
 
 }  // namespace vorlane::editor

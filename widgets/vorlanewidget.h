@@ -264,6 +264,11 @@ public:
     void SetHaveSoundMusic(int index, bool have);
     bool HaveSoundComment(int index) const;
     void SetHaveSoundComment(int index, bool have);
+    // Whether that sound's file can't be played: the button shows it from its next picture on, such as when it comes.
+    bool HaveInvalidMusic(int index) const;
+    void SetHaveInvalidMusic(int index, bool invalid);
+    bool HaveInvalidComm(int index) const;
+    void SetHaveInvalidComm(int index, bool invalid);
     // Where its name stands; empty for a slide that isn't shown or shows no name.
     QRectF NameRect(int index) const;
 

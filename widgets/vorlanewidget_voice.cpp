@@ -26,12 +26,28 @@ void VorlaneWidget::SetHaveSoundMusic(int index, bool have) {
     Do("SetHaveSoundMusic", [&] { sheet_.Diapo.Item(index)->SetHaveSoundMusic(have); });
 }
 
+bool VorlaneWidget::HaveInvalidMusic(int index) const {
+    return Ask("HaveInvalidMusic", false, [&] { return sheet_.Diapo.Item(index)->HaveInvalidMusic(); });
+}
+
+void VorlaneWidget::SetHaveInvalidMusic(int index, bool invalid) {
+    Do("SetHaveInvalidMusic", [&] { sheet_.Diapo.Item(index)->SetHaveInvalidMusic(invalid); });
+}
+
 bool VorlaneWidget::HaveSoundComment(int index) const {
     return Ask("HaveSoundComment", false, [&] { return sheet_.Diapo.Item(index)->HaveSoundComment(); });
 }
 
 void VorlaneWidget::SetHaveSoundComment(int index, bool have) {
     Do("SetHaveSoundComment", [&] { sheet_.Diapo.Item(index)->SetHaveSoundComment(have); });
+}
+
+bool VorlaneWidget::HaveInvalidComm(int index) const {
+    return Ask("HaveInvalidComm", false, [&] { return sheet_.Diapo.Item(index)->HaveInvalidComm(); });
+}
+
+void VorlaneWidget::SetHaveInvalidComm(int index, bool invalid) {
+    Do("SetHaveInvalidComm", [&] { sheet_.Diapo.Item(index)->SetHaveInvalidComm(invalid); });
 }
 
 void VorlaneWidget::ConnectSounds() {

@@ -10,6 +10,7 @@ namespace vorlane::editor {
 namespace {
 
 constexpr int kLimit = 30000;  // milliseconds that nothing here takes
+constexpr int kMissing = 6;    // the picture of a button whose file is not there
 
 class SoundButtonsTest : public WindowFixture {
 protected:
@@ -32,6 +33,9 @@ protected:
         const Box box = Button(slide, kind).BoundsInRoot();
         const QPointF place(box.Left + box.Width / 2, box.Top + box.Height / 2);
         QTest::mouseClick(&Sheet(), Qt::LeftButton, {}, place.toPoint());
+    }
+    bool Shows(int slide, SoundKind kind, int picture) {
+        return Button(slide, kind).Picture().Handle() == Sheet().sheet().ImgLstBtPlay.ListImage(picture).Handle();
     }
     bool Plays(const QString& alias) { return Sheet().Desktop().sounds.IsPlaying({alias.toStdString()}); }
 
@@ -94,10 +98,27 @@ TEST_F(SoundButtonsTest, StopWhatIsNoLongerHeardAndNothingElse) {
     EXPECT_FALSE(Plays(Sheet().AliasMusic()));
 }
 
+TEST_F(SoundButtonsTest, ShowWhetherTheirFileIsThere) {
+    for (const SoundKind kind : {SoundKind::Music, SoundKind::Comment}) {
+        const int stopped = kind == SoundKind::Music ? 3 : 4;
+        Put(1, kind, files_.Path("gone.wav"));
+        EXPECT_TRUE(Shows(1, kind, kMissing));
+        Put(1, kind, files_.WriteWave("m.wav", 60));
+        EXPECT_TRUE(Shows(1, kind, stopped));
+        QFile::remove(files_.Path("m.wav"));
+        Put(2, kind, files_.Path("gone.wav"));
+        EXPECT_TRUE(Shows(1, kind, kMissing));
+        files_.WriteWave("m.wav", 60);
+        ASSERT_TRUE(window_->sounds().remove(kind, 2));
+        EXPECT_TRUE(Shows(1, kind, stopped));
+    }
+}
+
 TEST_F(SoundButtonsTest, TellOfAFileThatIsGone) {
     Put(1, SoundKind::Music, files_.WriteWave("m.wav", 60));
     QFile::remove(files_.Path("m.wav"));
     Click(1, SoundKind::Music);
+    EXPECT_TRUE(Until([this] { return Shows(1, SoundKind::Music, kMissing); }));
     EXPECT_TRUE(Until([this] { return Status() == "Le son « m.wav » est introuvable"; }));
 }
 

@@ -375,6 +375,18 @@ TEST_F(VorlaneWidgetWindows, ASlideHasTheSoundButtonsThatItIsGiven) {
     EXPECT_FALSE(widget.sheet().Diapo.Item(1)->BtPlayVisible());
 }
 
+TEST_F(VorlaneWidgetWindows, AButtonComesWithThePictureOfASoundThatCannotBePlayed) {
+    widget.SetHaveInvalidMusic(1, true);
+    widget.SetHaveInvalidComm(0, true);
+    widget.SetHaveSoundMusic(1, true);
+    widget.SetHaveSoundComment(0, true);
+    EXPECT_TRUE(widget.HaveInvalidMusic(1) && widget.HaveInvalidComm(0));
+    EXPECT_FALSE(widget.HaveInvalidMusic(0) || widget.HaveInvalidComm(1));
+    const auto invalid = widget.sheet().ImgLstBtPlay.ListImage(6).Handle();
+    EXPECT_EQ(widget.sheet().Diapo.Item(1)->BtPlayPicture().Handle(), invalid);
+    EXPECT_EQ(widget.sheet().Diapo.Item(0)->BtCommentPicture().Handle(), invalid);
+}
+
 TEST_F(VorlaneWidgetWindows, ANameStandsWithinItsSlide) {
     EXPECT_TRUE(widget.DiapoRect(1).contains(widget.NameRect(1)));
     EXPECT_FALSE(widget.NameRect(1).isEmpty());
