@@ -141,10 +141,12 @@ void StripMenu::ChooseExposition() {
 }
 
 void StripMenu::ChooseVolumes() {
-    const int item = Current();
-    const auto music = sounds_.find(SoundKind::Music, strip_.keyOf(item));
-    const auto comment = sounds_.find(SoundKind::Comment, strip_.keyOf(item));
+    const int key = strip_.keyOf(Current());
+    const auto music = sounds_.find(SoundKind::Music, key);
+    const auto comment = sounds_.find(SoundKind::Comment, key);
+    delete volumePanel_;
     auto* panel = new VolumePanel(Window());
+    volumePanel_ = panel;
     panel->setAttribute(Qt::WA_DeleteOnClose);
     if (music) {
         panel->addVolume(tr("Musique"), music->VolNormal);
@@ -152,12 +154,12 @@ void StripMenu::ChooseVolumes() {
     }
     if (comment) panel->addVolume(tr("Commentaire"), comment->VolComment);
     connect(panel, &QDialog::accepted, this,
-            [this, panel, item, hasMusic = music.has_value(), hasComment = comment.has_value()] {
+            [this, panel, key, hasMusic = music.has_value(), hasComment = comment.has_value()] {
                 std::optional<MusicVolumes> musicVolumes;
                 if (hasMusic) musicVolumes = {panel->volume(0), panel->volume(1)};
                 std::optional<int> commentVolume;
                 if (hasComment) commentVolume = panel->volume(hasMusic ? 2 : 0);
-                sounds_.setVolumes(item, musicVolumes, commentVolume);
+                sounds_.setVolumes(key, musicVolumes, commentVolume);
             });
     panel->open();
 }
@@ -166,6 +168,7 @@ void StripMenu::ChooseVolumes() {
 
 void StripMenu::setFolder(const QString& folder) {
     endRecording();
+    delete volumePanel_;  // the keys are those of other slides from now on
     folder_ = folder;
 }
 

@@ -6,6 +6,7 @@
 #include "editor/strip.h"
 
 #include <QObject>
+#include <QPointer>
 
 class QAction;
 class QMenu;
@@ -15,6 +16,7 @@ namespace vorlane::editor {
 
 class Navigator;
 class StripSounds;
+class VolumePanel;
 
 class StripMenu : public QObject {
     Q_OBJECT
@@ -61,6 +63,7 @@ private:
     QAction* removeComment_;
     QAction* exposition_;
     QAction* show_;
+    QPointer<VolumePanel> volumePanel_;
     QString folder_;
     CommentRecorder recorder_{this};
     int recordedKey_ = -1;  // of the slide that the comment is recorded for

@@ -151,9 +151,8 @@ bool StripSounds::setRepeated(SoundKind kind, int listIndex, bool repeated) {
     return true;
 }
 
-bool StripSounds::setVolumes(int listIndex, std::optional<MusicVolumes> music, std::optional<int> comment) {
-    if (show_.isBusy() || listIndex < 0) return false;
-    const int key = sheet_.Key(listIndex);
+bool StripSounds::setVolumes(int key, std::optional<MusicVolumes> music, std::optional<int> comment) {
+    if (show_.isBusy() || sheet_.GetListIndexFromItemData(key) < 0) return false;
     std::vector<Change> changes;
     const auto change = [&](SoundKind kind, auto&& set) {
         const auto before = find(kind, key);

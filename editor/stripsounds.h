@@ -55,8 +55,9 @@ public:
     // False when the slide has none.
     bool remove(SoundKind kind, int listIndex);
     bool setRepeated(SoundKind kind, int listIndex, bool repeated);
-    // In percent. False for a kind that the slide has no sound of, and where nothing changes.
-    bool setVolumes(int listIndex, std::optional<MusicVolumes> music, std::optional<int> comment);
+    // Of the slide of that key, in percent. False for a kind that the slide has no sound of, where nothing changes, and
+    // for a slide that is not on the list.
+    bool setVolumes(int key, std::optional<MusicVolumes> music, std::optional<int> comment);
 
 Q_SIGNALS:
     void changed();

@@ -318,15 +318,58 @@ TEST_F(StripTest, TheVolumesOfASlideAreSetWithAWayBack) {
     EXPECT_EQ(volumes(), QList<int>({100, 25, 100}));
 }
 
+TEST_F(StripTest, TheVolumesStayWithTheirSlideWhileTheListChanges) {
+    ASSERT_TRUE(OpenPictures("abcd"));
+    Sounds().add(SoundKind::Comment, {Sound("b.wav", 2)}, 1);
+    Sounds().add(SoundKind::Comment, {Sound("c.wav", 2)}, 2);
+    const auto volumes = [this] {
+        QStringList told;
+        for (const TimeLineSound& sound : Sounds().all(SoundKind::Comment))
+            told.push_back(QFileInfo(sound.Nom).baseName() + QString::number(sound.VolComment));
+        return told.join(" ").toStdString();
+    };
+    const auto openPanel = [this](int slide) {
+        window_->navigator().setCurrent(slide);
+        Beginning("Volumes").trigger();
+        return window_->findChild<VolumePanel*>();
+    };
+    VolumePanel* panel = openPanel(2);
+    panel->findChild<QSlider*>()->setValue(60);
+    window_->slides().sort({SortBy::Name, true});
+    ASSERT_EQ(Letters(), "dcba");
+    panel->accept();
+    EXPECT_EQ(volumes(), "c60 b100");
+    panel = openPanel(1);
+    panel->findChild<QSlider*>()->setValue(30);
+    window_->navigator().setCurrent(1);
+    window_->removeSelected();
+    ASSERT_EQ(Letters(), "dba");
+    panel->accept();
+    EXPECT_EQ(volumes(), "b100");
+    Undo();
+    EXPECT_EQ(volumes(), "c60 b100");
+}
+
+TEST_F(StripTest, AnotherShowClosesThePanelOfVolumes) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    Sounds().add(SoundKind::Comment, {Sound("c.wav", 2)}, 0);
+    window_->navigator().setCurrent(0);
+    Beginning("Volumes").trigger();
+    ASSERT_NE(window_->findChild<VolumePanel*>(), nullptr);
+    ASSERT_TRUE(Open(Folder()));
+    EXPECT_EQ(window_->findChild<VolumePanel*>(), nullptr);
+}
+
 TEST_F(StripTest, WithoutASoundThereIsNoVolume) {
     ASSERT_TRUE(OpenPictures("ab"));
     window_->navigator().setCurrent(0);
     EXPECT_FALSE(Beginning("Volumes").isEnabled());
-    EXPECT_FALSE(Sounds().setVolumes(0, MusicVolumes{1, 2}, 3));
+    const int key = TheStrip().keyOf(0);
+    EXPECT_FALSE(Sounds().setVolumes(key, MusicVolumes{1, 2}, 3));
     Sounds().add(SoundKind::Comment, {Sound("c.wav", 2)}, 0);
     EXPECT_TRUE(Beginning("Volumes").isEnabled());
-    EXPECT_FALSE(Sounds().setVolumes(0, MusicVolumes{1, 2}, 100));
-    EXPECT_TRUE(Sounds().setVolumes(0, MusicVolumes{1, 2}, 3));
+    EXPECT_FALSE(Sounds().setVolumes(key, MusicVolumes{1, 2}, 100));
+    EXPECT_TRUE(Sounds().setVolumes(key, MusicVolumes{1, 2}, 3));
 }
 
 // --- Recording ---
