@@ -2,36 +2,17 @@
 
 #include <utility>
 
-#include <QAudioDevice>
 #include <QDir>
 #include <QFileInfo>
-#include <QMediaDevices>
 
 namespace vorlane::editor {
 
-namespace {
-
-// Speech at the quality of a disc, in one channel where the microphone can.
-QAudioFormat FormatOf(const QAudioDevice& microphone) {
-    QAudioFormat format;
-    format.setSampleRate(44100);
-    format.setChannelCount(1);
-    format.setSampleFormat(QAudioFormat::Int16);
-    return microphone.isFormatSupported(format) ? format : microphone.preferredFormat();
-}
-
-}  // namespace
-
 CommentRecorder::CommentRecorder(QObject* parent) : QObject(parent) {
-    connect(&second_, &QTimer::timeout, this, [this] { Q_EMIT secondBegan(++seconds_); });
+    connect(&second_, &QTimer::timeout, this, &CommentRecorder::CountSecond);
 }
 
 CommentRecorder::~CommentRecorder() {
     stop();
-}
-
-bool CommentRecorder::isPossible() {
-    return !QMediaDevices::defaultAudioInput().isNull();
 }
 
 QString CommentRecorder::freeName(const QString& folder, const QString& stem) {
@@ -44,33 +25,44 @@ QString CommentRecorder::freeName(const QString& folder, const QString& stem) {
 
 QString CommentRecorder::start(const QString& path) {
     stop();
-    if (!isPossible()) return tr("Aucun microphone n'est branché");
-    const QAudioDevice microphone = QMediaDevices::defaultAudioInput();
-    const QAudioFormat format = FormatOf(microphone);
-    auto file = std::make_unique<WaveFile>(path, format);
+    auto microphone = make_();
+    if (!microphone) return tr("Aucun microphone n'est branché");
+    auto file = std::make_unique<WaveFile>(path, microphone->format());
     if (!file->begin())
-        return tr("Impossible d'enregistrer « %1 » : %2").arg(QDir::toNativeSeparators(path), file->errorString());
+        return tr("Impossible d'enregistrer « %1 » : %2").arg(QDir::toNativeSeparators(path), file->failure());
     file_ = std::move(file);
-    source_ = std::make_unique<QAudioSource>(microphone, format);
-    const auto look = [this] {
-        const bool gone = source_ && source_->state() == QAudio::StoppedState && source_->error() != QAudio::NoError;
-        if (gone) Q_EMIT broken();
+    microphone_ = std::move(microphone);
+    const auto end = [this] {
+        ended_ = true;
+        Q_EMIT broken();
     };
-    connect(source_.get(), &QAudioSource::stateChanged, this, look, Qt::QueuedConnection);
+    connect(microphone_.get(), &Microphone::ended, this, end, Qt::QueuedConnection);
+    ended_ = false;
     seconds_ = 0;
     second_.start(1000);
-    source_->start(file_.get());
+    microphone_->start(*file_);
     return {};
 }
 
-QString CommentRecorder::stop() {
-    if (!source_) return {};
+// A microphone doesn't tell of a disk that is full.
+void CommentRecorder::CountSecond() {
+    if (!file_->failure().isEmpty()) return Q_EMIT broken();
+    Q_EMIT secondBegan(++seconds_);
+}
+
+Recording CommentRecorder::stop() {
+    if (!microphone_) return {};
     second_.stop();
-    source_->disconnect(this);
-    source_->stop();
-    source_.reset();
+    microphone_->disconnect(this);
+    microphone_->stop();
+    microphone_.reset();
     const auto file = std::exchange(file_, nullptr);
-    return file->finish() ? file->fileName() : QString();
+    const bool whole = file->finish();
+    const QString why = ended_ && whole ? tr("le microphone ne répond plus") : file->failure();
+    if (why.isEmpty()) return {file->fileName()};
+    if (file->hasSound()) return {file->fileName(), tr("Le commentaire est incomplet : %1").arg(why)};
+    file->remove();
+    return {{}, tr("Le commentaire n'a pas pu être enregistré : %1").arg(why)};
 }
 
 }  // namespace vorlane::editor

@@ -1,15 +1,21 @@
 // CommentRecorder: records what is spoken into the microphone, to a new wave file.
 #pragma once
 
+#include "editor/microphone.h"
 #include "editor/wavefile.h"
 
 #include <memory>
 
-#include <QAudioSource>
 #include <QObject>
 #include <QTimer>
 
 namespace vorlane::editor {
+
+// What came of a recording.
+struct Recording {
+    QString path{};     // empty when there is nothing to be heard
+    QString failure{};  // a sentence for the user on why there is less than was spoken, or nothing; else empty
+};
 
 class CommentRecorder : public QObject {
     Q_OBJECT
@@ -18,28 +24,31 @@ public:
     explicit CommentRecorder(QObject* parent = nullptr);
     ~CommentRecorder() override;
 
-    // Whether there is a microphone.
-    static bool isPossible();
+    // At first the system's.
+    void setMicrophone(MakeMicrophone make) { make_ = std::move(make); }
     // The first of the names "<stem> 1.wav", "<stem> 2.wav" and so on that is free in the folder.
     static QString freeName(const QString& folder, const QString& stem);
 
     // Gives a sentence for the user when that fails, else an empty text.
     QString start(const QString& path);
-    // The file that was recorded; empty when nothing came of it.
-    QString stop();
-    bool isRunning() const { return source_ != nullptr; }
+    Recording stop();
+    bool isRunning() const { return microphone_ != nullptr; }
 
 Q_SIGNALS:
     // Whole seconds since the start, once a second.
     void secondBegan(int second);
-    // The microphone has gone, or the disk is full; what came until then is kept.
+    // The microphone has gone, or the disk is full: nothing more is recorded.
     void broken();
 
 private:
+    void CountSecond();
+
+    MakeMicrophone make_ = SystemMicrophone;
     std::unique_ptr<WaveFile> file_;
-    std::unique_ptr<QAudioSource> source_;
+    std::unique_ptr<Microphone> microphone_;
     QTimer second_{this};
     int seconds_ = 0;
+    bool ended_ = false;  // the microphone, by itself
 };
 
 }  // namespace vorlane::editor

@@ -187,14 +187,17 @@ void StripMenu::Record(bool on) {
 
 void StripMenu::endRecording() {
     if (!recorder_.isRunning()) return;
-    const QString path = recorder_.stop();
+    const Recording recording = recorder_.stop();
     record_->setChecked(false);
     strip_.RecordEnd();
-    if (path.isEmpty()) return Q_EMIT said(tr("Le commentaire n'a pas pu être enregistré"));
+    const QString file = QDir::toNativeSeparators(recording.path);
     const int item = strip_.itemOf(recordedKey_);
-    if (item >= 0) return AddTo(SoundKind::Comment, {path}, item);
-    Q_EMIT said(
-        tr("La diapositive n'est plus là ; le commentaire est dans « %1 »").arg(QDir::toNativeSeparators(path)));
+    if (!recording.path.isEmpty() && item >= 0) {
+        AddTo(SoundKind::Comment, {recording.path}, item);
+    } else if (!recording.path.isEmpty()) {
+        Q_EMIT said(tr("La diapositive n'est plus là ; le commentaire est dans « %1 »").arg(file));
+    }
+    if (!recording.failure.isEmpty()) Q_EMIT said(recording.failure);
 }
 
 }  // namespace vorlane::editor

@@ -30,6 +30,8 @@ public:
     void addFiles(SoundKind kind, const QStringList& files);
     // Ends the recording of a comment, if one runs, and puts it on its slide.
     void endRecording();
+    // Where recorded comments come from; at first the system's microphone.
+    void setMicrophone(MakeMicrophone make) { recorder_.setMicrophone(std::move(make)); }
 
 public Q_SLOTS:
     // Where a file dialog starts and recorded comments go. What is being recorded is ended, and kept.

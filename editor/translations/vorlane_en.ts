@@ -614,10 +614,6 @@
         <translation>Comment</translation>
     </message>
     <message>
-        <source>Le commentaire n&apos;a pas pu être enregistré</source>
-        <translation>The comment could not be recorded</translation>
-    </message>
-    <message>
         <source>La diapositive n&apos;est plus là&#xa0;; le commentaire est dans «&#xa0;%1&#xa0;»</source>
         <translation>The slide is gone; the comment is in “%1”</translation>
     </message>
@@ -801,6 +797,60 @@
     <message>
         <source>%L1&#xa0;%</source>
         <translation>%L1%</translation>
+    </message>
+    <message>
+        <source>le microphone ne répond plus</source>
+        <translation>the microphone does not answer any more</translation>
+    </message>
+    <message>
+        <source>Le commentaire est incomplet&#xa0;: %1</source>
+        <translation>The comment is incomplete: %1</translation>
+    </message>
+    <message>
+        <source>Le commentaire n&apos;a pas pu être enregistré&#xa0;: %1</source>
+        <translation>The comment could not be recorded: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vorlane::editor::RecoveryPanel</name>
+    <message>
+        <source>Diaporamas non enregistrés</source>
+        <translation>Unsaved slide shows</translation>
+    </message>
+    <message>
+        <source>Le programme s&apos;est arrêté avant que ces diaporamas ne soient enregistrés. Lequel voulez-vous retrouver&#xa0;?</source>
+        <translation>The program ended before these slide shows were saved. Which one would you like to recover?</translation>
+    </message>
+    <message>
+        <source>&amp;Retrouver</source>
+        <translation>&amp;Recover</translation>
+    </message>
+    <message>
+        <source>&amp;Supprimer</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>&amp;Plus tard</source>
+        <translation>&amp;Later</translation>
+    </message>
+    <message>
+        <source>Sans fichier</source>
+        <translation>Without a file</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln image(s)</source>
+        <translation>
+            <numerusform>%Ln picture</numerusform>
+            <numerusform>%Ln pictures</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2&#xa0;: %3</source>
+        <translation>%1, %2: %3</translation>
+    </message>
+    <message>
+        <source>%1&#xa0;: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

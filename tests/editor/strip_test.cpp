@@ -7,7 +7,10 @@
 #include "editor/stripmenu.h"
 #include "editor/stripsounds.h"
 #include "editor/volumepanel.h"
+#include "tests/editor/fakemicrophone.h"
 #include "tests/editor/windowfixture.h"
+
+#include <cerrno>
 
 #include <QDir>
 #include <QScrollBar>
@@ -66,10 +69,22 @@ protected:
         QCoreApplication::sendEvent(&TheStrip(), &drop);
         return drop.isAccepted();
     }
+    QAction& StartRecording() {
+        window_->soundMenu().setMicrophone([this] {
+            auto microphone = std::make_unique<test::FakeMicrophone>();
+            microphone_ = microphone.get();
+            return microphone;
+        });
+        QAction& record = Beginning("Enregistrer un commentaire");
+        record.trigger();
+        return record;
+    }
     int MiddleOf(int item) const {
         const QRectF slide = window_->sheet().DiapoRect(item);
         return static_cast<int>(slide.center().x());
     }
+
+    test::FakeMicrophone* microphone_ = nullptr;  // of the last recording
 };
 
 // --- In step ---
@@ -374,20 +389,39 @@ TEST_F(StripTest, WithoutASoundThereIsNoVolume) {
 
 // --- Recording ---
 
-TEST_F(StripTest, WithoutAMicrophoneRecordingSaysSoAndOtherwiseItMakesAComment) {
+TEST_F(StripTest, WithoutAMicrophoneRecordingSaysSo) {
     ASSERT_TRUE(OpenPictures("ab"));
-    window_->navigator().setCurrent(1);
+    window_->soundMenu().setMicrophone([] { return nullptr; });
     QAction& record = Beginning("Enregistrer un commentaire");
     record.trigger();
-    if (CommentRecorder::isPossible()) {
-        EXPECT_TRUE(record.isChecked());
-        record.trigger();
-        EXPECT_EQ(Told(SoundKind::Comment), "b:Commentaire 1");
-    } else {
-        EXPECT_EQ(Status(), "Aucun microphone n'est branché");
-        EXPECT_TRUE(QDir(Folder()).entryList({"*.wav"}).isEmpty());
-    }
+    EXPECT_EQ(Status(), "Aucun microphone n'est branché");
+    EXPECT_TRUE(QDir(Folder()).entryList({"*.wav"}).isEmpty());
     EXPECT_FALSE(record.isChecked());
+}
+
+TEST_F(StripTest, ARecordingMakesAComment) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    window_->navigator().setCurrent(1);
+    QAction& record = StartRecording();
+    EXPECT_TRUE(record.isChecked());
+    EXPECT_TRUE(microphone_->Hear(2));
+    record.trigger();
+    EXPECT_EQ(Told(SoundKind::Comment), "b:Commentaire 1");
+    EXPECT_EQ(Status(), "1 commentaire ajouté");
+    EXPECT_FALSE(record.isChecked());
+}
+
+TEST_F(StripTest, ARecordingThatFailsTellsTheReason) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    window_->navigator().setCurrent(0);
+    QAction& record = StartRecording();
+    {
+        const test::FullDisk full(144);
+        EXPECT_FALSE(microphone_->Hear(2));
+        record.trigger();
+    }
+    EXPECT_EQ(Told(SoundKind::Comment), "a:Commentaire 1");
+    EXPECT_TRUE(Status().endsWith(qt_error_string(EFBIG))) << Status().toStdString();
 }
 
 TEST_F(StripTest, AnotherFolderBeginsWithoutSounds) {

@@ -1,13 +1,15 @@
 #include "editor/wavefile.h"
 
-#include "editor/commentrecorder.h"
+#include "tests/editor/fakemicrophone.h"
 
+#include <cerrno>
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 #include <QtEndian>
 
 using namespace vorlane::editor;
+namespace test = vorlane::test;
 
 namespace {
 
@@ -74,13 +76,24 @@ TEST_F(WaveFileTest, AFileThatIsThereIsLeftAlone) {
     there.close();
     WaveFile file(path_, format_);
     EXPECT_FALSE(file.begin());
+    EXPECT_EQ(file.failure(), qt_error_string(EEXIST));
     EXPECT_FALSE(file.finish());
     EXPECT_EQ(BytesOf(path_), "mine");
 }
 
-TEST_F(WaveFileTest, TheNamesOfCommentsAreCountedOn) {
-    const QString first = CommentRecorder::freeName(folder_.path(), "Commentaire");
-    EXPECT_EQ(first, folder_.filePath("Commentaire 1.wav"));
-    ASSERT_TRUE(QFile::link("nowhere", first));
-    EXPECT_EQ(CommentRecorder::freeName(folder_.path(), "Commentaire"), folder_.filePath("Commentaire 2.wav"));
+TEST_F(WaveFileTest, TheReasonOfAFailureIsKept) {
+    WaveFile file(path_, format_);
+    ASSERT_TRUE(file.begin());
+    EXPECT_FALSE(file.hasSound());
+    {
+        const test::FullDisk full(100);
+        EXPECT_EQ(file.write(QByteArray(50, 'x')), 50);
+        EXPECT_EQ(file.failure(), "");
+        EXPECT_EQ(file.write(QByteArray(50, 'x')), 6);
+        EXPECT_EQ(file.write(QByteArray(50, 'x')), -1);
+    }
+    EXPECT_EQ(file.failure(), qt_error_string(EFBIG));
+    EXPECT_TRUE(file.hasSound());
+    EXPECT_FALSE(file.finish());
+    EXPECT_EQ(Number(BytesOf(path_), 40), 56U);
 }
