@@ -2,7 +2,26 @@
 
 #include <utility>
 
+#include <QFileInfo>
+
 namespace vorlane::editor {
+
+namespace {
+
+ReadPicture PictureFrom(const QString& path, const ThumbnailDecoded& decoded) {
+    using State = ReadPicture::State;
+    switch (decoded.state) {
+        case ThumbnailDecoded::State::Fine:
+            return {State::Fine, decoded.thumbnail.image};
+        case ThumbnailDecoded::State::Broken:
+            return {State::Damaged};
+        case ThumbnailDecoded::State::Unreadable:
+            return {QFileInfo::exists(path) ? State::Unreadable : State::Missing};
+    }
+    return {};
+}
+
+}  // namespace
 
 PictureLoader::PictureLoader(ThumbnailDecoder decoder, QObject* parent)
     : QObject(parent), decoder_(std::move(decoder)) {
@@ -22,7 +41,7 @@ void PictureLoader::want(const QString& path, int edge) {
         expected_ = {};
         return Read(path, edge);
     }
-    if (wanted_.read) Q_EMIT loaded(path, wanted_.image);
+    if (wanted_.read) Q_EMIT loaded(path, wanted_.picture);
 }
 
 void PictureLoader::expect(const QString& path, int edge) {
@@ -39,18 +58,18 @@ void PictureLoader::forget() {
 // The pool is done before this ends, so this is there to be called.
 void PictureLoader::Read(const QString& path, int edge) {
     pool_.start([this, path, edge, decoder = decoder_] {
-        const QImage image = decoder(path, edge).thumbnail.image;
+        const ReadPicture picture = PictureFrom(path, decoder(path, edge));
         QMetaObject::invokeMethod(
-            this, [this, path, edge, image] { Done(path, edge, image); }, Qt::QueuedConnection);
+            this, [this, path, edge, picture] { Done(path, edge, picture); }, Qt::QueuedConnection);
     });
 }
 
-void PictureLoader::Done(const QString& path, int edge, const QImage& image) {
+void PictureLoader::Done(const QString& path, int edge, const ReadPicture& picture) {
     for (Known* known : {&wanted_, &expected_}) {
         if (!known->Is(path, edge) || known->read) continue;
-        known->image = image;
+        known->picture = picture;
         known->read = true;
-        if (known == &wanted_) Q_EMIT loaded(path, image);
+        if (known == &wanted_) Q_EMIT loaded(path, picture);
     }
 }
 

@@ -11,6 +11,13 @@
 
 namespace vorlane::editor {
 
+// What came of reading a picture's file.
+struct ReadPicture {
+    enum class State { Fine, Missing, Unreadable, Damaged };
+    State state = State::Fine;
+    QImage image{};  // null unless all is fine
+};
+
 class PictureLoader : public QObject {
     Q_OBJECT
 
@@ -26,20 +33,19 @@ public:
     void forget();
 
 Q_SIGNALS:
-    // image: null for what can't be read.
-    void loaded(const QString& path, const QImage& image);
+    void loaded(const QString& path, const vorlane::editor::ReadPicture& picture);
 
 private:
     struct Known {
         QString path;
         int edge = 0;
-        QImage image{};
+        ReadPicture picture{};
         bool read = false;
         bool Is(const QString& other, int size) const { return path == other && edge == size; }
     };
 
     void Read(const QString& path, int edge);
-    void Done(const QString& path, int edge, const QImage& image);
+    void Done(const QString& path, int edge, const ReadPicture& picture);
 
     ThumbnailDecoder decoder_;
     QThreadPool pool_;

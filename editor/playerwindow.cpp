@@ -12,8 +12,26 @@ namespace vorlane::editor {
 namespace {
 
 constexpr int kPointerTime = 1500;  // milliseconds that the pointer shows after a move
-constexpr int kTextMargin = 24;     // pixels
+constexpr int kNoticeTime = 6000;   // milliseconds
+constexpr int kTextMargin = 24;     // pixels, from the window's edges
+constexpr QMargins kTextPadding(12, 6, 12, 6);
+constexpr int kTextGap = 6;
 constexpr QColor kText(0xd8, 0xd8, 0xd8);
+
+QString TroubleText(const QString& path, ReadPicture::State state) {
+    const QString name = QFileInfo(path).fileName();
+    switch (state) {
+        case ReadPicture::State::Fine:
+            return {};
+        case ReadPicture::State::Missing:
+            return PlayerWindow::tr("Image introuvable : %1").arg(name);
+        case ReadPicture::State::Unreadable:
+            return PlayerWindow::tr("Image illisible : %1").arg(name);
+        case ReadPicture::State::Damaged:
+            return PlayerWindow::tr("Image abîmée : %1").arg(name);
+    }
+    return {};
+}
 
 }  // namespace
 
@@ -38,6 +56,11 @@ PlayerWindow::PlayerWindow(ThumbnailDecoder decoder, QWidget* parent)
     connect(&loader_, &PictureLoader::loaded, this, &PlayerWindow::Take);
     restless_.setSingleShot(true);
     connect(&restless_, &QTimer::timeout, this, [this] { setCursor(Qt::BlankCursor); });
+    noticeEnd_.setSingleShot(true);
+    connect(&noticeEnd_, &QTimer::timeout, this, [this] {
+        notice_.clear();
+        update();
+    });
 }
 
 void PlayerWindow::present(const QString& path) {
@@ -52,15 +75,27 @@ void PlayerWindow::setPaused(bool paused) {
     if (std::exchange(paused_, paused) != paused) update();
 }
 
+void PlayerWindow::tell(const QString& notice) {
+    notice_ = notice;
+    noticeEnd_.start(kNoticeTime);
+    update();
+}
+
+QStringList PlayerWindow::texts() const {
+    QStringList texts{trouble_, notice_, paused_ ? tr("Pause") : QString()};
+    texts.removeAll(QString());
+    return texts;
+}
+
 // The window's longer side in the pixels of its screen.
 int PlayerWindow::Edge() const {
     const QSizeF pixels = QSizeF(size()) * devicePixelRatioF();
     return qRound(std::max(pixels.width(), pixels.height()));
 }
 
-void PlayerWindow::Take(const QString& path, const QImage& image) {
-    former_ = std::exchange(picture_, image);
-    missing_ = image.isNull() ? QFileInfo(path).fileName() : QString();
+void PlayerWindow::Take(const QString& path, const ReadPicture& picture) {
+    former_ = std::exchange(picture_, picture.image);
+    trouble_ = TroubleText(path, picture.state);
     fading_.stop();
     fade_ = 0;  // the animation itself begins with its first step
     fading_.start();
@@ -75,8 +110,7 @@ void PlayerWindow::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     DrawFitted(painter, former_, 1 - fade_);
     DrawFitted(painter, picture_, fade_);
-    if (!missing_.isEmpty()) DrawText(painter, tr("Image introuvable : %1").arg(missing_));
-    if (paused_) DrawText(painter, tr("Pause"));
+    DrawTexts(painter);
 }
 
 // Two pictures that fade into each other add up, so that what they share does not darken on the way.
@@ -92,17 +126,23 @@ void PlayerWindow::DrawFitted(QPainter& painter, const QImage& image, double opa
     painter.setOpacity(1);
 }
 
-void PlayerWindow::DrawText(QPainter& painter, const QString& text) const {
-    const int flags = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextSingleLine;
-    const QRect within = rect().adjusted(kTextMargin, kTextMargin, -kTextMargin, -kTextMargin);
-    QRect ground = painter.fontMetrics().boundingRect(within, flags, text);
-    ground.adjust(-12, -6, 12, 6);
+// From the bottom up.
+void PlayerWindow::DrawTexts(QPainter& painter) const {
+    QRect room = rect().marginsRemoved({kTextMargin, kTextMargin, kTextMargin, kTextMargin});
+    const QStringList lines = texts();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 170));
-    painter.drawRoundedRect(ground, 6, 6);
-    painter.setPen(kText);
-    painter.drawText(within, flags, text);
+    for (auto line = lines.crbegin(); line != lines.crend(); ++line) {
+        const QRect within = room.marginsRemoved(kTextPadding);
+        const QString text = painter.fontMetrics().elidedText(*line, Qt::ElideMiddle, within.width());
+        const QRect place = painter.fontMetrics().boundingRect(within, Qt::AlignHCenter | Qt::AlignBottom, text);
+        const QRect ground = place.marginsAdded(kTextPadding);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0, 0, 0, 170));
+        painter.drawRoundedRect(ground, 6, 6);
+        painter.setPen(kText);
+        painter.drawText(place, Qt::AlignCenter, text);
+        room.setBottom(ground.top() - kTextGap);
+    }
 }
 
 // --- The user ---
@@ -112,7 +152,8 @@ void PlayerWindow::closeEvent(QCloseEvent* event) {
     loader_.forget();
     fading_.stop();
     picture_ = former_ = {};
-    missing_.clear();
+    trouble_.clear();
+    notice_.clear();
     Q_EMIT endAsked();
 }
 

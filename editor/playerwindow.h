@@ -5,6 +5,7 @@
 #include "editor/pictureloader.h"
 
 #include <QImage>
+#include <QStringList>
 #include <QTimer>
 #include <QVariantAnimation>
 #include <QWidget>
@@ -24,6 +25,10 @@ public:
     // The one that comes after it.
     void expect(const QString& path);
     void setPaused(bool paused);
+    // Shows it over the pictures, for a moment.
+    void tell(const QString& notice);
+    // What stands over the picture at present, one below the other.
+    QStringList texts() const;
     // How far the present picture has come out of the one before: 0 to 1.
     double fade() const { return fade_; }
     const QImage& picture() const { return picture_; }
@@ -42,16 +47,18 @@ protected:
 
 private:
     int Edge() const;
-    void Take(const QString& path, const QImage& image);
+    void Take(const QString& path, const ReadPicture& picture);
     void DrawFitted(QPainter& painter, const QImage& image, double opacity) const;
-    void DrawText(QPainter& painter, const QString& text) const;
+    void DrawTexts(QPainter& painter) const;
 
     PictureLoader loader_;
     QVariantAnimation fading_{this};
     QTimer restless_{this};  // runs while the pointer has moved a moment ago, and shows
+    QTimer noticeEnd_{this};
     QImage former_;
     QImage picture_;
-    QString missing_;  // the name of a picture that can't be read
+    QString trouble_;  // with the picture that should show
+    QString notice_;
     double fade_ = 1;
     bool paused_ = false;
 };

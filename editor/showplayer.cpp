@@ -16,6 +16,7 @@ ShowPlayer::ShowPlayer(ThumbnailDecoder decoder, const Soundtrack::MakeChannel& 
         window_.setPaused(!playing && playback_.isActive());
     });
     connect(&soundtrack_, &Soundtrack::troubled, this, &ShowPlayer::troubled);
+    connect(&soundtrack_, &Soundtrack::troubled, &window_, &PlayerWindow::tell);
     connect(&window_, &PlayerWindow::pauseAsked, &playback_, &Playback::toggle);
     connect(&window_, &PlayerWindow::stepAsked, &playback_, &Playback::step);
     connect(&window_, &PlayerWindow::endAsked, &playback_, &Playback::stop);

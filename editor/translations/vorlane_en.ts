@@ -701,6 +701,14 @@
         <translation>Can&apos;t open “%1”: %2</translation>
     </message>
     <message>
+        <source>Image illisible&#xa0;: %1</source>
+        <translation>Picture can&apos;t be read: %1</translation>
+    </message>
+    <message>
+        <source>Image abîmée&#xa0;: %1</source>
+        <translation>Picture is damaged: %1</translation>
+    </message>
+    <message>
         <source>le fichier est trop grand pour un diaporama</source>
         <translation>the file is too large for a slide show</translation>
     </message>

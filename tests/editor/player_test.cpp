@@ -37,6 +37,7 @@ protected:
             return std::abs(seen.red() - color.red()) < 6 && std::abs(seen.blue() - color.blue()) < 6;
         });
     }
+    QStringList Texts() { return Player().window().texts(); }
     void PressInPlayer(int key) { QTest::keyClick(&Player().window(), static_cast<Qt::Key>(key)); }
     bool OpenColors() {
         pictures_.WritePicture("a.jpg", Qt::red);
@@ -100,15 +101,61 @@ TEST_F(PlayerTest, EndsByItselfAfterTheLastPicture) {
     EXPECT_EQ(window_->navigator().current(), 2);
 }
 
-TEST_F(PlayerTest, APictureThatIsGoneIsNamedAndThePlayGoesOn) {
+TEST_F(PlayerTest, APictureThatCannotBeShownIsNamedWithTheReasonAndThePlayGoesOn) {
     ASSERT_TRUE(OpenColors());
-    ASSERT_TRUE(QFile::remove(pictures_.Path("b.jpg")));
+    pictures_.Write("b.jpg", "This is no picture.");
+    ASSERT_TRUE(QFile::remove(pictures_.Path("c.jpg")));
     window_->playFromStart();
     ASSERT_TRUE(Shows(Qt::red));
+    EXPECT_TRUE(Texts().isEmpty());
     PressInPlayer(Qt::Key_Right);
-    EXPECT_TRUE(test::WaitFor([this] { return Player().window().picture().isNull(); }));
+    EXPECT_TRUE(test::WaitFor([this] { return Texts() == QStringList("Image abîmée : b.jpg"); }));
     PressInPlayer(Qt::Key_Right);
+    EXPECT_TRUE(test::WaitFor([this] { return Texts() == QStringList("Image introuvable : c.jpg"); }));
+    EXPECT_TRUE(Player().window().picture().isNull());
+    PressInPlayer(Qt::Key_Left);
+    PressInPlayer(Qt::Key_Left);
     EXPECT_TRUE(Shows(Qt::red));
+    EXPECT_TRUE(Texts().isEmpty());
+}
+
+TEST_F(PlayerTest, TextsStandOneBelowTheOther) {
+    ASSERT_TRUE(OpenColors());
+    ASSERT_TRUE(QFile::remove(pictures_.Path("a.jpg")));
+    const auto lit = [this] {  // rows in which something is written
+        const QImage image = Player().window().grab().toImage();
+        int rows = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            bool any = false;
+            for (int x = 0; x < image.width(); ++x) any = any || qGray(image.pixel(x, y)) > 60;
+            rows += any ? 1 : 0;
+        }
+        return rows;
+    };
+    window_->playFromStart();
+    ASSERT_TRUE(test::WaitFor([this] { return Texts().size() == 1; }));
+    const int missing = lit();
+    EXPECT_GT(missing, 0);
+    PressInPlayer(Qt::Key_Space);
+    ASSERT_EQ(Texts().size(), 2);
+    const int both = lit();
+    Player().window().tell("Pause");
+    EXPECT_EQ(lit() - both, both - missing);
+    EXPECT_GT(both, missing);
+}
+
+TEST_F(PlayerTest, TroubleWithASoundStandsOverThePicture) {
+    ASSERT_TRUE(OpenColors());
+    std::vector<SilentChannel*> channels;
+    window_->setSoundChannels([&] {
+        auto channel = std::make_unique<SilentChannel>(played_);
+        channels.push_back(channel.get());
+        return channel;
+    });
+    window_->playFromStart();
+    Q_EMIT channels.at(0)->troubled("song.ogg", ui::SoundTrouble::Missing, "no song");
+    EXPECT_EQ(Texts(), QStringList("no song"));
+    EXPECT_EQ(Status(), "no song");
 }
 
 TEST_F(PlayerTest, TheSoundsOfTheShowArePlayed) {
