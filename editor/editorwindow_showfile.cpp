@@ -1,6 +1,7 @@
 // Shows in files: opening, saving, what isn't saved yet, and what another run of the program left.
 #include "editor/editorwindow.h"
 #include "editor/navigator.h"
+#include "editor/recoverypanel.h"
 #include "editor/show.h"
 #include "editor/showfile.h"
 #include "editor/showkeeper.h"
@@ -14,7 +15,6 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -28,16 +28,6 @@ QString DialogFilter() {
 
 QString WithExtension(const QString& path) {
     return IsShowFile(path) ? path : path + u'.' + kShowExtension;
-}
-
-// A question that stands open, not in the way of what goes on; the caller adds the answers. name: for finding it.
-QMessageBox* Question(QWidget* window, QMessageBox::Icon icon, const char* name, const QString& text,
-                      const QString& more) {
-    auto* box = new QMessageBox(icon, EditorWindow::tr("Vorlane"), text, QMessageBox::NoButton, window);
-    box->setObjectName(QLatin1String(name));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(more);
-    return box;
 }
 
 }  // namespace
@@ -149,9 +139,11 @@ void EditorWindow::chooseShow() {
 void EditorWindow::Leave(const std::function<void()>& goOn) {
     soundMenu_->endRecording();
     if (!keeper_->isModified()) return goOn();
-    auto* box =
-        Question(this, QMessageBox::Warning, "unsaved", tr("Enregistrer les modifications de « %1 » ?").arg(ShowName()),
-                 tr("Les fichiers des images ne sont pas touchés."));
+    const QString question = tr("Enregistrer les modifications de « %1 » ?").arg(ShowName());
+    auto* box = new QMessageBox(QMessageBox::Warning, tr("Vorlane"), question, QMessageBox::NoButton, this);
+    box->setObjectName(QStringLiteral("unsaved"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(tr("Les fichiers des images ne sont pas touchés."));
     const auto* saves = box->addButton(tr("&Enregistrer"), QMessageBox::AcceptRole);
     const auto* leaves = box->addButton(tr("&Ne pas enregistrer"), QMessageBox::DestructiveRole);
     box->setEscapeButton(box->addButton(tr("&Annuler"), QMessageBox::RejectRole));
@@ -164,27 +156,23 @@ void EditorWindow::Leave(const std::function<void()>& goOn) {
 // --- What another run left ---
 
 void EditorWindow::offerRecovery() {
-    const QStringList files = keeper_->recovery().abandoned();
-    if (files.isEmpty()) return;
-    const QString& file = files.front();
-    const QString when = locale().toString(QFileInfo(file).lastModified(), QLocale::ShortFormat);
-    auto* box =
-        Question(this, QMessageBox::Question, "recovery", tr("Un diaporama du %1 n'a pas été enregistré.").arg(when),
-                 tr("Le programme s'est arrêté avant. Voulez-vous retrouver ce diaporama ?"));
-    const auto* recovers = box->addButton(tr("&Retrouver"), QMessageBox::AcceptRole);
-    const auto* drops = box->addButton(tr("&Supprimer"), QMessageBox::DestructiveRole);
-    box->setEscapeButton(box->addButton(tr("&Plus tard"), QMessageBox::RejectRole));
-    connect(box, &QMessageBox::buttonClicked, this, [this, file, recovers, drops](const QAbstractButton* clicked) {
-        if (clicked == recovers) Leave([this, file] { Recover(file); });
-        if (clicked == drops) keeper_->recovery().drop(file);
-    });
-    box->open();
+    const std::vector<AbandonedShow> shows = keeper_->recovery().abandoned();
+    if (shows.empty()) return;
+    auto* panel = new RecoveryPanel(shows, this);
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    connect(panel, &RecoveryPanel::recoverAsked, this,
+            [this](const QString& file) { Leave([this, file] { Recover(file); }); });
+    connect(panel, &RecoveryPanel::dropAsked, this, [this](const QString& file) { keeper_->recovery().drop(file); });
+    panel->open();
 }
 
 // The file goes once this run keeps the show itself.
 void EditorWindow::Recover(const QString& file) {
     ShowReading reading = LoadShow(file);
-    if (!reading.show) return Say(reading.failure);
+    if (!reading.show) {
+        Say(reading.failure);
+        return offerRecovery();
+    }
     const QString origin = std::exchange(reading.show->origin, {});
     Load(std::move(*reading.show), origin);
     loading_->recovered = file;

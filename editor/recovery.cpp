@@ -29,10 +29,6 @@ std::unique_ptr<QLockFile> Lock(const QString& file) {
 
 Recovery::Recovery(QString folder) : folder_(std::move(folder)) {}
 
-Recovery::~Recovery() {
-    forget();
-}
-
 QString Recovery::UsualFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QStringLiteral("/recovery");
 }
@@ -55,15 +51,22 @@ void Recovery::forget() {
     file_.clear();
 }
 
-QStringList Recovery::abandoned() const {
+std::vector<AbandonedShow> Recovery::abandoned() const {
     if (folder_.isEmpty()) return {};
-    QStringList files;
+    std::vector<AbandonedShow> shows;
     const QDir folder(folder_, QStringLiteral("*.") + kShowExtension, QDir::Time, QDir::Files);
-    for (const QString& name : folder.entryList()) {
-        const QString file = folder.filePath(name);
-        if (file != file_ && Lock(file)) files.push_back(file);
+    for (const QFileInfo& entry : folder.entryInfoList()) {
+        const QString file = entry.filePath();
+        if (file == file_ || !Lock(file)) continue;
+        const ShowReading reading = LoadShow(file);
+        AbandonedShow show{file, entry.lastModified(), reading.failure};
+        if (reading.show) {
+            show.origin = reading.show->origin;
+            show.pictures = static_cast<int>(reading.show->pictures.size());
+        }
+        shows.push_back(std::move(show));
     }
-    return files;
+    return shows;
 }
 
 void Recovery::drop(const QString& file) const {

@@ -5,17 +5,27 @@
 #include "editor/savedshow.h"
 
 #include <memory>
+#include <vector>
 
+#include <QDateTime>
 #include <QLockFile>
-#include <QStringList>
+#include <QString>
 
 namespace vorlane::editor {
+
+// A show that a program left which runs no more.
+struct AbandonedShow {
+    QString file;
+    QDateTime when;    // it was kept
+    QString failure;   // a sentence for the user on why it can't be read; empty when it can
+    QString origin{};  // the file that the show belongs to; empty: none
+    int pictures = 0;
+};
 
 class Recovery {
 public:
     // folder is made when something is kept. An empty one keeps nothing.
     explicit Recovery(QString folder);
-    ~Recovery();
     Recovery(const Recovery&) = delete;
     Recovery& operator=(const Recovery&) = delete;
 
@@ -24,11 +34,12 @@ public:
 
     // Replaces what was kept before. Gives a sentence for the user when that fails, else an empty text.
     QString keep(const SavedShow& show);
-    // There is nothing unsaved any more.
+    // There is nothing unsaved any more, or what there is is not wanted. Without this, what is kept stays for another
+    // run.
     void forget();
 
-    // The files that programs left which run no more, the youngest first.
-    QStringList abandoned() const;
+    // The youngest first.
+    std::vector<AbandonedShow> abandoned() const;
     // Removes an abandoned file; not one that is in use.
     void drop(const QString& file) const;
 

@@ -373,26 +373,6 @@
         <translation>&amp;Don&apos;t Save</translation>
     </message>
     <message>
-        <source>Un diaporama du %1 n&apos;a pas été enregistré.</source>
-        <translation>A slide show of %1 has not been saved.</translation>
-    </message>
-    <message>
-        <source>Le programme s&apos;est arrêté avant. Voulez-vous retrouver ce diaporama&#xa0;?</source>
-        <translation>The program ended before. Do you want this slide show back?</translation>
-    </message>
-    <message>
-        <source>&amp;Retrouver</source>
-        <translation>&amp;Recover</translation>
-    </message>
-    <message>
-        <source>&amp;Supprimer</source>
-        <translation>&amp;Delete</translation>
-    </message>
-    <message>
-        <source>&amp;Plus tard</source>
-        <translation>&amp;Later</translation>
-    </message>
-    <message>
         <source>&amp;Diaporama</source>
         <translation>Sli&amp;de Show</translation>
     </message>
@@ -701,14 +681,6 @@
         <translation>Can&apos;t open “%1”: %2</translation>
     </message>
     <message>
-        <source>Image illisible&#xa0;: %1</source>
-        <translation>Picture can&apos;t be read: %1</translation>
-    </message>
-    <message>
-        <source>Image abîmée&#xa0;: %1</source>
-        <translation>Picture is damaged: %1</translation>
-    </message>
-    <message>
         <source>le fichier est trop grand pour un diaporama</source>
         <translation>the file is too large for a slide show</translation>
     </message>
@@ -726,6 +698,14 @@
     <message>
         <source>Image introuvable&#xa0;: %1</source>
         <translation>Picture not found: %1</translation>
+    </message>
+    <message>
+        <source>Image illisible&#xa0;: %1</source>
+        <translation>Picture can&apos;t be read: %1</translation>
+    </message>
+    <message>
+        <source>Image abîmée&#xa0;: %1</source>
+        <translation>Picture is damaged: %1</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -806,6 +786,17 @@
         <source>%L1&#xa0;%</source>
         <translation>%L1%</translation>
     </message>
+</context>
+<context>
+    <name>vorlane::editor::CommentRecorder</name>
+    <message>
+        <source>Aucun microphone n&apos;est branché</source>
+        <translation>No microphone is connected</translation>
+    </message>
+    <message>
+        <source>Impossible d&apos;enregistrer «&#xa0;%1&#xa0;»&#xa0;: %2</source>
+        <translation>Can&apos;t record “%1”: %2</translation>
+    </message>
     <message>
         <source>le microphone ne répond plus</source>
         <translation>the microphone does not answer any more</translation>
@@ -859,17 +850,6 @@
     <message>
         <source>%1&#xa0;: %2</source>
         <translation>%1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>vorlane::editor::CommentRecorder</name>
-    <message>
-        <source>Aucun microphone n&apos;est branché</source>
-        <translation>No microphone is connected</translation>
-    </message>
-    <message>
-        <source>Impossible d&apos;enregistrer «&#xa0;%1&#xa0;»&#xa0;: %2</source>
-        <translation>Can&apos;t record “%1”: %2</translation>
     </message>
 </context>
 <context>

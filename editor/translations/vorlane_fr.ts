@@ -36,6 +36,16 @@
     </message>
 </context>
 <context>
+    <name>vorlane::editor::RecoveryPanel</name>
+    <message numerus="yes">
+        <source>%Ln image(s)</source>
+        <translation>
+            <numerusform>%Ln image</numerusform>
+            <numerusform>%Ln images</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>vorlane::editor::StatusPanel</name>
     <message numerus="yes">
         <source>%Ln image(s)</source>

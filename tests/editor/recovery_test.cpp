@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -19,18 +21,24 @@ protected:
         return show;
     }
     // What a program leaves that ended without letting go: its file, and the lock of a process that is no more.
-    QString Leave(const SavedShow& show) {
-        Recovery other(Folder());
-        EXPECT_EQ(other.keep(show), "");
-        const QString name = QDir(Folder()).entryList({"*.vorlane"}).value(0);
-        const QString left = Folder() + "/left.vorlane";
-        EXPECT_TRUE(QFile::copy(Folder() + "/" + name, left));
+    QString Leave(const SavedShow& show, const QString& name = "left", int minutesAgo = 0) {
+        const QString left = Folder() + "/" + name + ".vorlane";
+        EXPECT_TRUE(QDir().mkpath(Folder()));
+        EXPECT_EQ(SaveShow(left, show), "");
         QFile lock(left + ".lock");
         EXPECT_TRUE(lock.open(QIODevice::WriteOnly));
         lock.write("2147483646\nvorlane-editor\n");
         lock.write(QSysInfo::machineHostName().toUtf8() + "\n");
+        SetAge(left, minutesAgo);
         return left;
     }
+    static void SetAge(const QString& path, int minutes) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+        const QDateTime when = QDateTime::currentDateTime().addSecs(-60 * minutes);
+        EXPECT_TRUE(file.setFileTime(when, QFileDevice::FileModificationTime));
+    }
+    QStringList Kept() const { return QDir(Folder()).entryList({"*.vorlane"}); }
     QString Folder() const { return folder_.filePath("recovery"); }
 
     QTemporaryDir folder_;
@@ -52,11 +60,11 @@ TEST_F(RecoveryTest, KeepsTheLastAndForgetsAll) {
 TEST_F(RecoveryTest, WhatARunningProgramKeepsIsItsOwn) {
     Recovery one(Folder());
     Recovery other(Folder());
-    EXPECT_TRUE(one.abandoned().isEmpty());
+    EXPECT_TRUE(one.abandoned().empty());
     ASSERT_EQ(one.keep(Show("a.jpg")), "");
     const QString kept = Folder() + "/" + QDir(Folder()).entryList({"*.vorlane"}).value(0);
-    EXPECT_TRUE(other.abandoned().isEmpty());
-    EXPECT_TRUE(one.abandoned().isEmpty());
+    EXPECT_TRUE(other.abandoned().empty());
+    EXPECT_TRUE(one.abandoned().empty());
     other.drop(kept);
     EXPECT_TRUE(QFile::exists(kept));
 }
@@ -64,17 +72,51 @@ TEST_F(RecoveryTest, WhatARunningProgramKeepsIsItsOwn) {
 TEST_F(RecoveryTest, WhatAnEndedProgramLeftIsAbandoned) {
     const QString left = Leave(Show("a.jpg"));
     Recovery recovery(Folder());
-    ASSERT_EQ(recovery.abandoned(), QStringList(left));
-    EXPECT_EQ(LoadShow(left).show, Show("a.jpg"));
+    const auto abandoned = recovery.abandoned();
+    ASSERT_EQ(abandoned.size(), 1U);
+    EXPECT_EQ(abandoned[0].file, left);
+    EXPECT_EQ(abandoned[0].pictures, 1);
+    EXPECT_EQ(abandoned[0].failure, "");
     recovery.drop(left);
     EXPECT_FALSE(QFile::exists(left));
-    EXPECT_TRUE(recovery.abandoned().isEmpty());
+    EXPECT_TRUE(recovery.abandoned().empty());
+}
+
+TEST_F(RecoveryTest, AProgramThatEndsWithoutTheUsersWordLeavesWhatItKept) {
+    {
+        Recovery recovery(Folder());
+        ASSERT_EQ(recovery.keep(Show("a.jpg")), "");
+    }
+    ASSERT_EQ(Kept().size(), 1);
+    EXPECT_EQ(Recovery(Folder()).abandoned().size(), 1U);
+}
+
+TEST_F(RecoveryTest, AllThatIsLeftIsToldTheYoungestFirstDamageIncluded) {
+    SavedShow show = Show("a.jpg");
+    show.origin = folder_.filePath("Vacances.vorlane");
+    const QString oldest = Leave(show, "b", 30);
+    const QString damaged = Leave(show, "c", 20);
+    const QString youngest = Leave(Show("a.jpg"), "a", 10);
+    QFile file(damaged);
+    ASSERT_TRUE(file.resize(20));
+    file.close();
+    SetAge(damaged, 20);
+    const auto abandoned = Recovery(Folder()).abandoned();
+    ASSERT_EQ(abandoned.size(), 3U);
+    EXPECT_EQ(abandoned[0].file, youngest);
+    EXPECT_EQ(abandoned[0].origin, "");
+    EXPECT_EQ(abandoned[1].file, damaged);
+    EXPECT_NE(abandoned[1].failure, "");
+    EXPECT_EQ(abandoned[2].file, oldest);
+    EXPECT_EQ(abandoned[2].origin, show.origin);
+    EXPECT_LT(abandoned[2].when, abandoned[1].when);
+    EXPECT_EQ(Kept().size(), 3);
 }
 
 TEST_F(RecoveryTest, WithoutAFolderNothingIsKept) {
     Recovery recovery{QString()};
     EXPECT_EQ(recovery.keep(Show("a.jpg")), "");
-    EXPECT_TRUE(recovery.abandoned().isEmpty());
+    EXPECT_TRUE(recovery.abandoned().empty());
 }
 
 TEST_F(RecoveryTest, AFolderThatCannotBeMadeIsTold) {

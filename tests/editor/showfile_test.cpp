@@ -5,8 +5,9 @@
 #include "editor/showkeeper.h"
 #include "tests/editor/windowfixture.h"
 
+#include <QDialog>
 #include <QFile>
-#include <QMessageBox>
+#include <QListWidget>
 #include <QPushButton>
 
 namespace vorlane::editor {
@@ -14,6 +15,8 @@ namespace {
 
 class ShowFileTest : public WindowFixture {
 protected:
+    ~ShowFileTest() override { window_.reset(); }  // before its files
+
     QString Write(const QString& name, const SavedShow& show) {
         const QString path = files_.filePath(name);
         EXPECT_EQ(SaveShow(path, show), "");
@@ -27,16 +30,32 @@ protected:
     }
     // Presses a button of the question that stands open; false when there is none.
     bool Answer(const QString& question, const QString& text) {
-        auto* box = window_->findChild<QMessageBox*>(question);
+        auto* box = window_->findChild<QDialog*>(question);
         if (box == nullptr) return false;
-        for (QAbstractButton* button : box->buttons()) {
-            if (button->text().remove('&') == text) {
+        for (QAbstractButton* button : box->findChildren<QAbstractButton*>()) {
+            if (button->text().remove('&') == text && button->isEnabled()) {
                 button->click();
                 QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
                 return true;
             }
         }
         return false;
+    }
+    // A show of those pictures that another run kept for recovery.
+    QString Leave(const QString& name, const QString& letters, int minutesAgo) {
+        EXPECT_TRUE(QDir().mkpath(RecoveryFolder()));
+        const QString path = RecoveryFolder() + "/" + name + ".vorlane";
+        EXPECT_EQ(SaveShow(path, OfPictures(letters)), "");
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+        const QDateTime when = QDateTime::currentDateTime().addSecs(-60 * minutesAgo);
+        EXPECT_TRUE(file.setFileTime(when, QFileDevice::FileModificationTime));
+        return path;
+    }
+    // What the user is offered, and chooses from.
+    QListWidget* Offered() {
+        auto* panel = window_->findChild<QDialog*>("recovery");
+        return panel == nullptr ? nullptr : panel->findChild<QListWidget*>();
     }
     bool AnswerUnsaved(const QString& text) { return Answer("unsaved", text); }
     void RemoveFirst() {
@@ -272,8 +291,7 @@ TEST_F(ShowFileTest, WhatARunLeftIsOfferedAndTakenUp) {
 }
 
 TEST_F(ShowFileTest, WhatIsLeftForLaterStaysAndWhatIsNotWantedGoes) {
-    ASSERT_TRUE(QDir().mkpath(RecoveryFolder()));
-    ASSERT_EQ(SaveShow(RecoveryFolder() + "/left.vorlane", OfPictures("a")), "");
+    Leave("left", "a", 1);
     window_->setRecoveryFolder(RecoveryFolder());
     window_->offerRecovery();
     ASSERT_TRUE(Answer("recovery", "Plus tard"));
@@ -287,7 +305,44 @@ TEST_F(ShowFileTest, WhatIsLeftForLaterStaysAndWhatIsNotWantedGoes) {
 TEST_F(ShowFileTest, WithoutAnythingLeftNothingIsAsked) {
     window_->setRecoveryFolder(RecoveryFolder());
     window_->offerRecovery();
-    EXPECT_EQ(window_->findChild<QMessageBox*>("recovery"), nullptr);
+    EXPECT_EQ(Offered(), nullptr);
+}
+
+TEST_F(ShowFileTest, ADamagedFileIsToldAndBlocksNoOther) {
+    const QString oldest = Leave("oldest", "cab", 30);
+    const QString older = Leave("older", "xy", 20);
+    const QString damaged = Leave("damaged", "z", 10);
+    QFile file(damaged);
+    ASSERT_TRUE(file.resize(20));
+    file.close();
+    window_->setRecoveryFolder(RecoveryFolder());
+    window_->offerRecovery();
+    ASSERT_NE(Offered(), nullptr);
+    ASSERT_EQ(Offered()->count(), 3);
+    EXPECT_TRUE(Offered()->item(0)->text().contains("endommagé")) << Offered()->item(0)->text().toStdString();
+    EXPECT_FALSE(Answer("recovery", "Retrouver"));
+    ASSERT_TRUE(Answer("recovery", "Supprimer"));
+    EXPECT_FALSE(QFile::exists(damaged));
+    ASSERT_EQ(Offered()->count(), 2);
+    Offered()->setCurrentRow(1);
+    ASSERT_TRUE(Answer("recovery", "Retrouver"));
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(Letters(), "cab");
+    EXPECT_EQ(Offered(), nullptr);
+    EXPECT_FALSE(QFile::exists(oldest));  // this run keeps it now
+    EXPECT_TRUE(QFile::exists(older));
+}
+
+TEST_F(ShowFileTest, WhatHasBeenTakenUpElsewhereMeanwhileIsToldAndTheOthersAreOfferedAgain) {
+    Leave("older", "xy", 20);
+    const QString gone = Leave("gone", "z", 10);
+    window_->setRecoveryFolder(RecoveryFolder());
+    window_->offerRecovery();
+    ASSERT_TRUE(QFile::remove(gone));
+    ASSERT_TRUE(Answer("recovery", "Retrouver"));
+    EXPECT_TRUE(Status().contains("gone.vorlane"));
+    ASSERT_NE(Offered(), nullptr);
+    EXPECT_EQ(Offered()->count(), 1);
 }
 
 TEST_F(ShowFileTest, AChangeIsKeptAfterAWhileAndForgottenOnceItIsSaved) {
