@@ -15,6 +15,7 @@
 
 #include <QPainter>
 #include <QPixmap>
+#include <QRegion>
 
 namespace vorlane {
 
@@ -54,18 +55,31 @@ void ControlPainter::PaintAll(const UserControl& control, const QRect& area, Rep
     if (damaged_.isEmpty()) return;
     origin_ = inside.topLeft();
     painter_.setClipRect(damaged_);
-    PaintSurface(control.Surface(), inside.size(), replays);
+    if (control.Surface().Commands().empty()) {
+        PaintGround(control);
+    } else {
+        PaintSurface(control.Surface(), inside.size(), replays);
+    }
     const auto& children = control.Children();
     for (auto child = std::rbegin(children); child != std::rend(children); ++child) {
         if ((*child)->Visible() && damaged_.intersects(AreaOf(**child))) (*child)->Accept(*this);
     }
 }
 
-void ControlPainter::PaintSurface(const Surface& surface, QSize size, Replays replays) {
-    if (surface.Commands().empty()) {
-        surface.KeepImage(nullptr);
-        return painter_.fillRect(damaged_, ToQColor(surface.BackColor(), tools_.screen));
+// Where no control covers it: the slides of a sheet cover nearly all of its ground.
+void ControlPainter::PaintGround(const UserControl& control) {
+    const Surface& surface = control.Surface();
+    surface.KeepImage(nullptr);
+    QRegion covered;
+    const auto& children = control.Children();
+    for (auto child = std::rbegin(children); child != std::rend(children); ++child) {
+        if ((*child)->Visible() && dynamic_cast<const UserControl*>(&**child) != nullptr) covered += AreaOf(**child);
     }
+    const QColor color = ToQColor(surface.BackColor(), tools_.screen);
+    for (const QRect& rect : QRegion(damaged_) - covered) painter_.fillRect(rect, color);
+}
+
+void ControlPainter::PaintSurface(const Surface& surface, QSize size, Replays replays) {
     const double scale = grid_.Scale();
     const QRect part = damaged_.translated(-origin_);
     if (replays == Replays::Own) {

@@ -53,6 +53,8 @@ private:
     QRect AreaOf(const Control& control) const;
     // Everything of a control that is damaged. area: that of the control in the painter's device.
     void PaintAll(const UserControl& control, const QRect& area, Replays replays);
+    // Of a control whose surface has nothing on it.
+    void PaintGround(const UserControl& control);
     void PaintSurface(const Surface& surface, QSize size, Replays replays);
 
     QPainter& painter_;
