@@ -1,4 +1,5 @@
 // The sheet from its making to its end.
+#include "platform/boxing.h"
 #include "sheet/vorlane.h"
 
 #include <vector>
@@ -81,9 +82,10 @@ void Vorlane::InitProperties() {
 }
 
 // A value that can't be read leaves its property as it was. Slides of an earlier start go: they have the old design; a
-// sheet that showed some is laid out anew.
+// sheet that showed some is laid out anew, and shows its selection in the new colours.
 void Vorlane::ReadProperties(const PropertyBag& bag) {
     const bool filled = HasSlides();
+    Attempt([&] { First().SetSelected(false); });
     for (int32_t k = Diapo.UpperBound(); k > 0; --k) {
         if (Diapo.Loaded(k)) Diapo.Unload(k);
     }
@@ -91,7 +93,9 @@ void Vorlane::ReadProperties(const PropertyBag& bag) {
         Attempt([&] { property.Read(*this, bag); });
     }
     Begin();
-    if (filled) TimerResize.SetEnabled(true);
+    if (!filled) return;
+    Attempt([&] { ShowSelection(); });
+    TimerResize.SetEnabled(true);
 }
 
 void Vorlane::Begin() {
@@ -106,6 +110,16 @@ void Vorlane::Begin() {
 void Vorlane::WriteProperties(PropertyBag& bag) const {
     for (const PersistedProperty& property : PersistedProperties()) {
         Attempt([&] { bag.Write(property.Key, property.Value(*this), property.Default(*this)); });
+    }
+}
+
+void Vorlane::WriteDesign(PropertyBag& bag) const {
+    WriteProperties(bag);
+    const bool marked = First().BackColorSelected() == selection_.BackColorCurrent;
+    for (const PersistedProperty& property : PersistedProperties()) {
+        const auto put = [&](OLE_COLOR color) { bag.Write(property.Key, Boxed(color), property.Default(*this)); };
+        if (property.Key == "BackColorDiapo") put(First().NormalGround());
+        if (property.Key == "BackColorSelected" && marked) put(selection_.SelectedColor);
     }
 }
 

@@ -78,6 +78,8 @@ public:
     void InitProperties() override;
     void ReadProperties(const PropertyBag& bag) override;
     void WriteProperties(PropertyBag& bag) const override;
+    // What WriteProperties stores, with the colours of an unselected slide 0 also while it shows a selection.
+    void WriteDesign(PropertyBag& bag) const;
     void Show() override;
     // Ends the sheet's work: no window messages, no list, no timers. Harmless when called again.
     void Terminate();

@@ -60,6 +60,8 @@ public:
     void InitProperties() override;
     void ReadProperties(const PropertyBag& bag) override;
     void WriteProperties(PropertyBag& bag) const override;
+    // What WriteProperties stores, with the normal ground for BackColor also while the slide shows a selection.
+    void WriteDesign(PropertyBag& bag) const;
     void Show() override;
     // Makes this new slide ready as a copy of another: its persisted properties as they are now, NoResize included. The
     // ground is the one that from shows unselected; Selected, Value and the place are not taken over. No layout.
@@ -153,6 +155,8 @@ public:
     // --- Colours and selection ---
     // The ground as it shows now, selected or not.
     OLE_COLOR BackColor() const { return Surface().BackColor(); }
+    // What BackColor is while the slide shows no selection.
+    OLE_COLOR NormalGround() const { return ground_.ShowsSelection ? ground_.Normal : BackColor(); }
     void SetBackColor(OLE_COLOR color);
     OLE_COLOR BackColorSelected() const { return settings_.BackColorSelected; }
     // Shows at the next change of Selected.

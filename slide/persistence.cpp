@@ -146,6 +146,13 @@ void eDiapoLight::WriteProperties(PropertyBag& bag) const {
     }
 }
 
+void eDiapoLight::WriteDesign(PropertyBag& bag) const {
+    WriteProperties(bag);
+    for (const PersistedProperty& property : PersistedProperties()) {
+        if (property.Key == "BackColor") bag.Write(property.Key, Boxed(NormalGround()), property.Default(*this));
+    }
+}
+
 void eDiapoLight::CopyDesign(const eDiapoLight& from) {
     PropertyBag design;
     for (const PersistedProperty& property : PersistedProperties()) {
@@ -153,9 +160,8 @@ void eDiapoLight::CopyDesign(const eDiapoLight& from) {
             design.SetValue(property.Key, property.Value(from));
         }
     }
-    const OLE_COLOR ground = from.ground_.ShowsSelection ? from.ground_.Normal : from.BackColor();
     ReadProperties(design);
-    ShowGround(ground, false);
+    ShowGround(from.NormalGround(), false);
     ground_.Normal = from.ground_.Normal;
 }
 

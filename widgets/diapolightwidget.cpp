@@ -122,7 +122,7 @@ void DiapoLightWidget::ConnectRequests() {
 QByteArray DiapoLightWidget::SaveProperties() const {
     return Ask("SaveProperties", QByteArray(), [&] {
         PropertyBag bag;
-        slide_.WriteProperties(bag);
+        slide_.WriteDesign(bag);
         return SavedText(bag);
     });
 }

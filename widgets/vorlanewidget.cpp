@@ -105,7 +105,7 @@ void VorlaneWidget::ConnectPictures() {
 QByteArray VorlaneWidget::SaveProperties() const {
     return Ask("SaveProperties", QByteArray(), [&] {
         PropertyBag bag;
-        sheet_.WriteProperties(bag);
+        sheet_.WriteDesign(bag);
         return SavedText(bag);
     });
 }

@@ -143,6 +143,50 @@ TEST_F(LifecycleTest, TheSelectionColourOfTheBagIsTheOneThatBlankSlidesGet) {
     EXPECT_EQ(sheet->Diapo.Item(0)->BackColorSelected(), 0x101010U);
 }
 
+TEST_F(LifecycleTest, ADesignSavedWhileTheFirstSlideIsSelectedHasTheColoursOfAnUnselectedOne) {
+    Show(9);
+    window.Click(50, 40);
+    ASSERT_TRUE(sheet->Diapo.Item(0)->Selected());
+    ASSERT_EQ(sheet->CurrentDiapo(), 0);
+    PropertyBag design;
+    sheet->WriteDesign(design);
+    EXPECT_TRUE(design.Empty()) << design.Values().begin()->first;
+
+    PropertyBag shown;
+    sheet->WriteProperties(shown);
+    EXPECT_EQ(shown.ReadColor("BackColorDiapo", 0), sheet->BackColorCurrent()) << "the getters give what shows";
+}
+
+TEST_F(LifecycleTest, ASheetReadOnceMoreShowsItsSelectionInTheNewColours) {
+    Show(9);
+    window.Click(50, 40);
+    PropertyBag bag;
+    bag.SetValue("BackColorSelected", int64_t{0x101010});
+    bag.SetValue("BackColorCurrent", int64_t{0x202020});
+    sheet->Restart(bag);
+    desktop.clock.Advance(200);
+    EXPECT_TRUE(sheet->Diapo.Item(0)->Selected());
+    EXPECT_EQ(sheet->Diapo.Item(0)->BackColor(), 0x202020U);
+    EXPECT_EQ(sheet->CurrentDiapo(), 0);
+    EXPECT_EQ(sheet->Diapo.Item(0)->NormalGround(), sheet->Ambient().BackColor);
+    ExpectSlidesAgreeWithList();
+
+    sheet->SelectedClear(-1);
+    sheet->Restart(bag);
+    desktop.clock.Advance(200);
+    EXPECT_EQ(sheet->Diapo.Item(0)->BackColor(), sheet->Ambient().BackColor);
+    EXPECT_EQ(sheet->CurrentDiapo(), -1);
+}
+
+TEST_F(LifecycleTest, ASheetReadOnceMoreIsLaidOutAnewAlsoWhereNothingElseAsksForIt) {
+    Show(9);
+    PropertyBag bag;
+    bag.SetValue("MargeDiapoAutoAdjust", false);
+    sheet->Restart(bag);
+    desktop.clock.Advance(200);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+}
+
 TEST_F(LifecycleTest, AtRunTimeSlideZeroStartsHiddenAndInADesignerItShows) {
     Start();
     EXPECT_FALSE(sheet->Diapo.Item(0)->Visible());

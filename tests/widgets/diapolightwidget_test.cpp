@@ -93,6 +93,15 @@ TEST_F(DiapoLightWidgetTest, ASavedSlideIsRestoredInAnotherWidget) {
     EXPECT_EQ(other.BorderSize(), 9);
 }
 
+TEST_F(DiapoLightWidgetTest, ASlideSavedWhileItIsSelectedKeepsItsNormalGround) {
+    widget.SetBackColor(QColor(1, 2, 3));
+    widget.SetSelected(true);
+    ASSERT_EQ(widget.BackColor(), widget.BackColorSelected());
+    DiapoLightWidget other;
+    EXPECT_TRUE(other.RestoreProperties(widget.SaveProperties()));
+    EXPECT_EQ(other.BackColor(), QColor(1, 2, 3));
+}
+
 // --- Pictures ---
 
 TEST_F(DiapoLightWidgetTest, AFileIsShownWithItsName) {

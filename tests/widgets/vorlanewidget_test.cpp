@@ -53,6 +53,16 @@ TEST_F(VorlaneWidgetTest, ASavedSheetIsRestoredInAnotherWidget) {
     EXPECT_EQ(other.DiapoWidth(), 120);
 }
 
+TEST_F(VorlaneWidgetTest, WhatIsSelectedChangesNothingOfWhatIsSaved) {
+    AddPictures(3);
+    Show();
+    widget.StartLecture();
+    const QByteArray saved = widget.SaveProperties();
+    widget.SetCurrentDiapo(0);
+    ASSERT_EQ(widget.BackColorDiapo(), widget.BackColorCurrent());
+    EXPECT_EQ(widget.SaveProperties(), saved);
+}
+
 TEST_F(VorlaneWidgetTest, WhatASavedTextLeavesOutGetsItsDefault) {
     widget.SetMarges(33);
     EXPECT_TRUE(widget.RestoreProperties("{}"));
