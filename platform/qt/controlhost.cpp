@@ -238,6 +238,16 @@ bool ControlHost::FeedKeyUp(const QKeyEvent& event) {
     return code == 0;
 }
 
+// Whoever has heard that a key is down hears that it is up, though it is let go elsewhere.
+void ControlHost::ReleaseKeys() {
+    const Hosted hosted = Hold();
+    const int16_t shift = ShiftOf(QGuiApplication::keyboardModifiers());
+    for (const int32_t key : desktop_.keyboard.ReleaseAll()) {
+        int16_t code = ToInt16(key);
+        if (hosted.Router) hosted.Router->KeyUp(code, shift);
+    }
+}
+
 void ControlHost::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(FeedKeyDown(*event));
 }
@@ -253,7 +263,7 @@ void ControlHost::focusInEvent(QFocusEvent* event) {
 
 void ControlHost::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
-    desktop_.keyboard.ReleaseAll();
+    ReleaseKeys();
 }
 
 }  // namespace vorlane

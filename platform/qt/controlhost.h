@@ -34,11 +34,13 @@ public:
     QtDesktop& Desktop() const { return desktop_; }
     InputRouter& Router() { return *router_; }
 
-    // A drag has taken the release of the buttons.
-    void ForgetButtons();
+    // A drag has taken the releases of what was down, buttons and keys.
+    void ForgetHeld();
     // Keys on their way to the control that has the focus. Return whether a handler swallowed the key.
     bool FeedKeyDown(const QKeyEvent& event);
     bool FeedKeyUp(const QKeyEvent& event);
+    // The keyboard goes elsewhere: keys that are down count as let go.
+    void ReleaseKeys();
 
 protected:
     ControlHost(QtDesktop& desktop, QWidget* parent);

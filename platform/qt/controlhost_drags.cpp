@@ -36,8 +36,9 @@ void Answer(QDropEvent& event, QtDrags& drags, int32_t effect) {
 
 }  // namespace
 
-void ControlHost::ForgetButtons() {
+void ControlHost::ForgetHeld() {
     if (router_) router_->ForgetButtons();
+    ReleaseKeys();
 }
 
 // Taking the entry asks for the moves to come, which say whether a drop would do anything.

@@ -71,7 +71,7 @@ int32_t QtDrags::DoDrag(Hwnd window, DataObject& data, int32_t allowed,
     });
     const Qt::DropAction done = drag->exec(ActionsOf(OfferedToOthers(allowed)));
     run_ = nullptr;
-    if (auto* host = qobject_cast<ControlHost*>(widget.data())) host->ForgetButtons();
+    if (auto* host = qobject_cast<ControlHost*>(widget.data())) host->ForgetHeld();
     return done == Qt::IgnoreAction ? 0 : run.Answered.value_or(EffectsOf(done)) & allowed;
 }
 

@@ -5,6 +5,7 @@
 #include "platform/desktop.h"
 
 #include <set>
+#include <utility>
 
 namespace vorlane {
 
@@ -14,8 +15,8 @@ public:
 
     void Press(int32_t virtualKey) { down_.insert(virtualKey); }
     void Release(int32_t virtualKey) { down_.erase(virtualKey); }
-    // The keyboard has gone to another program: what is released there is not told.
-    void ReleaseAll() { down_.clear(); }
+    // The keyboard has gone elsewhere: what is released there is not told. Gives what was down.
+    std::set<int32_t> ReleaseAll() { return std::exchange(down_, {}); }
 
 private:
     std::set<int32_t> down_;

@@ -80,6 +80,7 @@ void TextBoxPeer::focusInEvent(QFocusEvent* event) {
 
 void TextBoxPeer::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
+    host_.ReleaseKeys();
     host_.Router().SetFocus(nullptr);
 }
 

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -123,6 +124,57 @@ TEST_F(WidgetGestures, APageIsTurnedOnceWhileItsKeyIsHeld) {
     EXPECT_EQ(keys.count(), 1);
     QTest::keyClick(Window(), Qt::Key_PageUp);
     EXPECT_EQ(widget.sheet().VScroll.Value(), 0);
+}
+
+TEST_F(WidgetGestures, AKeyThatIsLetGoElsewhereSwallowsNoOther) {
+    QWidget window;
+    window.resize(600, 400);
+    QLineEdit elsewhere(&window);
+    widget.setParent(&window);
+    window.show();
+    window.activateWindow();
+    widget.show();
+    widget.setFocus();
+    QStringList heard;
+    QObject::connect(&widget, &VorlaneWidget::OnKeyDown, &widget, [&](const int* code) {
+        heard += "down " + QString::number(*code);
+        if (*code == 'F') elsewhere.setFocus();
+    });
+    QObject::connect(&widget, &VorlaneWidget::OnKeyUp, &widget,
+                     [&](const int* code) { heard += "up " + QString::number(*code); });
+    QTest::keyPress(window.windowHandle(), Qt::Key_PageDown);
+    elsewhere.setFocus();
+    QTest::keyRelease(window.windowHandle(), Qt::Key_PageDown);
+    widget.setFocus();
+    EXPECT_EQ(heard, QStringList({"down 34", "up 34"}));
+    heard.clear();
+    QTest::keyPress(window.windowHandle(), Qt::Key_F);
+    QTest::keyRelease(window.windowHandle(), Qt::Key_F);
+    widget.setFocus();
+    QTest::keyClick(window.windowHandle(), Qt::Key_Left);
+    EXPECT_EQ(heard, QStringList({"down 70", "up 70", "down 37", "up 37"}));
+    widget.setParent(nullptr);
+}
+
+TEST_F(WidgetGestures, AKeyThatOpensTheEditBoxAndOneThatADragTakesSwallowNoOther) {
+    widget.activateWindow();
+    widget.setFocus();
+    QStringList heard;
+    QObject::connect(&widget, &VorlaneWidget::OnKeyDown, &widget, [&](const int* code) {
+        heard += QString::number(*code);
+        if (*code == 113) widget.StartEdit(0);
+        if (*code == 'D') widget.OLEDrag();
+    });
+    QObject::connect(&widget, &VorlaneWidget::OnOLEStartDrag, &widget,
+                     [](DataObject* dragged, int*) { dragged->SetText("dragged"); });
+    QTest::keyPress(Window(), Qt::Key_F2);
+    ASSERT_TRUE(widget.sheet().Txt.Visible());
+    QTest::keyRelease(Window(), Qt::Key_F2);
+    QTest::keyClick(Window(), Qt::Key_Escape);
+    ASSERT_FALSE(widget.sheet().Txt.Visible());
+    QTest::keyPress(Window(), Qt::Key_D);  // its release is lost
+    QTest::keyPress(Window(), Qt::Key_A);
+    EXPECT_EQ(heard, QStringList({"113", "68", "65"}));
 }
 
 TEST_F(WidgetGestures, AReceiverMaySwallowACharacter) {
