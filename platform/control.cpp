@@ -73,6 +73,12 @@ void Control::SetMouseIcon(Picture icon) {
     Assign(mouseIcon_, std::move(icon));
 }
 
+const Control* Control::WithPointer() const {
+    const Control* control = this;
+    while (control != nullptr && control->mousePointer_ == 0) control = control->container_;
+    return control;
+}
+
 void Control::ZOrder(ZOrderPosition position) {
     if (container_ == nullptr) return;
     if (container_->Restack(*this, position)) Invalidate();

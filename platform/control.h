@@ -88,6 +88,9 @@ public:
     // The pointer's picture where MousePointer is 99.
     const Picture& MouseIcon() const { return mouseIcon_; }
     void SetMouseIcon(Picture icon);
+    // The innermost control from here outwards that has a pointer of its own; nullptr for none.
+    const Control* WithPointer() const;
+    static constexpr int16_t kPointerIsIcon = 99;
 
     // 0 none, 1 manual, 2 automatic (for drops) as the platform counts them.
     int16_t OLEDragMode() const { return oleDragMode_; }
@@ -97,7 +100,8 @@ public:
 
     // Lets the user drag from here: OLEStartDrag gives the data and what may be done with it (at first 1, copying),
     // then OLESetData what it has declared and not given, OLEGiveFeedback tells how it goes, and OLECompleteDrag how it
-    // has ended. Returns behind that. Data of no format at all is not dragged.
+    // has ended. Returns behind that. Data of no format at all is not dragged. Where OLEGiveFeedback clears its
+    // DefaultCursors, the drag's pointer is the picture that the control has for its own, if it has one.
     void OLEDrag();
 
     // Puts the control in front of, or behind, its siblings of the same layer.

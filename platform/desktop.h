@@ -113,6 +113,10 @@ public:
     virtual void DetachMessage(ISubclass& client, Hwnd window, int32_t message) = 0;
 };
 
+// Hears of every change of what the drop of a drag would do, and gives the pointer that shows it: a picture that points
+// with its top left corner, or the empty one for the system's own pointers.
+using DragFeedback = std::function<Picture(int32_t effect)>;
+
 // Drags that start in the program.
 class Drags {
 public:
@@ -120,9 +124,8 @@ public:
 
     // Lets the user drag data out of a window, and returns when that has ended: what was done with it, 1 copied,
     // 2 moved, 0 nothing. allowed: what may be done with it, a sum; with 0 the drag runs, and can be dropped nowhere.
-    // feedback hears every change of what a drop would do. One drag runs at a time; a second one ends at once.
-    virtual int32_t DoDrag(Hwnd window, DataObject& data, int32_t allowed,
-                           const std::function<void(int32_t effect)>& feedback) = 0;
+    // One drag runs at a time; a second one ends at once.
+    virtual int32_t DoDrag(Hwnd window, DataObject& data, int32_t allowed, const DragFeedback& feedback) = 0;
 };
 
 // Messages to the user.

@@ -15,6 +15,13 @@ void AskForContent(DataObject& data, InputEvents& input) {
     if (data.GetFormat(files) && data.Files().empty()) input.OLESetData(data, files);
 }
 
+// What a host that does without the system's pointers shows: the picture that the dragged control has for its pointer.
+Picture PointerOf(const Control& dragged) {
+    const Control* pointing = dragged.WithPointer();
+    const bool pictured = pointing != nullptr && pointing->MousePointer() == Control::kPointerIsIcon;
+    return pictured ? pointing->MouseIcon() : Picture{};
+}
+
 }  // namespace
 
 void Control::OLEDrag() {
@@ -28,6 +35,7 @@ void Control::OLEDrag() {
     const auto feedback = [this](int32_t effect) {
         bool defaultCursors = true;
         Attempt([&] { Input.OLEGiveFeedback(effect, defaultCursors); });
+        return defaultCursors ? Picture{} : PointerOf(*this);
     };
     int32_t effect = data.Empty() ? 0 : root->Desktop().drags.DoDrag(root->Hwnd(), data, allowed, feedback);
     Input.OLECompleteDrag(effect);

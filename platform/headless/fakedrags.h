@@ -23,8 +23,7 @@ public:
     bool Running() const { return running_; }
 
     // Says "drag start <allowed> <number of files>" and "drag end <effect>" in the trace.
-    int32_t DoDrag(Hwnd window, DataObject& data, int32_t allowed,
-                   const std::function<void(int32_t effect)>& feedback) override;
+    int32_t DoDrag(Hwnd window, DataObject& data, int32_t allowed, const DragFeedback& feedback) override;
 
     Event<> Ended;  // the buttons are up
 

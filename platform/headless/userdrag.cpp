@@ -14,8 +14,7 @@ constexpr int32_t kEscapeKey = 27;
 
 // --- The role ---
 
-int32_t FakeDrags::DoDrag(Hwnd, DataObject& data, int32_t allowed,
-                          const std::function<void(int32_t effect)>& feedback) {
+int32_t FakeDrags::DoDrag(Hwnd, DataObject& data, int32_t allowed, const DragFeedback& feedback) {
     if (std::exchange(running_, true)) return 0;
     desktop_.trace.Add("drag start " + std::to_string(allowed) + " " + std::to_string(data.Files().size()));
     int32_t effect = 0;
@@ -37,7 +36,7 @@ int32_t FakeDrags::DoDrag(Hwnd, DataObject& data, int32_t allowed,
 UserDrag::UserDrag(Desktop& desktop, DataObject data, int32_t allowed)
     : desktop_(desktop), own_(std::move(data)), data_(own_), allowed_(allowed) {}
 
-UserDrag::UserDrag(Desktop& desktop, DataObject& data, int32_t allowed, std::function<void(int32_t effect)> feedback)
+UserDrag::UserDrag(Desktop& desktop, DataObject& data, int32_t allowed, DragFeedback feedback)
     : desktop_(desktop), data_(data), allowed_(allowed), feedback_(std::move(feedback)) {}
 
 UserDrag::~UserDrag() {
@@ -47,7 +46,7 @@ UserDrag::~UserDrag() {
 void UserDrag::Answer(int32_t effect) {
     if (effect_ == (effect & allowed_)) return;
     effect_ = effect & allowed_;
-    if (feedback_) feedback_(effect_);
+    if (feedback_) pointer_ = feedback_(effect_);
 }
 
 void UserDrag::Over(Window& window, float x, float y, int16_t shift) {

@@ -14,7 +14,7 @@ class UserDrag {
 public:
     // From another program, which allows these effects. The drag does not outlive the windows it is over.
     explicit UserDrag(Desktop& desktop, DataObject data, int32_t allowed = kDropCopies | kDropMoves);
-    UserDrag(Desktop& desktop, DataObject& data, int32_t allowed, std::function<void(int32_t effect)> feedback);
+    UserDrag(Desktop& desktop, DataObject& data, int32_t allowed, DragFeedback feedback);
     ~UserDrag();
     UserDrag(const UserDrag&) = delete;
     UserDrag& operator=(const UserDrag&) = delete;
@@ -30,6 +30,8 @@ public:
     bool Ended() const { return ended_; }
     // What a drop would do now; of a drag that has ended, what it did.
     int32_t Effect() const { return effect_; }
+    // What its source shows for a pointer; empty for the system's own.
+    const Picture& Pointer() const { return pointer_; }
 
 private:
     void Leave();
@@ -39,7 +41,8 @@ private:
     DataObject own_;
     DataObject& data_;
     int32_t allowed_;
-    std::function<void(int32_t)> feedback_;
+    DragFeedback feedback_;
+    Picture pointer_;
     Window* window_ = nullptr;  // the one that it is over
     float x_ = 0;
     float y_ = 0;

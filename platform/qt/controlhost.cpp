@@ -5,8 +5,8 @@
 #include "platform/qt/colors.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/peers.h"
+#include "platform/qt/pointers.h"
 #include "platform/qt/qtdesktop.h"
-#include "platform/qt/qtpicturedata.h"
 #include "platform/qt/widgetpainting.h"
 
 #include <cmath>
@@ -27,7 +27,6 @@ namespace vorlane {
 namespace {
 
 constexpr double kNotch = 120;  // eighths of a degree
-constexpr int16_t kCustomPointer = 99;
 
 float X(const QPointF& place) {
     return static_cast<float>(place.x());
@@ -44,9 +43,7 @@ QRect Around(const Box& box) {
 
 // A pointer of the host's own, pointing with its top left corner.
 QCursor CursorFrom(const Picture& icon, double scale) {
-    const QSize size = (QSizeF(PixelSizeOf(icon)) * scale).toSize();
-    QPixmap pixels = QPixmap::fromImage(RenderPicture(icon, size));
-    pixels.setDevicePixelRatio(scale);
+    const QPixmap pixels = PointerFrom(icon, scale);
     return pixels.isNull() ? QCursor(Qt::ArrowCursor) : QCursor(pixels, 0, 0);
 }
 
@@ -145,9 +142,9 @@ void ControlHost::paintEvent(QPaintEvent* event) {
 
 void ControlHost::PointAt(const QPointF& place) {
     const Control* under = router_->At(X(place), Y(place));
-    while (under != nullptr && under->MousePointer() == 0) under = under->Container();
+    if (under != nullptr) under = under->WithPointer();
     const int16_t shape = under == nullptr ? int16_t{0} : under->MousePointer();
-    const Picture icon = shape == kCustomPointer ? under->MouseIcon() : Picture{};
+    const Picture icon = shape == Control::kPointerIsIcon ? under->MouseIcon() : Picture{};
     if (shape == pointer_ && icon == pointerIcon_) return;
     pointer_ = shape;
     pointerIcon_ = icon;

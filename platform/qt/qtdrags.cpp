@@ -4,7 +4,7 @@
 #include "platform/qt/controlhost.h"
 #include "platform/qt/dragdata.h"
 #include "platform/qt/keys.h"
-#include "platform/qt/movepointer.h"
+#include "platform/qt/pointers.h"
 #include "platform/qt/qtwindows.h"
 
 #include <utility>
@@ -37,24 +37,30 @@ QPixmap Nothing() {
 struct QtDrags::Run {
     QPointer<QDrag> Drag;
     int32_t Allowed;
-    const std::function<void(int32_t effect)>& Feedback;
+    const DragFeedback& Feedback;
     int32_t Told = 0;
     std::optional<int32_t> Answered{};  // by a widget of the desktop that it is over
+    QPixmap Own{};                      // the pointer of the drag's source; the system's where null
     QPixmap Mover = MovePointer(qApp->devicePixelRatio());
 
     void Tell(int32_t effect) {
-        if (std::exchange(Told, effect) != effect) Attempt([&] { Feedback(effect); });
+        if (std::exchange(Told, effect) == effect) return;
+        Picture pointer;
+        Attempt([&] { pointer = Feedback(effect); });
+        Own = DragPointer(pointer, qApp->devicePixelRatio());
     }
-    // The pointer over what takes the copy that is offered; the system's own when null.
-    void Point(const QPixmap& pointer) {
-        if (Drag) Drag->setDragCursor(pointer, Qt::CopyAction);
+    void Point() {
+        if (!Drag) return;
+        const bool moves = Answered == kMove;  // over what takes the copy that is offered
+        Drag->setDragCursor(Own.isNull() && moves ? Mover : Own, Qt::CopyAction);
+        Drag->setDragCursor(Own, Qt::MoveAction);
+        Drag->setDragCursor(Own, Qt::IgnoreAction);
     }
 };
 
 // The drag deletes itself: the receiving program may read the data behind the drag's end. The widget can go away in
 // the middle of it.
-int32_t QtDrags::DoDrag(Hwnd window, DataObject& data, int32_t allowed,
-                        const std::function<void(int32_t effect)>& feedback) {
+int32_t QtDrags::DoDrag(Hwnd window, DataObject& data, int32_t allowed, const DragFeedback& feedback) {
     const QPointer<QWidget> widget = windows_.WidgetOf(window);
     if (widget.isNull() || Running()) return 0;
     auto* drag = new QDrag(widget.data());
@@ -67,7 +73,9 @@ int32_t QtDrags::DoDrag(Hwnd window, DataObject& data, int32_t allowed,
     QObject ears;
     QObject::connect(widget.data(), &QObject::destroyed, &ears, &QDrag::cancel);
     QObject::connect(drag, &QDrag::actionChanged, &ears, [&run](Qt::DropAction action) {
-        if (!run.Answered) run.Tell(EffectsOf(action));
+        if (run.Answered) return;
+        run.Tell(EffectsOf(action));
+        run.Point();
     });
     const Qt::DropAction done = drag->exec(ActionsOf(OfferedToOthers(allowed)));
     run_ = nullptr;
@@ -86,14 +94,14 @@ std::optional<int32_t> QtDrags::Answered() const {
 void QtDrags::Answer(int32_t effect) {
     if (!Running()) return;
     run_->Answered = effect;
-    run_->Point(effect == kMove ? run_->Mover : QPixmap());
     run_->Tell(effect);
+    run_->Point();
 }
 
 void QtDrags::Leave() {
     if (!Running()) return;
     run_->Answered.reset();
-    run_->Point({});
+    run_->Point();
 }
 
 }  // namespace vorlane

@@ -18,8 +18,7 @@ public:
     explicit QtDrags(QtWindows& windows) : windows_(windows) {}
 
     // The drag ends with its window.
-    int32_t DoDrag(Hwnd window, DataObject& data, int32_t allowed,
-                   const std::function<void(int32_t effect)>& feedback) override;
+    int32_t DoDrag(Hwnd window, DataObject& data, int32_t allowed, const DragFeedback& feedback) override;
     bool Running() const { return run_ != nullptr; }
 
     // --- For the widgets of the desktop over which a drag goes, from here or from elsewhere ---

@@ -160,6 +160,32 @@ TEST_F(DragUnderX, ASheetThatEndsInItsOwnDragTakesTheDragWithIt) {
     EXPECT_TRUE(User::Until([&] { return ItemsOf(*sheet) == "b 1001, a 1000, c 1002, d 1003"; }));
 }
 
+TEST_F(DragUnderX, AHostsOwnPictureIsThePointerWhereItWantsNoneOfTheSystems) {
+    bool systems = false;
+    QObject::connect(sheet.get(), &VorlaneWidget::OnOLEGiveFeedback,
+                     [&](const int* effect, bool* defaultCursors) { *defaultCursors = systems || *effect == 0; });
+    int held = 0;  // for how long it is there
+    QPixmap hand(12, 12);
+    hand.fill(Qt::blue);
+    sheet->SetMouseIcon(hand);
+    sheet->SetMousePointer(99);
+    const auto pointer = [] { return QGuiApplication::overrideCursor()->pixmap().toImage(); };
+    const auto isHand = [&] { return pointer().size() == QSize(24, 24) && pointer().pixelColor(13, 13) == Qt::blue; };
+    EXPECT_TRUE(Dragging(0)
+                    .GoTo(In(4, 0.2))
+                    .Until([&] { return MarkStandsBefore(4); }, "the mark")
+                    .Until([&] { return (held = isHand() ? held + 1 : 0) > 30; }, "the hand, and nothing else")
+                    .Do([&] { systems = true; })
+                    .GoTo(kHere.bottomRight() + QPoint(80, 80))
+                    .Until([&] { return !isHand(); }, "the system's pointer")
+                    .GoTo(In(4, 0.2))
+                    .Until([&] { return MarkStandsBefore(4) && !isHand(); }, "the arrow")
+                    .Key("Escape")
+                    .Until([&] { return done >= 0; }, "the end")
+                    .Release()
+                    .Play());
+}
+
 // --- Between sheets ---
 
 TEST_F(DragUnderX, SlidesGoToAnotherSheetOfTheProgramWithTheirKeys) {

@@ -68,6 +68,27 @@ TEST_F(OLEDragTest, ADragIsStartedFollowedAndCompleted) {
               "input complete 2\n");
 }
 
+TEST_F(OLEDragTest, ASourceThatDoesWithoutTheSystemsPointersShowsItsOwnPicture) {
+    bool systems = false;
+    source.Input.OLEGiveFeedback.connect([&](int32_t&, bool& cursors) { cursors = systems; });
+    const Picture hand = FakePictures::Make("hand", 16, 16);
+    root.SetMousePointer(Control::kPointerIsIcon);
+    root.SetMouseIcon(hand);
+    desktop.drags.Script([&](UserDrag& drag) {
+        EXPECT_EQ(drag.Pointer().Type(), 0);
+        drag.Over(other, 20, 30);
+        EXPECT_EQ(drag.Pointer(), hand) << "that of its container";
+        systems = true;
+        drag.Over(window, 150, 100);
+        EXPECT_EQ(drag.Pointer().Type(), 0);
+        systems = false;
+        source.SetMousePointer(2);
+        drag.Over(other, 20, 30);
+        EXPECT_EQ(drag.Pointer().Type(), 0) << "a shape is no picture";
+    });
+    source.OLEDrag();
+}
+
 TEST_F(OLEDragTest, WithoutADropItEndsWithNothingDone) {
     source.OLEDrag();
     EXPECT_EQ(Heard(), "input start allows 1\ndrag start 3 2\ndrag end 0\ninput complete 0\n");

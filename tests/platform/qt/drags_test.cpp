@@ -107,7 +107,7 @@ TEST_F(DragsTest, AMoveWithoutAnEntryAndADropWithoutEitherAreNotTaken) {
 TEST_F(DragsTest, ADragOutOfAWindowThatIsGoneEndsAtOnce) {
     DataObject data;
     data.SetText("/p/a.jpg");
-    EXPECT_EQ(desktop.drags.DoDrag(4711, data, 3, [](int32_t) {}), 0);
+    EXPECT_EQ(desktop.drags.DoDrag(4711, data, 3, [](int32_t) { return Picture{}; }), 0);
     EXPECT_FALSE(desktop.drags.Running());
 }
 
