@@ -18,6 +18,7 @@ int32_t AddFolderItems(ListBox& list, FileListBox& reader, const std::string& fo
         if (!MatchesPattern(name, rules.Pattern)) continue;
         if (rules.Offer) rules.Offer(path + name, key, cancel);
         if (cancel) continue;
+        if (rules.Adding) rules.Adding();
         const std::string text = ItemText(rules.SortKey(path + name), path + name);
         insertBefore >= 0 ? list.AddItem(text, insertBefore++) : list.AddItem(text);
         ++added;

@@ -17,6 +17,8 @@ struct FolderRules {
     // May refuse a file or give it a key; both stand for the following files until they are changed again. May be
     // empty.
     std::function<void(const std::string& fileName, int32_t& key, bool& cancel)> Offer;
+    // Hears of each file that is about to come in. May be empty.
+    std::function<void()> Adding;
 };
 
 // Adds the files of folder that match the pattern, in its order, in front of insertBefore when that is 0 or more, else

@@ -207,12 +207,13 @@ void Vorlane::LstCopy() {
 
 int32_t Vorlane::AddFolder(const std::string& folder, int32_t insertBefore) {
     FolderRules rules{
-        items_.Pattern, [this](const std::string& file) { return SortKey(file, items_.StdSortArgs); }, {}};
+        items_.Pattern, [this](const std::string& file) { return SortKey(file, items_.StdSortArgs); }, {}, {}};
     if (!internalDrag_) {
         rules.Offer = [this](const std::string& file, int32_t& key, bool& cancel) {
             Events.OLENewFileAdded(file, key, cancel);
         };
     }
+    if (insertBefore >= 0) rules.Adding = [this] { Events.OLESortChanged(); };
     const auto add = [&]() -> int32_t {
         ListBox* list = Bound().AsListBox();
         return list != nullptr ? AddFolderItems(*list, TmpFile, folder, insertBefore, rules) : 0;

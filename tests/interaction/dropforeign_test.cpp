@@ -186,6 +186,32 @@ TEST_F(DragTest, AFolderBringsItsFiles) {
     EXPECT_THAT(Told(), HasSubstr("AfterDropAdd 4\n"));
 }
 
+TEST_F(DragTest, EachFileOfAFolderThatTakesAPlaceIsToldAsOneOfItsOwn) {
+    ShowDraggable(1);
+    std::filesystem::create_directories(folder.WithSeparator() + "album");
+    for (const char* name : {"album/a.jpg", "album/b.jpg", "album/c.jpg"}) RealFile(name);
+    onNewFile = [](const std::string& name, int32_t&, bool& cancel) { cancel = name.ends_with("b.jpg"); };
+    {
+        UserDrag drag(desktop, Files({folder.WithSeparator() + "album"}));
+        Over(drag, 0, 0.2F);
+        Told();
+        drag.Drop();
+    }
+    EXPECT_EQ(Told(),
+              "ole BeforeDropStart 1\n"
+              "ole NewFileAdded a.jpg -1\n"
+              "ole SortChanged\n"
+              "ole NewFileAdded b.jpg 0\n"
+              "ole NewFileAdded c.jpg 0\n"
+              "ole SortChanged\n"
+              "ole AfterDropAdd 2\n"
+              "ole DragDrop 1 25,42\n");
+    sheet->SetSortedSens(SortSensType::ssAscending);
+    UserDrag drag(desktop, Files({folder.WithSeparator() + "album"}));
+    DropOn(drag, 0, 0.2F);
+    EXPECT_THAT(Told(), Not(HasSubstr("SortChanged"))) << "a sort gives them their places";
+}
+
 TEST_F(DragTest, AHostThatFailsAtAFileOfAFolderEndsThatFolderWithAnError) {
     ShowDraggable(2);
     std::filesystem::create_directories(folder.WithSeparator() + "album");
@@ -200,6 +226,41 @@ TEST_F(DragTest, AHostThatFailsAtAFileOfAFolderEndsThatFolderWithAnError) {
     EXPECT_THAT(Heard(),
                 HasSubstr("host Error 13 Vorlane AddFolder DpCnt=2 - " + folder.WithSeparator() + "album - 1\n"));
     EXPECT_EQ(Names(), "000 z a 001") << "what has come in stays";
+}
+
+TEST_F(DragTest, WhatHasComeInBeforeAHostFailsAtAFileIsShown) {
+    ShowDraggable(2);
+    onNewFile = [](const std::string& name, int32_t&, bool&) {
+        if (name.ends_with("y.jpg")) throw failures::TypeMismatch();
+    };
+    UserDrag drag(desktop, Files({RealFile("w.jpg"), RealFile("x.jpg"), RealFile("y.jpg"), RealFile("z.jpg")}));
+    Over(drag, 1, 0.2F);
+    Told();
+    drag.Drop();
+    EXPECT_THAT(Told(), testing::StartsWith("ole BeforeDropStart 4\n"
+                                            "ole NewFileAdded w.jpg -1\n"
+                                            "ole SortChanged\n"
+                                            "ole NewFileAdded x.jpg -1\n"
+                                            "ole SortChanged\n"
+                                            "ole NewFileAdded y.jpg -1\n"
+                                            "ole Error 13 Vorlane Diapo_OLEDragDrop DpCnt=4"));
+    EXPECT_EQ(Names(), "000 w x 001");
+    EXPECT_EQ(Slides(), "0 1 2 3");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(DragTest, WhatHasComeInBeforeAHostFailsAtAFileIsSorted) {
+    ShowDraggable(2);
+    sheet->SetSortedSens(SortSensType::ssAscending);
+    onNewFile = [](const std::string& name, int32_t&, bool&) {
+        if (name.ends_with("y.jpg")) throw failures::TypeMismatch();
+    };
+    UserDrag drag(desktop, Files({RealFile("x.jpg"), RealFile("a.jpg"), RealFile("y.jpg")}));
+    DropOn(drag, 0, 0.2F);
+    EXPECT_EQ(Names(), "000 001 a x");
+    EXPECT_EQ(Slides(), "0 1 2 3");
+    EXPECT_THAT(Told(), HasSubstr("ole Sorted\nole Error 13 Vorlane Diapo_OLEDragDrop"));
+    ExpectSlidesAgreeWithList();
 }
 
 TEST_F(DragTest, CountingTellsFilesAndTheFilesOfFolders) {

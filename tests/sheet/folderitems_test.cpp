@@ -13,7 +13,7 @@ protected:
     TemporaryFolder folder;
     VectorListBox list{500};
     FileListBox reader{501};
-    FolderRules rules{"*.*", [](const std::string&) { return std::string("k"); }, {}};
+    FolderRules rules{"*.*", [](const std::string&) { return std::string("k"); }, {}, {}};
 
     int32_t AddFolder(int32_t insertBefore = -1) {
         return AddFolderItems(list, reader, folder.WithSeparator(), insertBefore, rules);

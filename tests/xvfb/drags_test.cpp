@@ -5,6 +5,7 @@
 #include "tests/xvfb/sheets.h"
 
 #include <memory>
+#include <vector>
 
 #include <QApplication>
 #include <QDir>
@@ -201,6 +202,34 @@ TEST_F(DragUnderX, SlidesGoToAnotherSheetOfTheProgramWithTheirKeys) {
     EXPECT_EQ(done, 1);
     EXPECT_EQ(ItemsOf(other), "x 1000, c 1002, y 1001");
     EXPECT_EQ(sheet->Count(), 7);
+}
+
+TEST_F(DragUnderX, AHostMovesSlidesToAnotherSheetOfTheProgram) {
+    VorlaneWidget other;
+    test::SetUp(other, kThere, Files({"x", "y"}));
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&other));
+    std::vector<int> dragged;
+    QObject::connect(sheet.get(), &VorlaneWidget::OnOLEStartDrag, [&] {
+        for (const int item : sheet->SelectedTableau()) dragged.push_back(sheet->Key(item));
+    });
+    QObject::connect(&other, &VorlaneWidget::OnOLEDragOver,
+                     [](DataObject*, int* effect, int, int, double, double, int) { *effect = kDropMoves; });
+    QObject::connect(&other, &VorlaneWidget::OnOLEDragDrop,
+                     [](DataObject*, int* effect, int, int, double, double) { *effect = kDropMoves; });
+    QObject::connect(sheet.get(), &VorlaneWidget::OnOLECompleteDrag, [&](const int* effect) {
+        if (*effect != kDropMoves) return;
+        for (const int key : dragged) sheet->Remove(sheet->GetIndexFromKey(key));
+    });
+    EXPECT_TRUE(Dragging(2)
+                    .GoTo(In(other, 1, 0.2))
+                    .Until([&] { return other.sheet().ImgDrag.Visible() && other.DropPlace() == 1; }, "the mark")
+                    .Release()
+                    .Play());
+    EXPECT_TRUE(User::Until([&] { return done >= 0; }));
+    EXPECT_EQ(done, 2);
+    EXPECT_EQ(ItemsOf(other), "x 1000, c 1002, y 1001");
+    EXPECT_EQ(ItemsOf(*sheet), "a 1000, b 1001, d 1003, e 1004, f 1005, g 1006");
+    EXPECT_EQ(FilesInFolder().size(), 9);
 }
 
 TEST_F(DragUnderX, SlidesGoToASheetOfAnotherProgramWithTheirKeys) {
