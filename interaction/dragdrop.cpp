@@ -156,7 +156,8 @@ void Vorlane::ShowGhost(int16_t index) {
     ghost.Surface().BitBlt(0, 0, width, height, seen, 0, 0);
     ghost.Move(place.X * twipsX, place.Y * twipsY);
     ShowForm(ghost);
-    ghost.Surface().SetPixel(ghost.HotX, ghost.HotY, ghost.ColorKey);
+    // Half a pixel from the slide's edge the place of the pointer rounds to one beyond it.
+    ghost.Surface().SetPixel(ToInt32(Min(ghost.HotX, width - 1)), ToInt32(Min(ghost.HotY, height - 1)), ghost.ColorKey);
 }
 
 // --- While it runs ---

@@ -164,6 +164,41 @@ TEST_F(DragTest, BeyondTheMarginTheSheetScrollsARowATick) {
     });
 }
 
+TEST_F(DragTest, OnASidewaysSheetTheSheetScrollsBeyondTheMarginAtTheRightAndTheLeft) {
+    ShowDraggable(60);
+    sheet->SetScrollDirection(ScrollDirectionType::sdHorizontal);
+    desktop.clock.Advance(200);
+    const int32_t step = sheet->VScroll.SmallChange();
+    ASSERT_GT(step, 0);
+    DragSlide(1, [&](UserDrag& drag) {
+        drag.Over(window, kWidth - 3, 60);
+        desktop.clock.Advance(10);
+        EXPECT_EQ(sheet->VScroll.Value(), step);
+        desktop.clock.Advance(20);
+        EXPECT_EQ(sheet->VScroll.Value(), 3 * step);
+        drag.Over(window, 2, 60);
+        desktop.clock.Advance(10);
+        EXPECT_EQ(sheet->VScroll.Value(), 2 * step);
+        for (const float y : {2.0F, 60.0F, kHeight - 3.0F}) {
+            drag.Over(window, 150, y);
+            desktop.clock.Advance(50);
+            EXPECT_EQ(sheet->VScroll.Value(), 2 * step) << "at " << y;
+        }
+    });
+}
+
+TEST_F(DragTest, OnASidewaysSheetADragFromOutsideScrollsWithEachMove) {
+    ShowDraggable(60);
+    sheet->SetScrollDirection(ScrollDirectionType::sdHorizontal);
+    desktop.clock.Advance(200);
+    UserDrag drag(desktop, Files({RealFile("x.jpg")}));
+    drag.Over(window, kWidth - 3, 60);
+    const int32_t there = sheet->VScroll.Value();
+    EXPECT_GT(there, 0);
+    drag.Over(window, 2, 60);
+    EXPECT_LT(sheet->VScroll.Value(), there);
+}
+
 TEST_F(DragTest, ADragFromOutsideScrollsWithEachMove) {
     ShowDraggable(30);
     UserDrag drag(desktop, Files({RealFile("x.jpg")}));

@@ -112,6 +112,19 @@ TEST_F(DragTest, TheGhostIsACopyOfTheSlideRightOverItWithAHoleUnderThePointer) {
     EXPECT_FALSE(SharedFrmDrag(desktop.Roles()).Loaded());
 }
 
+TEST_F(DragTest, APointerOnTheSlidesEdgeHasItsHoleInTheGhostToo) {
+    ShowDraggable(7);
+    const Box slide = sheet->Diapo.Item(4)->Bounds();
+    std::string drawn;
+    desktop.drags.Script([&](UserDrag&) { drawn = SharedFrmDrag(desktop.Roles()).Surface().dump(); });
+    window.Press(slide.Right() - 10, slide.Bottom() - 10);
+    window.MouseTo(slide.Right() - 0.3F, slide.Bottom() - 0.3F);  // between two pixels, as on a dense screen
+    EXPECT_THAT(drawn, HasSubstr("SetPixel 99,74 "));
+    window.Press(slide.Left + 10, slide.Top + 10);
+    window.MouseTo(slide.Left, slide.Top);
+    EXPECT_THAT(drawn, HasSubstr("SetPixel 0,0 "));
+}
+
 TEST_F(DragTest, TheGhostFollowsThePointer) {
     ShowDraggable(7);
     DragSlide(4, [&](UserDrag& drag) {

@@ -283,5 +283,24 @@ TEST(QtGhost, LeavesTheDropToTheWindowBeneath) {
     ghost.Unload();
 }
 
+TEST(QtGhost, HasItsHoleAtTheEdgeOfItsWindowToo) {
+    QtDesktop desktop;
+    FrmDrag& ghost = SharedFrmDrag(desktop.Roles());
+    for (const QPoint hot : {QPoint(0, 0), QPoint(29, 0), QPoint(0, 19), QPoint(29, 19), QPoint(15, 19)}) {
+        ghost.ColorKey = 0xFF00FF;
+        ghost.HotX = hot.x();
+        ghost.HotY = hot.y();
+        ghost.Move(0, 0, 30 * 15, 20 * 15);
+        ghost.Surface().LineFilledBox(0, 0, 29, 19, 0x404040);
+        ghost.Show();
+        ghost.Surface().SetPixel(ghost.HotX, ghost.HotY, ghost.ColorKey);
+        const FormWidget& widget = *desktop.forms.WidgetOf(ghost.Hwnd());
+        const QRegion hole(QRect(hot, QSize(1, 1)));
+        EXPECT_TRUE(RunUntil([&] { return QRegion(widget.rect()) - widget.mask() == hole; }))
+            << hot.x() << "," << hot.y();
+        ghost.Unload();
+    }
+}
+
 }  // namespace
 }  // namespace vorlane
