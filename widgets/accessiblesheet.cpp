@@ -2,6 +2,7 @@
 
 #include "sheet/vorlane.h"
 #include "widgets/accessibleslide.h"
+#include "widgets/conversions.h"
 #include "widgets/vorlanewidget.h"
 
 #include <string>
@@ -45,7 +46,13 @@ void AccessibleSheet::Attach(VorlaneWidget& widget) {
     QAccessible::removeFactory(MakeInterface);
     QAccessible::installFactory(MakeInterface);
     auto& events = widget.sheet().Events;
-    events.DisplayEnd.connect([&widget] { TellSlides(widget); });
+    for (Event<>* shown : {&events.DisplayEnd, &events.TLRefresh, &events.TLClear}) {
+        shown->connect([&widget] { TellSlides(widget); });
+    }
+    events.AfterEdit.connect([&widget](const std::string& name, const std::string&, bool canceled) {
+        if (!canceled) TellName(widget, FromText(name));
+    });
+    events.OLECompleteDrag.connect([&widget](int32_t&) { TellSelection(widget); });
     events.MouseUp.connect([&widget](int16_t, int16_t, float, float) { TellSelection(widget); });
     events.KeyUp.connect([&widget](int16_t&, int16_t) { TellSelection(widget); });
     events.Click.connect(
@@ -56,11 +63,31 @@ void AccessibleSheet::TellSelection(VorlaneWidget& widget) {
     if (!QAccessible::isActive()) return;
     QAccessibleEvent selection(&widget, QAccessible::SelectionWithin);
     QAccessible::updateAccessibility(&selection);
+    TellFocus(widget);
+}
+
+void AccessibleSheet::TellFocus(VorlaneWidget& widget) {
+    if (!QAccessible::isActive()) return;
     QAccessibleInterface* sheet = QAccessible::queryAccessibleInterface(&widget);
     QAccessibleInterface* current = sheet == nullptr ? nullptr : sheet->focusChild();
     if (current == nullptr || current == sheet) return;
     QAccessibleEvent focus(current, QAccessible::Focus);
     QAccessible::updateAccessibility(&focus);
+}
+
+void AccessibleSheet::TellName(VorlaneWidget& widget, const QString& file) {
+    if (!QAccessible::isActive()) return;
+    for (const int slot : ShownSlides(widget)) {
+        if (widget.ImageFullPath(widget.Value(slot)) == file) TellText(widget, slot, QAccessible::NameChanged);
+    }
+}
+
+void AccessibleSheet::TellText(VorlaneWidget& widget, int slot, QAccessible::Event change) {
+    if (!QAccessible::isActive() || !AccessibleSlide::Shows(widget, slot)) return;
+    auto* sheet = dynamic_cast<AccessibleSheet*>(QAccessible::queryAccessibleInterface(&widget));
+    if (sheet == nullptr) return;
+    QAccessibleEvent event(sheet->SlideAt(slot), change);
+    QAccessible::updateAccessibility(&event);
 }
 
 VorlaneWidget& AccessibleSheet::Widget() const {

@@ -17,11 +17,16 @@ public:
     explicit AccessibleSheet(VorlaneWidget& widget);
     ~AccessibleSheet() override;
 
-    // Makes this the interface of a widget, and tells assistive programs from then on when the sheet shows other slides
-    // and when the user changes the selection.
+    // Makes this the interface of a widget, and tells assistive programs from then on when the sheet shows other
+    // slides, when a slide gets another name and when the user changes the selection.
     static void Attach(VorlaneWidget& widget);
-    // Tells them that the selection has changed.
+    // Tells them that the selection has changed, and which slide has the focus if one has.
     static void TellSelection(VorlaneWidget& widget);
+    static void TellFocus(VorlaneWidget& widget);
+    // Tells them that a file has got this name, and so have the slides that show it.
+    static void TellName(VorlaneWidget& widget, const QString& file);
+    // Tells them that the slide of an index has another text: its name or its description.
+    static void TellText(VorlaneWidget& widget, int slot, QAccessible::Event change);
 
     QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;

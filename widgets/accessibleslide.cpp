@@ -3,6 +3,7 @@
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "sheet/vorlane.h"
+#include "widgets/accessiblesheet.h"
 #include "widgets/conversions.h"
 #include "widgets/vorlanewidget.h"
 
@@ -84,6 +85,7 @@ void AccessibleSlide::doAction(const QString& name) {
         sheet.SelectedClear();
         sheet.SetSelected(slot, true);
     });
+    if (widget_) AccessibleSheet::TellSelection(*widget_);
 }
 
 }  // namespace vorlane

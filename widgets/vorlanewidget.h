@@ -408,6 +408,7 @@ Q_SIGNALS:
 protected:
     void connectNotify(const QMetaMethod& signal) override;
     void disconnectNotify(const QMetaMethod& signal) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     // Runs an operation of the sheet; its failure raises OnError.

@@ -56,6 +56,13 @@ void VorlaneWidget::ConnectHand() {
         [this](int16_t& keyAscii) { Answer(keyAscii, [&](int* code) { Q_EMIT OnKeyPress(code); }); });
 }
 
+// Qt tells assistive programs of the widget behind this; the slide comes last.
+void VorlaneWidget::focusInEvent(QFocusEvent* event) {
+    ControlHost::focusInEvent(event);
+    QMetaObject::invokeMethod(
+        this, [this] { AccessibleSheet::TellFocus(*this); }, Qt::QueuedConnection);
+}
+
 // --- Progress ---
 
 // The sheet works faster where nobody wants to know how far it is.

@@ -2,6 +2,7 @@
 #include "platform/numbers.h"
 #include "platform/qt/qtpicturedata.h"
 #include "sheet/vorlane.h"
+#include "widgets/accessiblesheet.h"
 #include "widgets/conversions.h"
 #include "widgets/vorlanewidget.h"
 
@@ -121,6 +122,7 @@ QString VorlaneWidget::CaptionBottom(int index) const {
 
 void VorlaneWidget::SetCaptionBottom(int index, const QString& text) {
     Do("SetCaptionBottom", [&] { sheet_.Diapo.Item(index)->SetCaptionBottom(ToText(text)); });
+    AccessibleSheet::TellText(*this, index, QAccessible::DescriptionChanged);
 }
 
 int VorlaneWidget::Key(int listIndex) const {

@@ -3,6 +3,7 @@
 #include "platform/qt/qtdesktop.h"
 #include "platform/qt/qtpicturedata.h"
 #include "sheet/vorlane.h"
+#include "widgets/accessiblesheet.h"
 #include "widgets/conversions.h"
 #include "widgets/vorlanewidget.h"
 
@@ -90,6 +91,7 @@ bool VorlaneWidget::EndEdit(bool cancel, MsgBoxObject* msgBox) {
 
 void VorlaneWidget::RenameDiapo(int listIndex, const QString& oldName, const QString& newName, int diapoIndex) {
     Do("RenameDiapo", [&] { sheet_.RenameDiapo(listIndex, ToText(oldName), ToText(newName), ToInt16(diapoIndex)); });
+    AccessibleSheet::TellName(*this, ImageFullPath(listIndex));
 }
 
 void VorlaneWidget::ConnectEdit() {
