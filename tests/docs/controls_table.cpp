@@ -1,11 +1,13 @@
-// controls-table SOURCES [PAGE]: what the controls offer, as a page of tables made from their headers and from their
-// tables of persisted properties. With PAGE: whether that page is what would be made now.
+// controls-table SOURCES [PAGE]: what the controls offer, as a page of tables made from their headers, from their
+// tables of persisted properties and from the help texts of form designers. With PAGE: whether that page is what would
+// be made now.
 #include "platform/bagtext.h"
 #include "platform/headless/window.h"
 #include "sheet/vorlane.h"
 #include "slide/ediapolight.h"
 #include "tests/docs/members.h"
 #include "timeline/etimeline.h"
+#include "widgets/designer/propertyhelp.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -30,6 +32,7 @@ struct Control {
     std::string EventsHeader;
     std::string Widget;
     Defaults Saved;  // the defaults of its persisted properties
+    const vorlane::designer::PropertyTable* Help = nullptr;
 };
 
 // A value as the text of a bag spells it.
@@ -67,6 +70,15 @@ std::string Cell(std::string text) {
 // A type as hosts think of it: what is handed over as a constant reference is a value.
 std::string Plain(const std::string& type) {
     return Cell(std::regex_replace(type, std::regex("\\bconst ([^&,<>]+(<[^<>]*>)?)&"), "$1"));
+}
+
+// What is said of a member, with its help text.
+std::string Said(const Control& control, const std::string& member, const std::string& text) {
+    if (control.Help == nullptr) return Cell(text);
+    const auto help = std::find_if(control.Help->begin(), control.Help->end(),
+                                   [&](const vorlane::designer::PropertyHelp& entry) { return entry.Name == member; });
+    if (help == control.Help->end()) return Cell(text);
+    return Cell(text + (text.empty() ? "*" : " *") + help->Text + "*");
 }
 
 std::string Code(const std::string& text) {
@@ -150,17 +162,17 @@ void WriteProperties(std::ostream& page, const Control& control, const std::vect
         const std::string access = !property.Set ? "read" : property.Read ? "read, set" : "set";
         const std::string index = property.Arguments.empty() ? "" : "(" + Plain(property.Arguments) + ")";
         Row(page, {Code(property.Name + index), Code(Plain(property.Type)), access,
-                   saved == control.Saved.end() ? "" : saved->second, Cell(property.Text)});
+                   saved == control.Saved.end() ? "" : saved->second, Said(control, property.Name, property.Text)});
     }
 }
 
-void WriteMethods(std::ostream& page, const std::vector<Member>& members) {
+void WriteMethods(std::ostream& page, const Control& control, const std::vector<Member>& members) {
     Head(page, "Methods", {"Method", "Gives", ""});
     for (const Member& member : members) {
         const bool property = IsGetter(member, members) || IsSetter(member);
         if (member.Is != Member::Kind::Function || property || member.Name == "PersistedProperties") continue;
         Row(page, {Code(member.Name + "(" + Plain(member.Arguments) + ")"),
-                   member.Type == "void" ? "" : Code(Plain(member.Type)), Cell(member.Text)});
+                   member.Type == "void" ? "" : Code(Plain(member.Type)), Said(control, member.Name, member.Text)});
     }
 }
 
@@ -193,7 +205,7 @@ void Write(std::ostream& page, const std::string& sources, const Control& contro
     page << ".\n";
     const Properties properties(members, inherited);
     if (!properties.list.empty()) WriteProperties(page, control, properties.list);
-    WriteMethods(page, members);
+    WriteMethods(page, control, members);
     auto events = control.Events.empty() ? members : MembersOf(sources + "/" + control.EventsHeader, control.Events);
     WriteEvents(page, events);
     WriteParts(page, members);
@@ -202,11 +214,11 @@ void Write(std::ostream& page, const std::string& sources, const Control& contro
 std::string Page(const std::string& sources) {
     const std::vector<Control> controls{
         {"Vorlane", "The contact sheet,", "sheet/vorlane.h", "VorlaneEvents", "sheet/events.h",
-         "widgets/vorlanewidget.h", SavedDefaults<vorlane::Vorlane>()},
+         "widgets/vorlanewidget.h", SavedDefaults<vorlane::Vorlane>(), &vorlane::designer::SheetProperties()},
         {"eDiapoLight", "One slide,", "slide/ediapolight.h", "DiapoEvents", "slide/diapoevents.h",
-         "widgets/diapolightwidget.h", SavedDefaults<vorlane::eDiapoLight>()},
+         "widgets/diapolightwidget.h", SavedDefaults<vorlane::eDiapoLight>(), &vorlane::designer::SlideProperties()},
         {"eTimeLine", "The time line,", "timeline/etimeline.h", "TimeLineEvents", "timeline/timelineevents.h",
-         "widgets/timelinewidget.h", SavedDefaults<vorlane::eTimeLine>()},
+         "widgets/timelinewidget.h", SavedDefaults<vorlane::eTimeLine>(), &vorlane::designer::TimeLineProperties()},
         {"ClsDiapo", "The slides of a sheet by index,", "sheet/clsdiapo.h", "", "", "", {}},
         {"ClsSon", "The sounds of one kind,", "timeline/clsson.h", "ClsSonEvents", "timeline/clsson.h", "", {}},
         {"ClsMenuCtx",
@@ -222,7 +234,8 @@ std::string Page(const std::string& sources) {
             "What the controls offer their hosts. This page is made from their headers and from their tables of saved\n"
             "properties by `cmake --build --preset dev --target controls-table`; a test tells when it is out of date.\n"
             "An argument with `&` is the host's to answer. A default is that of a saved control. What is said of a\n"
-            "member may go for those below it, too. What all controls share stands in\n"
+            "member may go for those below it, too; what stands in italics is its help text. What all controls share "
+            "stands in\n"
             "[platform/control.h](../platform/control.h) and [platform/usercontrol.h](../platform/usercontrol.h).\n";
     for (const Control& control : controls) Write(page, sources, control);
     return page.str();

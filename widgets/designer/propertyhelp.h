@@ -13,7 +13,8 @@ struct PropertyHelp {
 
 using PropertyTable = std::vector<PropertyHelp>;
 
-// A table may tell of more than a control has.
+// A table may tell of more than a form designer shows: of properties that no form keeps, and of methods. Those have
+// their help text here for the page of all members.
 const PropertyTable& SheetProperties();
 const PropertyTable& SlideProperties();
 const PropertyTable& TimeLineProperties();

@@ -16,10 +16,12 @@ constexpr auto kPicture = "Image et vignette";
 constexpr auto kScroll = "Défilement";
 constexpr auto kSort = "Tri";
 constexpr auto kBehaviour = "Comportement";
+constexpr auto kSound = "Sons";
 
 // What the sheet has of its own, and what it names otherwise than its slides or means otherwise.
 const PropertyTable& Own() {
     static const PropertyTable table{
+        {"AliasMusic", kSound, "Renvoie ou définit l'Alias utilisé pour la lecture de la musique."},
         {"BackColor", kLook, "Renvoie ou définit la couleur du fond de la planche."},
         {"BackColorCurrent", kLook, "Renvoie ou définit la couleur du fond de la dernière diapo sélectionnée."},
         {"BackColorDiapo", kLook, "Renvoie ou définit la couleur du fond des diapos."},
@@ -41,6 +43,7 @@ const PropertyTable& Own() {
         {"Marges", kGrid, "Renvoie ou définit la marge autour de la grille, en pixels."},
         {"OLEDragMode", kBehaviour, "Renvoie ou définit qui commence un glisser : 0 l'hôte, 1 la planche."},
         {"OLEDropMode", kBehaviour, "Renvoie ou définit qui reçoit un déposer : 0 personne, 1 l'hôte, 2 la planche."},
+        {"OleResetDrag", kBehaviour, "Permet de restaurer les éléments du drag & drop."},
         {"ScrollDirection", kScroll,
          "Renvoie ou définit le sens du défilement : une ligne, ou des lignes et des colonnes."},
         {"ScrollWindowBackColor", kScroll,
@@ -52,6 +55,7 @@ const PropertyTable& Own() {
         {"ShowJauge", kBehaviour, "Affiche une jauge pendant le remplissage."},
         {"Sorted", kSort, "Autorise le tri."},
         {"SortedSens", kSort, "Renvoie ou définit le sens du tri."},
+        {"StopSound", kSound, "Permet d'arrêter les sons en cours et de restaurer l'état des boutons."},
         {"ThumbnailSizeNormal", kPicture, "Renvoie ou définit la plus petite taille des vignettes, en pixels."},
     };
     return table;
