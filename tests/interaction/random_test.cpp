@@ -1,14 +1,21 @@
 // Whatever the user's hand does to a sheet, and whatever happens at its yields: list and slides agree, each slide looks
-// as if it had just been bound, a drag leaves nothing behind, and no file is lost.
+// as if it had just been bound, a drag leaves nothing behind, no file is lost, and no memory.
+#include "tests/interaction/liveheap.h"
 #include "tests/interaction/randomdrops.h"
 
+#include <algorithm>
 #include <chrono>
+#include <iostream>
 #include <map>
 
 namespace vorlane {
 namespace {
 
 constexpr int32_t kSteps = 100000;
+constexpr int64_t kMinute = 60000;  // milliseconds
+constexpr int64_t kShortRun = 10;   // minutes of the virtual clock
+constexpr int64_t kSettling = 2;    // those of them in which what is kept comes to its usual size
+constexpr size_t kSlack = 8192;     // bytes
 
 class RandomGestures : public RandomDrops {
 protected:
@@ -109,6 +116,25 @@ protected:
         return step % 20 != 0 || (Fresh() && FilesAreThere());
     }
 
+    // Lets go of all that hangs on the last gestures, so that what is live differs by what was lost alone.
+    size_t LiveAtRest() {
+        while (desktop.clock.PendingActions() > 0) desktop.clock.DoEvents();
+        bool cancel = true;
+        sheet->EndEdit(cancel);
+        sheet->StopSound();
+        sheet->Clear();
+        width_ = kWidth;
+        height_ = kHeight;
+        window.Resize(width_, height_);
+        sheet->SetDiapoWidth(100);
+        AddItems(0, kPictures - 1);
+        sheet->StartLecture();
+        desktop.clock.Advance(2000);
+        desktop.trace = headless::Trace();
+        story_ = std::string();
+        return LiveHeap();
+    }
+
     std::string story_;
 };
 
@@ -127,6 +153,23 @@ TEST_F(RandomGestures, LeaveListAndSlidesInStep) {
     desktop.clock.Advance(1000);
     EXPECT_EQ(desktop.clock.RunningTimers(), 0);
     EXPECT_EQ(desktop.sounds.OpenSounds(), 0);
+}
+
+TEST_F(RandomGestures, LoseNoMemory) {
+    Begin();
+    const bool tells = Minutes() > 0;
+    const int64_t minutes = tells ? Minutes() : kShortRun;
+    size_t usual = 0;
+    int32_t step = 0;
+    for (int64_t minute = 1; minute <= minutes; ++minute) {
+        for (; desktop.clock.Now() < minute * kMinute; ++step) {
+            ASSERT_TRUE(StepIsSound(step)) << Story();
+        }
+        const size_t live = LiveAtRest();
+        if (tells) std::cout << "minute " << minute << ": " << step << " gestures, " << live << " bytes" << std::endl;
+        if (minute <= kSettling) usual = std::max(usual, live);
+        EXPECT_LE(live, usual + kSlack) << "minute " << minute << ", seed " << seed_;
+    }
 }
 
 }  // namespace

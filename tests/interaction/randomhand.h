@@ -1,8 +1,8 @@
 // RandomHand: a hand that plays on a sheet at random, by mouse and keys, and a host that changes list and grid. What it
 // does follows from a seed. Each act gives its name.
 //
-// VORLANE_RANDOM_SECONDS=60 lets a test run for that long with a seed of its own, which a failure tells;
-// VORLANE_RANDOM_SEED=n sets the seed.
+// VORLANE_RANDOM_SECONDS=60 lets a test run for that long, VORLANE_RANDOM_MINUTES=60 for that long by the virtual clock
+// where the test counts by it, both with a seed of its own, which a failure tells. VORLANE_RANDOM_SEED=n sets the seed.
 #pragma once
 
 #include "tests/interaction/gesturefixture.h"
@@ -18,7 +18,7 @@ protected:
     static constexpr int32_t kPictures = 60;
 
     RandomHand() {
-        const bool free = Seconds() > 0;
+        const bool free = Seconds() > 0 || Minutes() > 0;
         seed_ = static_cast<uint32_t>(FromEnvironment("VORLANE_RANDOM_SEED", free ? std::random_device{}() : kSeed));
         random_.seed(seed_);
         sheet = std::make_unique<Vorlane>(desktop.Roles(), window.Ambient());
@@ -30,6 +30,9 @@ protected:
 
     // How long to run; 0 for a fixed number of steps.
     static int64_t Seconds() { return FromEnvironment("VORLANE_RANDOM_SECONDS", 0); }
+
+    // The same in minutes of the virtual clock; 0 for a short run.
+    static int64_t Minutes() { return FromEnvironment("VORLANE_RANDOM_MINUTES", 0); }
 
     int32_t Pick(int32_t from, int32_t to) { return std::uniform_int_distribution<int32_t>(from, to)(random_); }
     bool Maybe(int32_t percent) { return Pick(1, 100) <= percent; }
