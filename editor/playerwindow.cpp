@@ -16,6 +16,7 @@ constexpr int kNoticeTime = 6000;   // milliseconds
 constexpr int kTextMargin = 24;     // pixels, from the window's edges
 constexpr QMargins kTextPadding(12, 6, 12, 6);
 constexpr int kTextGap = 6;
+constexpr double kTextSize = 1.4;  // times the usual
 constexpr QColor kText(0xd8, 0xd8, 0xd8);
 
 QString TroubleText(const QString& path, ReadPicture::State state) {
@@ -130,6 +131,9 @@ void PlayerWindow::DrawFitted(QPainter& painter, const QImage& image, double opa
 void PlayerWindow::DrawTexts(QPainter& painter) const {
     QRect room = rect().marginsRemoved({kTextMargin, kTextMargin, kTextMargin, kTextMargin});
     const QStringList lines = texts();
+    QFont large = font();
+    large.setPointSizeF(large.pointSizeF() * kTextSize);
+    painter.setFont(large);
     painter.setRenderHint(QPainter::Antialiasing);
     for (auto line = lines.crbegin(); line != lines.crend(); ++line) {
         const QRect within = room.marginsRemoved(kTextPadding);

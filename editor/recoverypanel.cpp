@@ -27,6 +27,7 @@ RecoveryPanel::RecoveryPanel(const std::vector<AbandonedShow>& shows, QWidget* p
     told->setWordWrap(true);
     list_->setAccessibleName(windowTitle());
     list_->setWordWrap(true);
+    list_->setSpacing(3);
     list_->setMinimumSize(kListSize);
     auto* buttons = new QDialogButtonBox(this);
     recover_ = buttons->addButton(tr("&Retrouver"), QDialogButtonBox::AcceptRole);
