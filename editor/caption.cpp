@@ -9,7 +9,8 @@ namespace vorlane::editor {
 
 // The locale itself knows no singular for bytes.
 QString FileSizeText(qint64 size, const QLocale& locale) {
-    if (size < 1024) return QCoreApplication::translate("Caption", "%Ln octet(s)", nullptr, static_cast<int>(size));
+    const auto bytes = static_cast<int>(size);
+    if (size < 1024) return QCoreApplication::translate("Caption", "%Ln octet(s)", nullptr, bytes);
     return locale.formattedDataSize(size, 1, QLocale::DataSizeTraditionalFormat);
 }
 

@@ -5,22 +5,18 @@
 #include "widgets/conversions.h"
 #include "widgets/timelinewidget.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace vorlane {
 
 namespace {
 
-QString Tr(const char* text) {
-    return QCoreApplication::translate("vorlane::AccessibleSound", text);
-}
-
 // What it is and for how long it sounds.
 QString Description(const TimeLineSound& sound, int type) {
     const QString length = FromText(Trelmic6::SecondsToText(sound.Duree, true));
-    const QString kind = type == kMusic ? Tr("Musique") : Tr("Commentaire");
-    return (sound.Repetition ? Tr("%1, %2, en boucle") : Tr("%1, %2")).arg(kind, length);
+    const QString kind = type == kMusic ? AccessibleSound::tr("Musique") : AccessibleSound::tr("Commentaire");
+    return (sound.Repetition ? AccessibleSound::tr("%1, %2, en boucle") : AccessibleSound::tr("%1, %2"))
+        .arg(kind, length);
 }
 
 }  // namespace
@@ -62,7 +58,7 @@ QString AccessibleSound::Name(const TimeLineSound& sound) const {
     const QString file = QFileInfo(sound.Nom).fileName();
     const eTimeLine& line = widget_->timeline();
     if (line.PositionOf(diapoKey_) < 0) return file;
-    return Tr("%1, à %2").arg(file, FromText(Trelmic6::SecondsToText(line.StartOf(diapoKey_), false)));
+    return tr("%1, à %2").arg(file, FromText(Trelmic6::SecondsToText(line.StartOf(diapoKey_), false)));
 }
 
 QString AccessibleSound::text(QAccessible::Text kind) const {

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include <QCoreApplication>
 #include <QPointer>
 #include <QStringList>
 
@@ -14,6 +15,8 @@ namespace vorlane {
 class TimeLineWidget;
 
 class AccessibleSound final : public AccessibleListItem {
+    Q_DECLARE_TR_FUNCTIONS(vorlane::AccessibleSound)
+
 public:
     // type: 0 the music, 1 the comment of the slide.
     AccessibleSound(TimeLineWidget& widget, int type, int diapoKey);

@@ -626,6 +626,13 @@
     </message>
 </context>
 <context>
+    <name>vorlane::AccessibleSheet</name>
+    <message>
+        <source>Planche de diapos</source>
+        <translation>Contact sheet</translation>
+    </message>
+</context>
+<context>
     <name>vorlane::AccessibleSound</name>
     <message>
         <source>Musique</source>
