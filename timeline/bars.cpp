@@ -4,16 +4,24 @@
 #include "platform/numbers.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 #include <vector>
 
 namespace vorlane::bars {
 
-bool ReachesIn(const Strip& strip, const TimeScale& scale, int32_t start, int32_t length) {
+double LeftLimit(const Strip& strip, const TimeScale& scale) {
     if (scale.PixelsPerSecond == 0) throw failures::DivisionByZero();
+    return scale.FirstSecond - static_cast<double>(strip.MargeGauche) / scale.PixelsPerSecond;
+}
+
+bool ReachesIn(const Strip& strip, const TimeScale& scale, int32_t start, int32_t length) {
     const double end = static_cast<double>(start) + length;
-    const double leftLimit = scale.FirstSecond - static_cast<double>(strip.MargeGauche) / scale.PixelsPerSecond;
-    return leftLimit <= end || scale.Shows(start);
+    return LeftLimit(strip, scale) <= end || scale.Shows(start);
+}
+
+bool CanLookUp(const SoundPlaces& places, const TimeScale& scale, int16_t exposition) {
+    return places.InOrder() && exposition >= 1 && scale.PixelsPerSecond > 0 && std::isfinite(scale.PixelsPerSecond);
 }
 
 Extent Clip(const Strip& strip, const TimeScale& scale, int32_t start, int32_t length, bool repeats) {

@@ -2,6 +2,7 @@
 // under a point.
 #pragma once
 
+#include "timeline/soundplaces.h"
 #include "timeline/timescale.h"
 #include "timeline/tson.h"
 
@@ -28,9 +29,29 @@ struct Extent {
     bool operator==(const Extent&) const = default;
 };
 
-// Whether a sound of that length, in seconds, reaches into what the strip shows. Fails with DivisionByZero() on a scale
-// of no width.
+// The second before which a sound has to end to be out of sight. Fails with DivisionByZero() on a scale of no width.
+double LeftLimit(const Strip& strip, const TimeScale& scale);
+// Whether a sound of that length, in seconds, reaches into what the strip shows. Fails as LeftLimit does.
 bool ReachesIn(const Strip& strip, const TimeScale& scale, int32_t start, int32_t length);
+
+// Whether EachInSight may take the place of a walk over all sounds.
+bool CanLookUp(const SoundPlaces& places, const TimeScale& scale, int16_t exposition);
+// Hands the sounds that may have a bar to place, from right to left, by their index; place tells which ones farther
+// left may still have one.
+enum class Left : uint8_t { Any, ThoseThatReachIn, None };
+template <class Place>
+void EachInSight(const SoundPlaces& places, const Strip& strip, const TimeScale& scale, int16_t exposition,
+                 const Place& place) {
+    size_t i = places.FirstStarting(scale.LastSecond, exposition);
+    const size_t firstInSight = places.FirstStarting(scale.FirstSecond, exposition);
+    Left left = Left::Any;
+    while (i > firstInSight || (i > 0 && left == Left::Any)) left = place(--i);
+    while (left != Left::None) {
+        const auto next = places.LastReaching(i, LeftLimit(strip, scale), exposition);
+        if (!next) return;
+        left = place(i = *next);
+    }
+}
 
 // The bar of a sound that starts at a second, cut at the strip's edges. One that began before the first second starts
 // at the border, without the margin: a repeating one with its whole length, another with what is left of it.

@@ -36,21 +36,24 @@ void ClsSon::LeaveUnanswered(const void* owner) {
     if (owner == owner_) AnswerNumDiapo(nullptr, {});
 }
 
-const std::vector<int32_t>* ClsSon::KnownNumbers(const void* owner) {
+std::shared_ptr<const SoundPlaces> ClsSon::KnownPlaces(const void* owner) {
     if (owner != owner_) return nullptr;
     const uint64_t state = answer_ && state_ ? state_() : 0;
     if (state == 0) return nullptr;
     const bool good = known_.State == state && known_.Revision == sounds_->Revision();
-    if (good) return &known_.Numbers;
-    Known known{state, sounds_->Revision(), {}};
-    for (int32_t i = 1; i <= Count(); ++i) known.Numbers.push_back(answer_(sounds_->Item(i).DiapoKey));
+    if (good) return known_.Places;
+    Known known{state, sounds_->Revision(), std::make_shared<SoundPlaces>()};
+    for (int32_t i = 1; i <= Count(); ++i) {
+        const tSon& son = sounds_->Item(i);
+        known.Places->Insert(known.Places->Count(), answer_(son.DiapoKey), son.Durée);
+    }
     known_ = std::move(known);
-    return &known_.Numbers;
+    return known_.Places;
 }
 
 // A sound has come to a place of a list whose numbers were known.
-void ClsSon::KeepKnown(int32_t diapoKey, size_t place) {
-    known_.Numbers.insert(known_.Numbers.begin() + static_cast<std::ptrdiff_t>(place), answer_(diapoKey));
+void ClsSon::KeepKnown(const tSon& son, size_t place) {
+    known_.Places->Insert(place, answer_(son.DiapoKey), son.Durée);
     known_.Revision = sounds_->Revision();
 }
 
@@ -86,7 +89,7 @@ void ClsSon::Add(const std::string& soundFileName, int32_t diapoKey, int32_t dia
 }
 
 void ClsSon::Place(const tSon& son, int32_t diapoValue) {
-    const bool known = OnlyOwnerAnswers() && KnownNumbers(owner_) != nullptr;
+    const bool known = OnlyOwnerAnswers() && KnownPlaces(owner_) != nullptr;
     const std::optional<int32_t> before =
         known ? FirstKnownBehind(son.DiapoKey, diapoValue) : FirstBehind(son.DiapoKey, diapoValue);
     if (before) {
@@ -94,15 +97,19 @@ void ClsSon::Place(const tSon& son, int32_t diapoValue) {
     } else {
         sounds_->Add(son, KeyText(son.DiapoKey));
     }
-    if (known) KeepKnown(son.DiapoKey, static_cast<size_t>(before.value_or(Count())) - 1);
+    if (known) KeepKnown(son, static_cast<size_t>(before.value_or(Count())) - 1);
 }
 
 // The same as FirstBehind without a question for each sound.
 std::optional<int32_t> ClsSon::FirstKnownBehind(int32_t diapoKey, int32_t diapoValue) const {
     const int32_t wanted = diapoValue == -1 ? answer_(diapoKey) : diapoValue;
-    const std::vector<int32_t>& numbers = known_.Numbers;
-    const auto stop = std::find_if(numbers.begin(), numbers.end(), [&](int32_t n) { return n == -1 || n > wanted; });
-    if (wanted == -1 || stop == numbers.end() || *stop == -1) return std::nullopt;
+    if (wanted == -1) return std::nullopt;
+    const SoundPlaces& places = *known_.Places;
+    const std::vector<int32_t>& numbers = places.Numbers();
+    const auto stop = places.InOrder() ? numbers.begin() + static_cast<std::ptrdiff_t>(places.FirstBehind(wanted))
+                                       : std::find_if(numbers.begin(), numbers.end(),
+                                                      [&](int32_t number) { return number == -1 || number > wanted; });
+    if (stop == numbers.end() || *stop == -1) return std::nullopt;
     return static_cast<int32_t>(stop - numbers.begin()) + 1;
 }
 

@@ -10,6 +10,7 @@
 #include "platform/event.h"
 #include "platform/trelmic6.h"
 #include "timeline/soncollection.h"
+#include "timeline/soundplaces.h"
 #include "timeline/tson.h"
 
 #include <cstdint>
@@ -99,8 +100,8 @@ public:
                         std::function<uint64_t()> state = {});
     // Nothing when somebody else answers.
     void LeaveUnanswered(const void* owner);
-    // That owner's answers for all sounds, in their order; nullptr without a state. Good until the next call.
-    const std::vector<int32_t>* KnownNumbers(const void* owner);
+    // That owner's answers for all sounds; nullptr without a state. Good until the next change.
+    std::shared_ptr<const SoundPlaces> KnownPlaces(const void* owner);
 
     ClsSonEvents Events;
 
@@ -109,13 +110,13 @@ private:
     struct Known {
         uint64_t State = 0;
         uint64_t Revision = 0;  // of the list
-        std::vector<int32_t> Numbers;
+        std::shared_ptr<SoundPlaces> Places;
     };
 
     int32_t NumDiapo(int32_t key);
     bool OnlyOwnerAnswers() const { return answer_ && !Events.csGetNumDiapo.connected(); }
     void Begin();
-    void KeepKnown(int32_t diapoKey, size_t place);
+    void KeepKnown(const tSon& son, size_t place);
     void SortByEvents(const SonCollection& old);
     void SortByAnswers(const SonCollection& old);
     void Place(const tSon& son, int32_t diapoValue);

@@ -282,6 +282,12 @@ private:
         BarList Bars;
         float BarTop = 0;
     };
+    // What a paint goes by.
+    struct KnownRow {
+        std::shared_ptr<const SonCollection> Sounds;
+        std::shared_ptr<const SoundPlaces> Places;  // nullptr where slides have to be asked for one by one
+        size_t Count = 0;
+    };
     struct Indicators {
         bool LectureActive = false;
         bool RecordActive = false;
@@ -349,8 +355,9 @@ private:
     // soundbars.cpp
     void PaintBars(const TimeScale& scale);
     void BuildBars(const TimeScale& scale);
-    // position: of the sound's slide.
-    void PlaceSound(Row& row, const tSon& son, int32_t position, const TimeScale& scale, bool& passed);
+    static KnownRow KnownOf(const Row& row);
+    bool PlaceThoseInSight(Row& row, const KnownRow& known, const TimeScale& scale);
+    void PlaceSound(Row& row, const KnownRow& known, size_t i, const TimeScale& scale, bool& passed);
     void AddBar(BarList& list, const tSon& son, int32_t start, const TimeScale& scale);
     void ExtendRepetitions(BarList& list);
     void SetRowTops();

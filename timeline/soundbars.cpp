@@ -26,36 +26,55 @@ void eTimeLine::PaintBars(const TimeScale& scale) {
 // From right to left: of the sounds that ended before the visible part only the last one can still reach it, and only
 // by repeating.
 void eTimeLine::BuildBars(const TimeScale& scale) {
-    bool passedMusic = false;
-    bool passedComment = false;
-    const auto known = [](const Row& row) {
-        const std::vector<int32_t>* numbers = nullptr;
-        if (row.Sounds) Attempt([&] { numbers = row.Sounds->KnownNumbers(&row); });
-        return numbers == nullptr ? std::vector<int32_t>() : *numbers;
-    };
-    const auto place = [&](Row& row, const std::vector<int32_t>& positions, int32_t i, bool& passed) {
-        const tSon& son = row.Sounds->CollectItem()->Item(i);
-        const size_t at = static_cast<size_t>(i) - 1;
-        PlaceSound(row, son, at < positions.size() ? positions[at] : PositionOf(son.DiapoKey), scale, passed);
-    };
-    const std::vector<int32_t> musics = known(musics_);
-    const std::vector<int32_t> comments = known(comments_);
-    const auto count = [](const Row& row) { return row.Sounds ? row.Sounds->Count() : 0; };
     musics_.Bars.clear();
     comments_.Bars.clear();
-    for (int32_t i = std::max(count(musics_), count(comments_)); i >= 1; --i) {
-        if (i <= count(musics_)) Attempt([&] { place(musics_, musics, i, passedMusic); });
-        if (i <= count(comments_)) Attempt([&] { place(comments_, comments, i, passedComment); });
+    const KnownRow musics = KnownOf(musics_);
+    const KnownRow comments = KnownOf(comments_);
+    const bool walksMusics = !PlaceThoseInSight(musics_, musics, scale);
+    const bool walksComments = !PlaceThoseInSight(comments_, comments, scale);
+    // Both rows side by side: a host may hear in which order their slides are asked for.
+    const size_t count = std::max(walksMusics ? musics.Count : 0, walksComments ? comments.Count : 0);
+    bool passedMusic = false;
+    bool passedComment = false;
+    for (size_t i = count; i-- > 0;) {
+        if (walksMusics && i < musics.Count) PlaceSound(musics_, musics, i, scale, passedMusic);
+        if (walksComments && i < comments.Count) PlaceSound(comments_, comments, i, scale, passedComment);
     }
 }
 
-void eTimeLine::PlaceSound(Row& row, const tSon& son, int32_t position, const TimeScale& scale, bool& passed) {
-    if (position < 0) return;
-    const int32_t start = timescale::Start(position, settings_.ExpositionTime);
-    if (start >= scale.LastSecond) return;
-    if (bars::ReachesIn(TheStrip(), scale, start, son.Durée)) return AddBar(row.Bars, son, start, scale);
-    if (son.Repetition && !passed) AddBar(row.Bars, son, start, scale);
-    passed = true;
+eTimeLine::KnownRow eTimeLine::KnownOf(const Row& row) {
+    KnownRow known;
+    if (!row.Sounds) return known;
+    known.Sounds = row.Sounds->CollectItem();
+    known.Count = static_cast<size_t>(known.Sounds->Count());
+    Attempt([&] { known.Places = row.Sounds->KnownPlaces(&row); });
+    return known;
+}
+
+// Whether it could be done so.
+bool eTimeLine::PlaceThoseInSight(Row& row, const KnownRow& known, const TimeScale& scale) {
+    if (!known.Places || !bars::CanLookUp(*known.Places, scale, settings_.ExpositionTime)) return false;
+    bool passed = false;
+    bars::EachInSight(*known.Places, TheStrip(), scale, settings_.ExpositionTime, [&](size_t i) {
+        PlaceSound(row, known, i, scale, passed);
+        const bool closed = !row.Bars.empty() && row.Bars.front().x <= static_cast<float>(borderPixels_);
+        if (closed) return bars::Left::None;
+        return passed ? bars::Left::ThoseThatReachIn : bars::Left::Any;
+    });
+    return true;
+}
+
+void eTimeLine::PlaceSound(Row& row, const KnownRow& known, size_t i, const TimeScale& scale, bool& passed) {
+    Attempt([&] {
+        const tSon& son = known.Sounds->Item(static_cast<int32_t>(i) + 1);
+        const int32_t position = known.Places ? known.Places->Numbers().at(i) : PositionOf(son.DiapoKey);
+        if (position < 0) return;
+        const int32_t start = timescale::Start(position, settings_.ExpositionTime);
+        if (start >= scale.LastSecond) return;
+        if (bars::ReachesIn(TheStrip(), scale, start, son.Durée)) return AddBar(row.Bars, son, start, scale);
+        if (son.Repetition && !passed) AddBar(row.Bars, son, start, scale);
+        passed = true;
+    });
 }
 
 void eTimeLine::AddBar(BarList& list, const tSon& son, int32_t start, const TimeScale& scale) {

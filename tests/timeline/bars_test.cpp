@@ -3,6 +3,7 @@
 #include "tests/platform/expectfailure.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace vorlane::bars {
 namespace {
@@ -156,6 +157,56 @@ TEST_F(BarsTest, TheFirstBarOverAPointIsFoundBothEdgesCounted) {
     EXPECT_TRUE(InRow(11, 3, 8));
     EXPECT_FALSE(InRow(2.5F, 3, 8));
     EXPECT_FALSE(InRow(11.5F, 3, 8));
+}
+
+// --- Which sounds a paint looks at ---
+
+// A sound of two seconds on each of 10,000 slides of five seconds.
+class InSightTest : public testing::Test {
+protected:
+    static constexpr int32_t kCount = 10000;
+    static constexpr int16_t kExposition = 5;
+    Strip strip{1500, 40, 0, 0};
+    TimeScale scale{30, 25000, 25050};  // ten slides in sight
+
+    SoundPlaces Places(int32_t longOne = -1, int32_t length = 0) {
+        SoundPlaces places;
+        for (int32_t i = 0; i < kCount; ++i) places.Insert(places.Count(), i, i == longOne ? length : 2);
+        return places;
+    }
+    // What is looked at of places, the left edge having a bar once a sound reaches in; "4999 4998".
+    std::string LookedAt(const SoundPlaces& places, bool passedEnds = true) {
+        std::string text;
+        EachInSight(places, strip, scale, kExposition, [&](size_t i) {
+            text += (text.empty() ? "" : " ") + std::to_string(i);
+            const auto start = static_cast<int32_t>(i) * kExposition;
+            if (start >= scale.FirstSecond) return Left::Any;
+            if (places.LastReaching(i + 1, LeftLimit(strip, scale), kExposition) == i) return Left::None;
+            return passedEnds ? Left::ThoseThatReachIn : Left::Any;
+        });
+        return text;
+    }
+};
+
+TEST_F(InSightTest, OfTenThousandSoundsThoseInSightAndTheOneBeforeAreLookedAt) {
+    EXPECT_EQ(LookedAt(Places()), "5009 5008 5007 5006 5005 5004 5003 5002 5001 5000 4999");
+}
+
+TEST_F(InSightTest, ASoundThatReachesInFromFarIsFoundWithoutAWalk) {
+    const std::string inSight = "5009 5008 5007 5006 5005 5004 5003 5002 5001 5000 4999 ";
+    EXPECT_EQ(LookedAt(Places(3, 24985)), inSight + "3");
+    EXPECT_EQ(LookedAt(Places(3, 24984)) + " ", inSight) << "it ends a second before";
+}
+
+TEST_F(InSightTest, NothingIsLookedUpInAListOutOfOrderOrOnAScaleThatRunsBackwards) {
+    SoundPlaces places = Places();
+    EXPECT_TRUE(CanLookUp(places, scale, 1));
+    EXPECT_FALSE(CanLookUp(places, scale, 0));
+    EXPECT_FALSE(CanLookUp(places, {0, 0, 0}, 1));
+    EXPECT_FALSE(CanLookUp(places, {-3, 0, 0}, 1));
+    EXPECT_FALSE(CanLookUp(places, {std::numeric_limits<float>::infinity(), 0, 0}, 1));
+    places.Insert(0, 7, 0);
+    EXPECT_FALSE(CanLookUp(places, scale, 1));
 }
 
 }  // namespace

@@ -133,20 +133,20 @@ TEST_F(ClsSonTest, WhereTheOwnerTellsWhatItsAnswersGoByEachSoundIsAskedForOnce) 
     }
     EXPECT_LE(owner.asked, 2 * 100);
     owner.asked = 0;
-    ASSERT_NE(quiet.KnownNumbers(&owner), nullptr);
-    EXPECT_EQ(quiet.KnownNumbers(&owner)->front(), 401);
+    ASSERT_NE(quiet.KnownPlaces(&owner), nullptr);
+    EXPECT_EQ(quiet.KnownPlaces(&owner)->Numbers().front(), 401);
     EXPECT_EQ(owner.asked, 0);
     owner.numbers[99] = 600;
-    EXPECT_EQ(quiet.KnownNumbers(&owner)->front(), 401) << "the owner has told of no change";
+    EXPECT_EQ(quiet.KnownPlaces(&owner)->Numbers().front(), 401) << "the owner has told of no change";
     ++owner.state;
-    EXPECT_EQ(quiet.KnownNumbers(&owner)->front(), 600);
+    EXPECT_EQ(quiet.KnownPlaces(&owner)->Numbers().front(), 600);
     EXPECT_EQ(owner.asked, 100);
-    EXPECT_EQ(quiet.KnownNumbers(this), nullptr) << "somebody else answers";
+    EXPECT_EQ(quiet.KnownPlaces(this), nullptr) << "somebody else answers";
     owner.state = 0;
-    EXPECT_EQ(quiet.KnownNumbers(&owner), nullptr);
+    EXPECT_EQ(quiet.KnownPlaces(&owner), nullptr);
 }
 
-TEST_F(ClsSonTest, KnownNumbersFollowEveryChangeOfTheList) {
+TEST_F(ClsSonTest, KnownPlacesFollowEveryChangeOfTheList) {
     ClsSon quiet(desktop.Roles());
     Owner owner(quiet);
     const std::string file = File();
@@ -154,7 +154,7 @@ TEST_F(ClsSonTest, KnownNumbersFollowEveryChangeOfTheList) {
         owner.numbers[key] = key;
         quiet.Add(file, key);
     }
-    const auto known = [&] { return *quiet.KnownNumbers(&owner); };
+    const auto known = [&] { return quiet.KnownPlaces(&owner)->Numbers(); };
     EXPECT_EQ(known(), (std::vector<int32_t>{2, 4, 8}));
     quiet.Remove(4);
     EXPECT_EQ(known(), (std::vector<int32_t>{2, 8}));

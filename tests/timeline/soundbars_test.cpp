@@ -1,5 +1,7 @@
 #include "timelinetest.h"
 
+#include <random>
+
 namespace vorlane {
 namespace {
 
@@ -196,6 +198,59 @@ TEST_F(SoundBarsTest, ABarThatCantBeExtendedIsReportedAndThePaintGoesOn) {
     EXPECT_EQ(Heard(), "host Error 6 [TimeLine RepetSon ]\n");
     EXPECT_NE(Drawn("Box"), "\n");
     EXPECT_NE(Drawn("Text"), "\n");
+}
+
+// --- Without a walk over all sounds ---
+
+// Two strips over the same sounds. A collection knows the places of its sounds for one owner, so that the first strip
+// walks over all of them, while the second looks them up.
+TEST_F(SoundBarsTest, TheBarsAreThoseOfAWalkOverAllSounds) {
+    std::mt19937 dice(31);  // NOLINT(cert-msc51-cpp): the same on every run
+    const auto below = [&](int end) { return static_cast<int>(dice() % static_cast<unsigned>(end)); };
+    Start();
+    headless::Window otherWindow{desktop, {0, 300, 300, 340}};
+    eTimeLine other{desktop.Roles(), otherWindow.Ambient()};
+    other.AttachVorlane(&sheet);
+    otherWindow.Host(other, Plain());
+    const std::string file = File("m.wav", 3);
+    int bars = 0;
+    for (int round = 0; round < 400; ++round) {
+        line->SetMusiques(std::make_shared<ClsSon>(desktop.Roles()));
+        line->SetComments(std::make_shared<ClsSon>(desktop.Roles()));
+        other.SetMusiques(line->Musiques());
+        other.SetComments(line->Comments());
+        for (const auto& sounds : {line->Musiques(), line->Comments()}) {
+            for (int32_t n = 0; n < 40; ++n) {
+                if (below(3) == 0) continue;
+                const int32_t key = 100 + n;
+                sounds->Add(file, key, -1, below(4) == 0);
+                tSon son = *sounds->Item(key);
+                son.Durée = below(10) == 0 ? below(250) : below(12) - 1;
+                sounds->SetItem(key, son);
+            }
+            if (below(5) > 0) sounds->Sort();
+        }
+        for (eTimeLine* strip : {line.get(), &other}) {
+            strip->SetMargeGauche(0);
+            strip->SetStartPoint(0);
+        }
+        const std::mt19937 scene = dice;
+        for (eTimeLine* strip : {line.get(), &other}) {
+            dice = scene;
+            strip->SetBorderStyle(below(13));
+            strip->SetExpositionTime(static_cast<int16_t>(below(8) - 1));
+            strip->SetDiapoWidth(static_cast<float>(below(200) - 5));
+            strip->SetMargeGauche(static_cast<int16_t>(below(4) == 0 ? below(80) - 40 : 0));
+            strip->SetStartPoint(below(45) - 3);
+            strip->Move(0, 0, static_cast<float>(below(400)), 40);
+            strip->Paint();
+        }
+        ASSERT_EQ(Told(other.MusicBars()), Told(line->MusicBars())) << round;
+        ASSERT_EQ(Told(other.CommentBars()), Told(line->CommentBars())) << round;
+        ASSERT_EQ(other.Surface().dump(), line->Surface().dump()) << round;
+        bars += static_cast<int>(line->MusicBars().size());
+    }
+    EXPECT_GT(bars, 1000);
 }
 
 // --- The tooltip ---
