@@ -4,6 +4,7 @@
 #include "platform/numbers.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 namespace vorlane {
@@ -28,6 +29,30 @@ void Surface::SetBackColor(OLE_COLOR color) {
     if (color == backColor_) return;
     backColor_ = color;
     Touch();
+}
+
+void Surface::Redraw(const std::function<void()>& paint) {
+    if (redrawing_) return paint();
+    const auto before = commands_;
+    const size_t count = before->size();
+    const uint64_t since = revision_;
+    const OLE_COLOR ground = backColor_;
+    const auto tell = [&] {
+        redrawing_ = false;
+        lastRedraw_.reset();
+        if (revision_ == since) return;
+        const std::span<const draw::Command> drawn(*before);
+        if (backColor_ == ground) lastRedraw_ = {since, draw::ChangesBetween(drawn.first(count), *commands_)};
+        Changed();
+    };
+    redrawing_ = true;
+    try {
+        paint();
+    } catch (...) {
+        tell();
+        throw;
+    }
+    tell();
 }
 
 void Surface::Cls() {
@@ -97,6 +122,8 @@ void Surface::Append(draw::Command command) {
 
 void Surface::Touch() {
     ++revision_;
+    if (redrawing_) return;
+    lastRedraw_.reset();
     Changed();
 }
 

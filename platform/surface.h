@@ -8,93 +8,22 @@
 #pragma once
 
 #include "platform/color.h"
+#include "platform/drawcommands.h"
 #include "platform/event.h"
 #include "platform/font.h"
 #include "platform/geometry.h"
 #include "platform/picture.h"
+#include "platform/recordingchanges.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 namespace vorlane {
-
-namespace draw {
-
-struct Line {  // both ends drawn
-    float X1, Y1, X2, Y2;
-    OLE_COLOR Color;
-    bool operator==(const Line&) const = default;
-};
-struct OutlinedBox {  // one-pixel outline, both corners drawn
-    float X1, Y1, X2, Y2;
-    OLE_COLOR Color;
-    bool operator==(const OutlinedBox&) const = default;
-};
-struct FilledBox {  // both corners drawn
-    float X1, Y1, X2, Y2;
-    OLE_COLOR Color;
-    bool operator==(const FilledBox&) const = default;
-};
-struct TextOutA {  // left and top of the text
-    int32_t X, Y;
-    std::string Text;
-    OLE_COLOR Color;
-    vorlane::Font Font;
-    bool operator==(const TextOutA&) const = default;
-};
-struct TRIVERTEX {
-    int32_t X, Y;
-    uint16_t Red, Green, Blue, Alpha;  // 0 to 0xFF00
-    bool operator==(const TRIVERTEX&) const = default;
-};
-struct GRADIENT_RECT {  // indices of two vertices, the corners
-    uint32_t UpperLeft, LowerRight;
-    bool operator==(const GRADIENT_RECT&) const = default;
-};
-struct GradientFill {
-    std::vector<TRIVERTEX> Vertices;
-    std::vector<GRADIENT_RECT> Rects;
-    uint32_t Mode;  // 0 left to right, 1 top to bottom
-    bool operator==(const GradientFill&) const = default;
-};
-struct DrawEdge {
-    WinRect Rect;
-    uint32_t Edge, Flags;
-    bool operator==(const DrawEdge&) const = default;
-};
-struct Polygon {  // closed
-    std::vector<Point> Points;
-    OLE_COLOR Outline;
-    std::optional<OLE_COLOR> Fill;  // nothing leaves the inside as it is
-    bool operator==(const Polygon&) const = default;
-};
-struct RoundRect {  // outline only; right and bottom outside, width and height of the corner ellipses
-    WinRect Rect;
-    int32_t CornerWidth, CornerHeight;
-    OLE_COLOR Outline;
-    bool operator==(const RoundRect&) const = default;
-};
-struct SetPixel {
-    int32_t X, Y;
-    OLE_COLOR Color;
-    bool operator==(const SetPixel&) const = default;
-};
-struct BitBlt {  // a picture, unscaled
-    int32_t X, Y, Width, Height;
-    vorlane::Picture Source;
-    int32_t SourceX, SourceY;
-    bool operator==(const BitBlt&) const = default;
-};
-
-using Command =
-    std::variant<Line, OutlinedBox, FilledBox, TextOutA, GradientFill, DrawEdge, Polygon, RoundRect, SetPixel, BitBlt>;
-
-}  // namespace draw
 
 // What a desktop keeps of its last replay of a surface.
 class SurfaceImage {
@@ -118,6 +47,9 @@ public:
     int16_t FillStyle() const { return fillStyle_; }
     void SetFillStyle(int16_t style) { fillStyle_ = style; }
 
+    // Runs what draws, and tells of all that it has changed at once, behind it. For what draws the same all anew and
+    // changes little.
+    void Redraw(const std::function<void()>& paint);
     // Empties the recording: only the back colour is left.
     void Cls();
     // Lines and boxes fail with Overflow() for a coordinate that is no 32-bit number when rounded.
@@ -142,6 +74,13 @@ public:
     std::shared_ptr<const std::vector<draw::Command>> Recording() const { return commands_; }
     // Moves on with every change of what a replay would show.
     uint64_t Revision() const { return revision_; }
+    // What the last Redraw has changed since that revision; nothing where something else has changed since, or the
+    // ground.
+    struct Redrawn {
+        uint64_t Since;
+        draw::Changes Changes;
+    };
+    const std::optional<Redrawn>& LastRedraw() const { return lastRedraw_; }
     // The back colour, then the commands, one a line: "BackColor sys15", "Box 0,0 99,74 #8C021B". A colour is "#" and
     // the six digits of its value, blue first, or "sys" and its number. A coordinate has up to three decimals and no
     // idle zeros. A text stands in quotes, with \ in front of quotes and backslashes and \xNN for control codes.
@@ -164,6 +103,8 @@ private:
     vorlane::Font font_;
     std::shared_ptr<std::vector<draw::Command>> commands_ = std::make_shared<std::vector<draw::Command>>();
     uint64_t revision_ = 0;
+    bool redrawing_ = false;
+    std::optional<Redrawn> lastRedraw_;
     mutable std::shared_ptr<SurfaceImage> image_;
 };
 

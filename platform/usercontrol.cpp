@@ -8,7 +8,7 @@ UserControl::UserControl(const vorlane::Desktop& desktop, const vorlane::Ambient
     : Control(container, Layer::Windowless), desktop_(desktop), ambient_(ambient) {
     surface_.SetBackColor(ambient.BackColor);
     surface_.SetFont(ambient.Font);
-    surface_.Changed.connect([this] { Invalidate(); });
+    surface_.Changed.connect([this] { SurfaceChanged(); });
 }
 
 UserControl::~UserControl() {
@@ -103,6 +103,17 @@ Box UserControl::Aligned(vorlane::Align align, const Box& box) const {
             return {width - box.Width, 0, box.Width, height};
     }
     return box;
+}
+
+void UserControl::SurfaceChanged() {
+    const auto& redrawn = surface_.LastRedraw();
+    if (!redrawn) return Invalidate();
+    const draw::Extent& where = redrawn->Changes.Where;
+    const float left = std::max(where.Left, 0.0F);
+    const float top = std::max(where.Top, 0.0F);
+    const Box part{left, top, std::min(where.Right, ScaleWidth()) - left, std::min(where.Bottom, ScaleHeight()) - top};
+    if (Visible() && !part.Empty()) ChildChanged(part);
+    Changed();
 }
 
 void UserControl::ChildChanged(const Box& part) {

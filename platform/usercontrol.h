@@ -75,6 +75,7 @@ private:
     bool Restack(Control& child, ZOrderPosition position);
     // The place of a child of that size that sticks to a side.
     Box Aligned(vorlane::Align align, const Box& box) const;
+    void SurfaceChanged();
     void ChildChanged(const Box& part);
 
     vorlane::Desktop desktop_;

@@ -340,6 +340,7 @@ private:
     void Report(const Failure& failure, const std::string& text) const;
 
     // paint.cpp
+    void PaintAll();
     Strip TheStrip() const;
     uint8_t DrawBorder(bool measureOnly);
     void PaintBackground();

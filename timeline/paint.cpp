@@ -20,6 +20,11 @@ void eTimeLine::Paint() {
     Attempt([&] { borderPixels_ = DrawBorder(true); });
     if (!life_.ShownOnce || life_.BusyPainting) return;
     life_.BusyPainting = true;
+    Attempt([&] { Surface().Redraw([&] { PaintAll(); }); });
+    life_.BusyPainting = false;
+}
+
+void eTimeLine::PaintAll() {
     Surface().Cls();
     Attempt([&] { PaintBackground(); });
     Attempt([&] { ShapeWindow(); });
@@ -29,7 +34,6 @@ void eTimeLine::Paint() {
     if (indicators_.RecordActive) Attempt([&] { DrawRecordBar(scale); });
     if (indicators_.LectureActive) Attempt([&] { DrawIndicators(scale); });
     Attempt([&] { DrawMarks(scale); });
-    life_.BusyPainting = false;
 }
 
 Strip eTimeLine::TheStrip() const {

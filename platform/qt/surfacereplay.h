@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include <QImage>
@@ -31,9 +32,10 @@ private:
         bool operator==(const Look&) const = default;
     };
 
-    void DrawAll(const PaintTools& tools);
-    // Whether it could be done so; former: the recording that is drawn, with the number of its commands.
-    bool DrawChanges(const Recording& former, size_t formerCount, const PaintTools& tools);
+    // Since the recording that is drawn.
+    draw::Changes ChangesOf(const Surface& surface) const;
+    void DrawAll(std::span<const draw::Command> commands, const PaintTools& tools);
+    void DrawChanges(const draw::Changes& changes, std::span<const draw::Command> commands, const PaintTools& tools);
 
     Look look_;
     uint64_t revision_ = 0;

@@ -65,6 +65,29 @@ TEST_F(ControlTest, ARestackedControlIsDamagedWhereItStands) {
     EXPECT_EQ(root.TakeDamage(), (Boxes{{1, 2, 3, 4}}));
 }
 
+TEST_F(ControlTest, OfARedrawnSurfaceOnlyWhatHasChangedIsDamaged) {
+    Panel inner(desktop, &root, {100, 50, 80, 40});
+    inner.SetBorderStyle(1);
+    const auto redraw = [](UserControl& control, int32_t x) {
+        control.Surface().Redraw([&] {
+            control.Surface().Cls();
+            control.Surface().SetPixel(5, 5, 0);
+            control.Surface().SetPixel(x, 20, 0);
+        });
+    };
+    redraw(root, 30);
+    redraw(inner, 30);
+    root.TakeDamage();
+    redraw(root, 34);
+    EXPECT_EQ(root.TakeDamage(), (Boxes{{28, 18, 8, 4}}));
+    redraw(inner, 77);
+    EXPECT_EQ(root.TakeDamage(), (Boxes{{129, 69, 50, 4}})) << "within its frame";
+    redraw(inner, 77);
+    EXPECT_EQ(root.TakeDamage(), Boxes{});
+    root.Surface().SetPixel(0, 0, 0);
+    EXPECT_EQ(root.TakeDamage(), (Boxes{{0, 0, 200, 100}}));
+}
+
 TEST_F(ControlTest, AControlThatEndsLeavesItsContainer) {
     {
         Label a(&root);

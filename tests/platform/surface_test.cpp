@@ -162,6 +162,63 @@ TEST_F(SurfaceTest, TheRevisionMovesWithWhatAReplayWouldShowAndWithNothingElse) 
     EXPECT_EQ(moves([&] { surface.Cls(); }), 1);
 }
 
+TEST_F(SurfaceTest, ARedrawIsToldAtOnceWithWhatItHasChanged) {
+    int changes = 0;
+    surface.Changed.connect([&] { ++changes; });
+    const auto redraw = [&](int32_t x) {
+        const uint64_t before = surface.Revision();
+        surface.Redraw([&] {
+            surface.Cls();
+            surface.SetPixel(0, 0, 1);
+            surface.Redraw([&] { surface.SetPixel(x, 7, 2); });
+            surface.SetPixel(100, 100, 3);
+            EXPECT_FALSE(std::exchange(changes, 0));
+        });
+        EXPECT_EQ(std::exchange(changes, 0), 1);
+        ASSERT_TRUE(surface.LastRedraw());
+        EXPECT_EQ(surface.LastRedraw()->Since, before);
+    };
+    redraw(10);
+    redraw(30);
+    const draw::Changes moved = surface.LastRedraw()->Changes;
+    EXPECT_EQ(moved.Count, 2U) << "one gone, one come";
+    EXPECT_GT(moved.Where.Left, 0);
+    EXPECT_LE(moved.Where.Left, 10);
+    EXPECT_LT(moved.Where.Bottom, 100);
+    EXPECT_GE(moved.Where.Right, 31);
+    redraw(30);
+    EXPECT_EQ(surface.LastRedraw()->Changes.Count, 0U);
+    EXPECT_TRUE(surface.LastRedraw()->Changes.Where.Empty());
+    surface.Redraw([] {});
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(SurfaceTest, WhatElseHasChangedSinceARedrawIsNotKnown) {
+    const auto draw = [&] { surface.SetPixel(1, 1, 1); };
+    surface.Redraw(draw);
+    EXPECT_TRUE(surface.LastRedraw());
+    draw();
+    EXPECT_FALSE(surface.LastRedraw());
+    surface.Redraw(draw);
+    surface.SetBackColor(0x123456);
+    EXPECT_FALSE(surface.LastRedraw());
+    surface.Redraw([&] { surface.SetBackColor(0x654321); });
+    EXPECT_FALSE(surface.LastRedraw()) << "the whole ground";
+}
+
+TEST_F(SurfaceTest, ARedrawThatFailsIsToldAsFarAsItCame) {
+    int changes = 0;
+    surface.Changed.connect([&] { ++changes; });
+    EXPECT_FAILURE(surface.Redraw([&] {
+        surface.SetPixel(1, 1, 1);
+        throw failures::Overflow();
+    }),
+                   Overflow());
+    EXPECT_EQ(changes, 1);
+    surface.SetPixel(2, 2, 2);
+    EXPECT_EQ(changes, 2);
+}
+
 TEST_F(SurfaceTest, EveryDrawingCallMovesTheRevisionOnce) {
     surface.LineBox(0, 0, 1, 1, 0);
     surface.LineFilledBox(0, 0, 1, 1, 0);

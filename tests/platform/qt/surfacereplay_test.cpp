@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kWidth = 60;
 constexpr int kHeight = 40;
+constexpr const char* kTexts[] = {"1:2", "WWW@", "Été ", "fj"};
 constexpr double kScales[] = {1, 1.25, 1.5, 1.75, 2, 3};
 
 class SurfaceReplayTest : public testing::Test {
@@ -47,7 +48,7 @@ protected:
             case 2:
                 return surface.LineFilledBox(X(), Y(), X(), Y(), Color());
             case 3:
-                return surface.TextOutA(X(), Y(), "1:2" + std::to_string(Below(10)));
+                return surface.TextOutA(X(), Y(), kTexts[Below(4)] + std::to_string(Below(10)));
             case 4:
                 return surface.GradientFill({{X(), Y(), 0xFF00, 0x4000, 0, 0}, {X(), Y(), 0, 0x8000, 0xC000, 0}},
                                             {{0, 1}}, static_cast<uint32_t>(Below(2)));
