@@ -4,8 +4,9 @@
 #include "widgets/accessiblesound.h"
 #include "widgets/timelinewidget.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
-#include <QPointer>
 
 namespace vorlane {
 
@@ -24,18 +25,9 @@ AccessibleTimeLine::~AccessibleTimeLine() {
     for (const auto& [sound, id] : sounds_) QAccessible::deleteAccessibleInterface(id);
 }
 
-void AccessibleTimeLine::Attach(TimeLineWidget& widget) {
+void AccessibleTimeLine::Install() {
     QAccessible::removeFactory(MakeInterface);
     QAccessible::installFactory(MakeInterface);
-    Follow(widget, widget.timeline().Musiques().get());
-    Follow(widget, widget.timeline().Comments().get());
-}
-
-void AccessibleTimeLine::Follow(TimeLineWidget& widget, ClsSon* sounds) {
-    if (sounds == nullptr) return;
-    sounds->Events.csRepaint.connect([widget = QPointer(&widget)] {
-        if (widget) TellSounds(*widget);
-    });
 }
 
 void AccessibleTimeLine::TellSounds(TimeLineWidget& widget) {
@@ -73,9 +65,20 @@ QAccessibleInterface* AccessibleTimeLine::SoundOf(int type, int diapoKey) const 
     const std::pair<int, int> name(type, diapoKey);
     const auto known = sounds_.find(name);
     if (known != sounds_.end()) return QAccessible::accessibleInterface(known->second);
+    if (sounds_.size() >= sweepAt_) Sweep();
     auto* sound = new AccessibleSound(Widget(), type, diapoKey);
     sounds_[name] = QAccessible::registerAccessibleInterface(sound);
     return sound;
+}
+
+void AccessibleTimeLine::Sweep() const {
+    std::erase_if(sounds_, [](const auto& known) {
+        const QAccessibleInterface* sound = QAccessible::accessibleInterface(known.second);
+        const bool gone = sound == nullptr || !sound->isValid();
+        if (gone) QAccessible::deleteAccessibleInterface(known.second);
+        return gone;
+    });
+    sweepAt_ = std::max(kFewSounds, 2 * sounds_.size());
 }
 
 QAccessibleInterface* AccessibleTimeLine::childAt(int x, int y) const {

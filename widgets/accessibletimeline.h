@@ -3,6 +3,7 @@
 // it selects its slide.
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <utility>
 
@@ -11,7 +12,6 @@
 
 namespace vorlane {
 
-class ClsSon;
 class TimeLineWidget;
 
 class AccessibleTimeLine final : public QAccessibleWidget {
@@ -19,12 +19,10 @@ public:
     explicit AccessibleTimeLine(TimeLineWidget& widget);
     ~AccessibleTimeLine() override;
 
-    // Makes this the interface of a widget.
-    static void Attach(TimeLineWidget& widget);
-    // Tells assistive programs that the sounds may be others; and does so from then on when the display follows a
-    // change of a collection, for as long as the widget is there.
+    // Makes this the interface of all time lines.
+    static void Install();
+    // Tells assistive programs that the sounds may be others.
     static void TellSounds(TimeLineWidget& widget);
-    static void Follow(TimeLineWidget& widget, ClsSon* sounds);
 
     QString text(QAccessible::Text kind) const override;
     int childCount() const override;
@@ -36,8 +34,13 @@ private:
     TimeLineWidget& Widget() const;
     // The interface of the sound of a slide. type: 0 its music, 1 its comment.
     QAccessibleInterface* SoundOf(int type, int diapoKey) const;
+    // Lets the interfaces of sounds go that are no more.
+    void Sweep() const;
+
+    static constexpr size_t kFewSounds = 64;
 
     mutable std::map<std::pair<int, int>, QAccessible::Id> sounds_;  // by type and slide key
+    mutable size_t sweepAt_ = kFewSounds;                            // as many of them
 };
 
 }  // namespace vorlane

@@ -13,12 +13,13 @@ int TimeLineSounds::Count() const {
 
 bool TimeLineSounds::Add(const QString& soundFileName, int diapoKey, int diapoValue, bool repetition, bool rehausse,
                          int volNormal, int volPendantComment, int volComment) {
-    if (!sounds_ || sounds_->Item(diapoKey)) return false;
+    if (!sounds_) return false;
+    const bool taken = sounds_->Item(diapoKey).has_value();
     Attempt([&] {
         sounds_->Add(ToText(soundFileName), diapoKey, diapoValue, repetition, rehausse, ToByte(volNormal),
                      ToByte(volPendantComment), ToByte(volComment));
     });
-    return sounds_->Item(diapoKey).has_value();
+    return !taken && sounds_->Item(diapoKey).has_value();
 }
 
 std::optional<TimeLineSound> TimeLineSounds::Item(int key) const {
@@ -27,7 +28,9 @@ std::optional<TimeLineSound> TimeLineSounds::Item(int key) const {
 }
 
 bool TimeLineSounds::SetItem(int key, const TimeLineSound& sound) {
-    return sounds_ && sounds_->Item(key) && Attempt([&] { sounds_->SetItem(key, ToSon(sound)); });
+    if (!sounds_) return false;
+    const bool known = sounds_->Item(key).has_value();
+    return Attempt([&] { sounds_->SetItem(key, ToSon(sound)); }) && known;
 }
 
 bool TimeLineSounds::Remove(int key) {

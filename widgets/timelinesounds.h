@@ -26,6 +26,7 @@ public:
              bool rehausse = true, int volNormal = 100, int volPendantComment = 25, int volComment = 100);
     // Of a slide.
     std::optional<TimeLineSound> Item(int key) const;
+    // A slide without a sound gets none, and the display follows all the same.
     bool SetItem(int key, const TimeLineSound& sound);
     bool Remove(int key);
     // From 1.

@@ -38,7 +38,9 @@ TimeLineWidget::TimeLineWidget(QtDesktop& desktop, QWidget* parent)
                                 int32_t lastDllError, const std::string& valeur) {
         Q_EMIT OnError(number, FromText(description), FromText(source), lastDllError, FromText(valeur));
     });
-    AccessibleTimeLine::Attach(*this);
+    AccessibleTimeLine::Install();
+    TellChangesOf(line_.Musiques().get(), musicsHeard_);
+    TellChangesOf(line_.Comments().get(), commentsHeard_);
 }
 
 TimeLineWidget::~TimeLineWidget() {
@@ -89,13 +91,18 @@ bool TimeLineWidget::RestoreProperties(const QByteArray& text) {
 
 // --- Sounds and sheet ---
 
+void TimeLineWidget::TellChangesOf(ClsSon* sounds, ScopedConnection& heard) {
+    heard = {};
+    if (sounds != nullptr) heard = sounds->Events.csRepaint.connect([this] { AccessibleTimeLine::TellSounds(*this); });
+}
+
 TimeLineSounds TimeLineWidget::Musiques() const {
     return TimeLineSounds(line_.Musiques());
 }
 
 void TimeLineWidget::SetMusiques(std::shared_ptr<ClsSon> sounds) {
     Do("SetMusiques", [&] { line_.SetMusiques(std::move(sounds)); });
-    AccessibleTimeLine::Follow(*this, line_.Musiques().get());
+    TellChangesOf(line_.Musiques().get(), musicsHeard_);
     AccessibleTimeLine::TellSounds(*this);
 }
 
@@ -105,7 +112,7 @@ TimeLineSounds TimeLineWidget::Comments() const {
 
 void TimeLineWidget::SetComments(std::shared_ptr<ClsSon> sounds) {
     Do("SetComments", [&] { line_.SetComments(std::move(sounds)); });
-    AccessibleTimeLine::Follow(*this, line_.Comments().get());
+    TellChangesOf(line_.Comments().get(), commentsHeard_);
     AccessibleTimeLine::TellSounds(*this);
 }
 

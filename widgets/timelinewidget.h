@@ -197,7 +197,8 @@ public Q_SLOTS:
     void Clear();
     void Refresh();
     // How far the show, or a recording, has come: seconds since the start of the slide where it began, which the first
-    // call tells.
+    // call tells. That slide is one up to 32,767, otherwise OnError is raised and nothing begins; the seconds may lead
+    // to any slide.
     void Lecture(int nbSeconde, int diapoValue = -1);
     void LectureEnd();
     void Record(int nbSeconde, int diapoValue = -1);
@@ -233,10 +234,14 @@ private:
             pending_, operation, [&](const Failure& failure) { Report(failure, name); }, otherwise);
     }
     void Report(const Failure& failure, const char* name) const;
+    // Assistive programs are told when the display follows a change of these sounds.
+    void TellChangesOf(ClsSon* sounds, ScopedConnection& heard);
 
     eTimeLine& line_;
     mutable PendingError pending_;
     QMetaObject::Connection sheetEnds_;
+    ScopedConnection musicsHeard_;
+    ScopedConnection commentsHeard_;
 };
 
 }  // namespace vorlane

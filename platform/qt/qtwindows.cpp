@@ -87,11 +87,9 @@ void QtWindows::SetWindowRgn(Hwnd window, const Region& region, bool redraw) {
     if (widget == nullptr) return;
     QRegion shape = ToQRegion(region);
     if (shape.isEmpty()) shape = QRegion(-1, -1, 1, 1);  // an empty mask would mean the whole window
-    if (shape == QRegion(widget->rect())) {
-        if (!widget->mask().isEmpty()) widget->clearMask();
-    } else if (shape != widget->mask()) {
-        widget->setMask(shape);
-    }
+    if (shape == QRegion(widget->rect())) shape = QRegion();
+    if (shape == widget->mask()) return;  // a strip gives its shape at each paint
+    shape.isEmpty() ? widget->clearMask() : widget->setMask(shape);
     if (redraw) widget->update();
 }
 

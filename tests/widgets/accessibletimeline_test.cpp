@@ -85,6 +85,33 @@ TEST_F(AccessibleTimeLineTest, ASoundOfASlideThatHasLeftHasNoTime) {
     EXPECT_EQ(Name(1), "m11.wav");
 }
 
+TEST_F(AccessibleTimeLineTest, SoundsThatTheStripHasNoMoreAreHeardNoMore) {
+    const auto former = strip->timeline().Musiques();
+    EXPECT_TRUE(former->Events.csRepaint.connected());
+    strip->SetMusiques(nullptr);
+    EXPECT_FALSE(former->Events.csRepaint.connected());
+    strip->SetMusiques(former);
+    EXPECT_TRUE(former->Events.csRepaint.connected());
+    strip.reset();
+    EXPECT_FALSE(former->Events.csRepaint.connected());
+}
+
+TEST_F(AccessibleTimeLineTest, TheInterfacesOfSoundsThatAreGoneGoInTime) {
+    strip->Musiques().Clear();
+    const QAccessible::Id kept = QAccessible::uniqueId(&Sound(0));
+    const QString file = test::TimeLineWidgetTest::Sound("m0.wav", 10);
+    int alive = 0;
+    std::vector<QAccessible::Id> ids;
+    for (int key = 1000; key < 1500; ++key) {
+        ASSERT_TRUE(strip->Musiques().Add(file, key, 0));
+        ids.push_back(QAccessible::uniqueId(&Sound(0)));
+        ASSERT_TRUE(strip->Musiques().Remove(key));
+    }
+    for (const QAccessible::Id id : ids) alive += QAccessible::accessibleInterface(id) == nullptr ? 0 : 1;
+    EXPECT_LT(alive, 100);
+    EXPECT_NE(QAccessible::accessibleInterface(kept), nullptr) << "the comment's";
+}
+
 TEST_F(AccessibleTimeLineTest, TheInterfacesEndWithTheWidget) {
     const QAccessible::Id id = QAccessible::uniqueId(&Sound(0));
     strip.reset();

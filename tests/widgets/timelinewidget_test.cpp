@@ -107,6 +107,78 @@ TEST_F(TimeLineWidgetTest, ARoundStripIsCutAtItsCorners) {
     EXPECT_TRUE(strip->mask().isEmpty());
 }
 
+// What of a strip is asked to be painted.
+class WatchedStrip : public TimeLineWidget {
+public:
+    using TimeLineWidget::TimeLineWidget;
+    QRegion takePainted() {
+        QCoreApplication::processEvents();
+        return std::exchange(painted_, {});
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        painted_ += event->region();
+        TimeLineWidget::paintEvent(event);
+    }
+
+private:
+    QRegion painted_;
+};
+
+TEST_F(TimeLineWidgetTest, OfATickOnlyTheTriangleIsPaintedAnew) {
+    WatchedStrip watched;
+    watched.resize(600, 60);
+    watched.AttachVorlane(sheet.get());
+    watched.show();
+    watched.Lecture(2, 0);
+    watched.takePainted();
+    watched.Lecture(3);
+    const QRect moved = watched.takePainted().boundingRect();
+    EXPECT_TRUE(moved.contains(QRect(56, 0, 41, 6))) << "from where it was to where it is";
+    EXPECT_LT(moved.width(), 60);
+    EXPECT_LT(moved.height(), 20);
+    watched.SetLectureIndicPos(kIndicBottom);
+    EXPECT_TRUE(watched.takePainted().contains(QPoint(91, 56)));
+    watched.Refresh();
+    EXPECT_TRUE(watched.takePainted().isEmpty()) << "nothing has changed";
+    watched.GradientColor(Qt::red, Qt::red, 1);
+    EXPECT_EQ(watched.takePainted(), QRegion(watched.rect()));
+    const QImage shown = watched.grab().toImage();
+    watched.timeline().Surface().KeepImage(nullptr);
+    EXPECT_EQ(watched.grab().toImage(), shown);
+}
+
+TEST_F(TimeLineWidgetTest, APlaybackMayLeadToAnySlideButBeginsOnOneThatANumberHolds) {
+    strip->SetStartPoint(40000);
+    strip->Lecture(200003, 0);
+    EXPECT_EQ(Pixel(91, 2), QColor(Qt::blue));
+    strip->LectureEnd();
+    EXPECT_EQ(errors, "");
+    strip->Lecture(3, 40000);
+    EXPECT_EQ(Pixel(91, 2), QColor(Qt::white));
+    strip->Record(3, 40000);
+    EXPECT_EQ(Pixel(2, 30), QColor(Qt::white));
+    EXPECT_EQ(errors.count("TimeLineWidget Lecture"), 1);
+    EXPECT_EQ(errors.count("TimeLineWidget Record"), 1);
+    strip->RecordEnd();
+}
+
+TEST_F(TimeLineWidgetTest, ASoundThatIsSetOnASlideWithoutOneLeavesItSoAndTheDisplayFollows) {
+    Music(1, 5);
+    int repaints = 0;
+    const ScopedConnection heard = strip->timeline().Musiques()->Events.csRepaint.connect([&repaints] { ++repaints; });
+    TimeLineSound sound = *strip->Musiques().Item(101);
+    sound.DiapoKey = 105;
+    EXPECT_FALSE(strip->Musiques().SetItem(105, sound));
+    EXPECT_EQ(repaints, 1);
+    EXPECT_EQ(strip->Musiques().Count(), 1);
+    EXPECT_FALSE(strip->Musiques().Add(folder.filePath("gone.wav"), 101));
+    EXPECT_EQ(repaints, 2) << "as for any file that is not there";
+    EXPECT_FALSE(strip->Musiques().Add(sound.Nom, 101));
+    EXPECT_EQ(repaints, 2);
+}
+
 TEST_F(TimeLineWidgetTest, APlaybackShowsATriangleAndARecordingABarInTheMiddle) {
     strip->Lecture(2, 0);
     EXPECT_EQ(Pixel(61, 2), QColor(Qt::blue));
