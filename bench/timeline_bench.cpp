@@ -67,7 +67,9 @@ struct FullStrip : Bench {
     FullStrip() : Bench(kFullSlides, kFullWidth, kFullSlides, kFullSlides) {}
 };
 struct LongShow : Bench {
-    LongShow() : Bench(kLongShow, kLongWidth, kLongShow, 0) { line.SetStartPoint(kLongShow / 2); }
+    explicit LongShow(int32_t sounds = kLongShow) : Bench(sounds, kLongWidth, sounds, 0) {
+        line.SetStartPoint(sounds / 2);
+    }
 };
 
 // --- Counts ---
@@ -113,11 +115,23 @@ void TickOfPlayback(benchmark::State& state) {
 }
 BENCHMARK(TickOfPlayback)->Unit(benchmark::kMicrosecond);
 
+// Shows of more and more sounds, of which 50 show.
 void PaintLongShow(benchmark::State& state) {
-    LongShow bench;
+    LongShow bench(static_cast<int32_t>(state.range(0)));
     for (auto _ : state) bench.line.Paint();
+    state.counters["bars"] = static_cast<double>(bench.line.MusicBars().size());
 }
-BENCHMARK(PaintLongShow)->Unit(benchmark::kMicrosecond);
+BENCHMARK(PaintLongShow)->Arg(100)->Arg(kLongShow)->Arg(10 * kLongShow)->Unit(benchmark::kMicrosecond);
+
+// The same with the sounds out of order, so that a paint walks over all of them.
+void PaintLongShowByWalking(benchmark::State& state) {
+    LongShow bench(static_cast<int32_t>(state.range(0)));
+    const auto sounds = bench.line.Musiques();
+    sounds->SetItem(1000 + sounds->Count() - 2, *sounds->Item(1000 + sounds->Count() - 2));
+    for (auto _ : state) bench.line.Paint();
+    state.counters["bars"] = static_cast<double>(bench.line.MusicBars().size());
+}
+BENCHMARK(PaintLongShowByWalking)->Arg(100)->Arg(kLongShow)->Unit(benchmark::kMicrosecond);
 
 // Fills the show of an attached sheet, from its end to its beginning.
 void AddSounds(benchmark::State& state) {
