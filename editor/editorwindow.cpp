@@ -53,7 +53,7 @@ EditorWindow::EditorWindow(QSettings& settings, ThumbnailOptions thumbnails, QWi
       sheet_(new VorlaneWidget(this)),
       show_(new Show(*sheet_, this)),
       navigator_(new Navigator(*sheet_, *show_, this)),
-      drags_(new SlideDrags(*sheet_, *show_, this)),
+      drags_(new SlideDrags(*sheet_, *show_, *navigator_, this)),
       renamer_(new Renamer(*sheet_, *show_, *navigator_, this)),
       provider_(new ThumbnailProvider(*sheet_, thumbnails_)),
       strip_(new Strip(*sheet_, this)),

@@ -129,7 +129,7 @@ private:
 
     // editorwindow_drags.cpp
     void ConnectDrags();
-    void Receive(const QStringList& paths, int before);
+    void Receive(const QStringList& paths, int before, int on);
 
     // editorwindow_menus.cpp
     QAction* AddAction(QMenu* menu, const QKeySequence& keys);
@@ -232,7 +232,6 @@ private:
     PictureOpener opener_;
     Soundtrack::MakeChannel makeChannel_;
     std::unique_ptr<ShowPlayer> player_;
-    int playedFrom_ = 0;  // the slide that the last playing began on
 
     std::optional<Folder> opened_;    // has been opened and comes onto the sheet next
     std::optional<Loading> loading_;  // the show whose pictures are being read and aren't on the sheet yet

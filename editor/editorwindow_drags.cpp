@@ -3,6 +3,10 @@
 #include "editor/emptypage.h"
 #include "editor/showfile.h"
 #include "editor/slidedrags.h"
+#include "editor/stripmenu.h"
+#include "widgets/filekind.h"
+
+#include <algorithm>
 
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -35,14 +39,23 @@ void EditorWindow::dropEvent(QDropEvent* event) {
     if (paths.isEmpty()) return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    Receive(paths, -1);
+    Receive(paths, -1, -1);
 }
 
-// A show is opened, and a folder where there is nothing yet; everything else is added.
-void EditorWindow::Receive(const QStringList& paths, int before) {
+// A show is opened, and a folder where there is nothing yet. Everything else is added: sounds as musics from the slide
+// under the pointer on, or from the one behind the mark.
+void EditorWindow::Receive(const QStringList& paths, int before, int on) {
     const bool opens = count() == 0 && paths.size() == 1 && QFileInfo(paths.first()).isDir();
     const bool isShow = paths.size() == 1 && IsShowFile(paths.first());
-    if (!opens && !isShow) return addFiles(paths, before);
+    if (!opens && !isShow) {
+        QStringList sounds = paths;
+        sounds.removeIf([](const QString& path) { return FileKindOf(path) != FileKind::Sound; });
+        QStringList others = paths;
+        others.removeIf([](const QString& path) { return FileKindOf(path) == FileKind::Sound; });
+        const int from = std::min(on < 0 ? before : on, count() - 1);
+        if (!sounds.isEmpty()) soundMenu_->addFiles(SoundKind::Music, sounds, from);
+        return addFiles(others, before);
+    }
     const auto leave = [this, path = paths.first()] { Leave([this, path] { open(path); }); };
     QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);  // the sheet is in the middle of the drop yet
 }

@@ -50,13 +50,12 @@ void EditorWindow::PlayFrom(int first) {
         connect(player_.get(), &ShowPlayer::troubled, this, &EditorWindow::Say);
     }
     sheet_->StopSound();
-    playedFrom_ = first;
     player_->play(std::move(*show), first, this);
 }
 
-// The strip counts from the slide that the playing began on.
+// The strip counts from the first slide: it knows no farther one than 32,767 to count from.
 void EditorWindow::FollowPlaying(int second) {
-    strip_->Lecture(second - playedFrom_ * strip_->ExpositionTime(), playedFrom_);
+    strip_->Lecture(second, 0);
 }
 
 }  // namespace vorlane::editor

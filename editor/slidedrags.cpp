@@ -1,5 +1,6 @@
 #include "editor/slidedrags.h"
 
+#include "editor/navigator.h"
 #include "editor/show.h"
 #include "widgets/vorlanewidget.h"
 
@@ -19,8 +20,8 @@ constexpr int kCopy = 1;
 
 }  // namespace
 
-SlideDrags::SlideDrags(VorlaneWidget& sheet, Show& show, QObject* parent)
-    : QObject(parent), sheet_(sheet), show_(show) {
+SlideDrags::SlideDrags(VorlaneWidget& sheet, Show& show, Navigator& navigator, QObject* parent)
+    : QObject(parent), sheet_(sheet), show_(show), navigator_(navigator) {
     sheet.SetOLEDragMode(kStartsDrags);
     sheet.SetOLEDropMode(kTakesDrops);
     sheet.installEventFilter(this);
@@ -50,6 +51,7 @@ QStringList SlideDrags::PathsOf(const QMimeData& data) {
 }
 
 bool SlideDrags::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Drop) on_ = navigator_.itemAt(static_cast<QDropEvent*>(event)->position());
     if (event->type() == QEvent::DragEnter) return Refuses(static_cast<QDragEnterEvent&>(*event));
     return QObject::eventFilter(watched, event);
 }
@@ -68,7 +70,7 @@ void SlideDrags::AnswerDrop(bool* cancel) {
         *cancel = SelectedKeys() != keys_ || !show_.beginMove();
     } else {
         *cancel = true;  // the show adds them
-        Q_EMIT dropped(paths_, sheet_.DropPlace());
+        Q_EMIT dropped(paths_, sheet_.DropPlace(), on_);
     }
 }
 

@@ -16,14 +16,15 @@ class VorlaneWidget;
 
 namespace vorlane::editor {
 
+class Navigator;
 class Show;
 
 class SlideDrags : public QObject {
     Q_OBJECT
 
 public:
-    // sheet and show outlive this.
-    SlideDrags(VorlaneWidget& sheet, Show& show, QObject* parent = nullptr);
+    // All outlive this.
+    SlideDrags(VorlaneWidget& sheet, Show& show, Navigator& navigator, QObject* parent = nullptr);
 
     // The local files and folders that dragged data names.
     static QStringList PathsOf(const QMimeData& data);
@@ -31,8 +32,8 @@ public:
     bool areDragged() const { return dragged_; }
 
 Q_SIGNALS:
-    // In front of a list index, or behind all.
-    void dropped(const QStringList& paths, int before);
+    // In front of a list index, or behind all. on: the index of the slide under the pointer, -1 for none.
+    void dropped(const QStringList& paths, int before, int on);
     // Slides are dragged that a sort keeps in their places.
     void held();
     // Slides are dragged no more.
@@ -48,9 +49,11 @@ private:
 
     VorlaneWidget& sheet_;
     Show& show_;
+    Navigator& navigator_;
     bool dragged_ = false;
     QList<int> keys_;    // of the dragged slides
     QStringList paths_;  // that other programs drag over the sheet
+    int on_ = -1;        // slide under the pointer at a drop; the sheet's row closes before it tells of one
 };
 
 }  // namespace vorlane::editor

@@ -108,13 +108,13 @@ void StripMenu::Choose(SoundKind kind) {
     addFiles(kind, QFileDialog::getOpenFileNames(Window(), title, folder_));
 }
 
-void StripMenu::addFiles(SoundKind kind, const QStringList& files) {
+void StripMenu::addFiles(SoundKind kind, const QStringList& files, int listIndex) {
     if (files.isEmpty()) return;
     QStringList sounds;
     for (const QString& file : files) {
         if (FileKindOf(file) == FileKind::Sound) sounds.push_back(file);
     }
-    AddTo(kind, sounds, std::max(Current(), 0));
+    AddTo(kind, sounds, listIndex < 0 ? std::max(Current(), 0) : listIndex);
 }
 
 void StripMenu::AddTo(SoundKind kind, const QStringList& files, int listIndex) {

@@ -26,8 +26,8 @@ public:
     StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator& navigator);
 
     void retranslate();
-    // To the current slide, or to the first one; tells how it went.
-    void addFiles(SoundKind kind, const QStringList& files);
+    // To the slide of a list index, without one to the current slide or the first one; tells how it went.
+    void addFiles(SoundKind kind, const QStringList& files, int listIndex = -1);
     // Ends the recording of a comment, if one runs, and puts it on its slide.
     void endRecording();
     // Where recorded comments come from; at first the system's microphone.

@@ -189,6 +189,20 @@ TEST_F(PlayerTest, TheStripFollows) {
     EXPECT_EQ(triangles(), before);
 }
 
+TEST_F(PlayerTest, TheStripFollowsOnSlidesBeyondThoseThatAPlaybackMayBeginOn) {
+    constexpr int kFar = 33000;
+    SavedShow show;
+    for (int i = 0; i <= kFar; ++i) show.pictures.push_back(pictures_.Path(QStringLiteral("%1.jpg").arg(i)));
+    const QString path = pictures_.Path("s.vorlane");
+    ASSERT_EQ(SaveShow(path, show), "");
+    ASSERT_TRUE(window_->openShow(path) && Settle());
+    window_->navigator().setCurrent(kFar);
+    ASSERT_TRUE(Settle());
+    window_->play();
+    EXPECT_EQ(Player().playback().slide(), kFar);
+    EXPECT_NE(window_->strip().timeline().Surface().dump().find("Polygon"), std::string::npos);
+}
+
 TEST_F(PlayerTest, NothingToPlayIsTold) {
     window_->play();
     EXPECT_EQ(window_->player(), nullptr);

@@ -54,19 +54,21 @@ protected:
     }
     QString Musics() { return Told(SoundKind::Music); }
     void Undo() { window_->slides().undo(); }
-    // Drops files on the strip; whether it took them.
-    bool DropOnStrip(const QStringList& files, QPoint place) {
+    // Drops files on a widget; whether it took them.
+    bool DropOnStrip(const QStringList& files, QPoint place) { return DropOn(TheStrip(), files, place); }
+    static bool DropOn(QWidget& target, const QStringList& files, QPoint place) {
         QList<QUrl> urls;
         for (const QString& file : files) urls.push_back(QUrl::fromLocalFile(file));
         QMimeData data;
         data.setUrls(urls);
         QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&TheStrip(), &enter);
+        QCoreApplication::sendEvent(&target, &enter);
         if (!enter.isAccepted()) return false;
         QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&TheStrip(), &move);
+        QCoreApplication::sendEvent(&target, &move);
         QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&TheStrip(), &drop);
+        drop.setDropAction(move.dropAction());
+        QCoreApplication::sendEvent(&target, &drop);
         return drop.isAccepted();
     }
     QAction& StartRecording() {
@@ -213,6 +215,56 @@ TEST_F(StripTest, SoundsComeByDroppingThemOnTheStrip) {
     EXPECT_EQ(Letters(), "abcd");
 }
 
+TEST_F(StripTest, SoundsDroppedOnASlideAreItsMusicWithAWayBack) {
+    ASSERT_TRUE(OpenPictures("abcdef"));
+    const QPoint onC = window_->sheet().DiapoRect(2).center().toPoint();
+    EXPECT_TRUE(DropOn(window_->sheet(), {Sound("m.wav", 11), Sound("n.wav", 3)}, onC));
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(Musics(), "c:m f:n");
+    EXPECT_EQ(Status(), QStringLiteral("2 musiques ajoutées"));
+    EXPECT_EQ(Letters(), "abcdef");
+    Undo();
+    EXPECT_EQ(Musics(), "");
+    EXPECT_FALSE(window_->slides().undoStack().canUndo());
+}
+
+TEST_F(StripTest, PicturesAndSoundsThatAreDroppedTogetherGoWhereEachKindBelongs) {
+    ASSERT_TRUE(OpenPictures("abcd"));
+    const QRectF b = window_->sheet().DiapoRect(1);
+    const QPoint onB(static_cast<int>(b.left() + b.width() * 0.8), static_cast<int>(b.center().y()));
+    EXPECT_TRUE(DropOn(window_->sheet(), {pictures_.WritePicture("x.jpg"), Sound("m.wav", 3)}, onB));
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(Letters(), "abxcd");
+    EXPECT_EQ(Musics(), "b:m");
+    Undo();
+    EXPECT_EQ(Letters(), "abcd");
+    EXPECT_EQ(Musics(), "b:m");
+    Undo();
+    EXPECT_EQ(Musics(), "");
+}
+
+TEST_F(StripTest, SoundsDroppedOffTheSlidesGoBehindTheMarkOrToTheCurrentSlide) {
+    ASSERT_TRUE(OpenPictures("abcd"));
+    window_->navigator().setCurrent(1);
+    const QString file = Sound("m.wav", 3);
+    const QRectF b = window_->sheet().DiapoRect(1);
+    const double between = (b.right() + window_->sheet().DiapoRect(2).left()) / 2;
+    EXPECT_TRUE(DropOn(window_->sheet(), {file}, {static_cast<int>(between), static_cast<int>(b.center().y())}));
+    EXPECT_EQ(Musics(), "c:m");
+    const QPoint farBelow(window_->sheet().width() / 2, window_->sheet().height() - 2);
+    EXPECT_TRUE(DropOn(window_->sheet(), {file}, farBelow));
+    EXPECT_EQ(Musics(), "c:m d:m") << "behind the last one there is none";
+    Drop({QUrl::fromLocalFile(file)});
+    EXPECT_EQ(Musics(), "b:m c:m d:m") << "beside the sheet";
+}
+
+TEST_F(StripTest, WithoutSlidesADroppedSoundHasNoPlace) {
+    Drop({QUrl::fromLocalFile(Sound("m.wav", 3))});
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(Status(), QStringLiteral("Aucun son à ajouter"));
+    EXPECT_EQ(Musics(), "");
+}
+
 TEST_F(StripTest, TheDropIsShownWhereItWouldGo) {
     ASSERT_TRUE(OpenPictures("abcd"));
     Action("Horizontal").trigger();
@@ -301,7 +353,7 @@ TEST_F(StripTest, AShowsFileHoldsItsSoundsAndItsTime) {
     ASSERT_TRUE(window_->save());
     EXPECT_FALSE(window_->isWindowModified());
     EXPECT_EQ(LoadShow(path).show->exposure, 6);
-    EXPECT_EQ(LoadShow(path).show->sounds, std::vector<SavedSound>{sounds[1]});
+    EXPECT_EQ(LoadShow(path).show->sounds, std::vector<SavedSound>{sounds[1]}) << "the boost is kept, too";
 }
 
 // --- Volumes ---
