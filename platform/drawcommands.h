@@ -37,12 +37,20 @@ struct TextOutA {  // left and top of the text
     bool operator==(const TextOutA&) const = default;
 };
 struct TRIVERTEX {
-    int32_t X, Y;
-    uint16_t Red, Green, Blue, Alpha;  // 0 to 0xFF00
+    int32_t x = 0, Y = 0;
+    int16_t Red = 0, Green = 0, Blue = 0, Alpha = 0;  // the bits of unsigned values, 0 to 0xFF00
+
+    TRIVERTEX() = default;
+    // The colours are the unsigned values.
+    TRIVERTEX(int32_t left, int32_t top, int32_t red, int32_t green, int32_t blue, int32_t alpha)
+        : x(left), Y(top), Red(Bits(red)), Green(Bits(green)), Blue(Bits(blue)), Alpha(Bits(alpha)) {}
     bool operator==(const TRIVERTEX&) const = default;
+
+    static int16_t Bits(int32_t value) { return static_cast<int16_t>(value); }
+    static uint16_t Value(int16_t bits) { return static_cast<uint16_t>(bits); }
 };
 struct GRADIENT_RECT {  // indices of two vertices, the corners
-    uint32_t UpperLeft, LowerRight;
+    int32_t UpperLeft, LowerRight;
     bool operator==(const GRADIENT_RECT&) const = default;
 };
 struct GradientFill {

@@ -45,7 +45,7 @@ struct Measure {
     }
     Extent operator()(const GradientFill& fill) const {
         Extent extent;
-        for (const TRIVERTEX& vertex : fill.Vertices) extent.Include(At(vertex.X, vertex.Y));
+        for (const TRIVERTEX& vertex : fill.Vertices) extent.Include(At(vertex.x, vertex.Y));
         return extent;
     }
     Extent operator()(const DrawEdge& edge) const { return Corners(edge.Rect); }

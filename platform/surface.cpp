@@ -87,7 +87,8 @@ void Surface::GradientFill(std::vector<draw::TRIVERTEX> vertices, std::vector<dr
                            uint32_t mode) {
     if (mode > 1) throw failures::InvalidCall();
     const auto given = [&](const draw::GRADIENT_RECT& rect) {
-        return std::max(rect.UpperLeft, rect.LowerRight) < vertices.size();
+        const auto [first, last] = std::minmax(rect.UpperLeft, rect.LowerRight);
+        return first >= 0 && static_cast<size_t>(last) < vertices.size();
     };
     if (!std::all_of(rects.begin(), rects.end(), given)) throw failures::SubscriptOutOfRange();
     Append(draw::GradientFill{std::move(vertices), std::move(rects), mode});

@@ -72,7 +72,8 @@ std::string Describe(const Picture& picture) {
 }
 
 std::string Describe(const draw::TRIVERTEX& vertex) {
-    return At(vertex.X, vertex.Y) + " " + Hex(vertex.Red, 4) + "/" + Hex(vertex.Green, 4) + "/" + Hex(vertex.Blue, 4);
+    const auto color = [](int16_t bits) { return Hex(draw::TRIVERTEX::Value(bits), 4); };
+    return At(vertex.x, vertex.Y) + " " + color(vertex.Red) + "/" + color(vertex.Green) + "/" + color(vertex.Blue);
 }
 
 // One command as a line.
@@ -93,8 +94,8 @@ struct Printer {
     std::string operator()(const draw::GradientFill& fill) const {
         std::string text = fill.Mode == 0 ? "GradientFill across" : "GradientFill down";
         for (const auto& rect : fill.Rects) {
-            text += " [" + Describe(fill.Vertices[rect.UpperLeft]) + " to " + Describe(fill.Vertices[rect.LowerRight]) +
-                    "]";
+            const auto vertex = [&](int32_t index) { return Describe(fill.Vertices[static_cast<size_t>(index)]); };
+            text += " [" + vertex(rect.UpperLeft) + " to " + vertex(rect.LowerRight) + "]";
         }
         return text;
     }

@@ -10,8 +10,7 @@ namespace vorlane::gradient {
 namespace {
 
 TRIVERTEX Vertex(float x, float y, Rgb color) {
-    const auto high = [](uint8_t part) { return static_cast<uint16_t>(part << 8); };
-    return {ToInt32(x), ToInt32(y), high(color.Red), high(color.Green), high(color.Blue), 0};
+    return {ToInt32(x), ToInt32(y), color.Red << 8, color.Green << 8, color.Blue << 8, 0};
 }
 
 int32_t Sum(Rgb color) {

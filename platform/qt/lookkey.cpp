@@ -127,7 +127,7 @@ void LookKey::operator()(const draw::TextOutA& text) {
 
 void LookKey::operator()(const draw::GradientFill& fill) {
     Put(fill.Mode, fill.Vertices.size(), fill.Rects.size());
-    for (const draw::TRIVERTEX& at : fill.Vertices) Put(at.X, at.Y, at.Red, at.Green, at.Blue);
+    for (const draw::TRIVERTEX& at : fill.Vertices) Put(at.x, at.Y, at.Red, at.Green, at.Blue);
     for (const draw::GRADIENT_RECT& rect : fill.Rects) Put(rect.UpperLeft, rect.LowerRight);
 }
 

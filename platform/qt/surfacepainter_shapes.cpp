@@ -29,9 +29,12 @@ Span SpanOf(int32_t a, int32_t b) {
 // length), step by step without another division.
 class Component {
 public:
-    Component(uint16_t first, uint16_t second, int64_t start, int64_t length)
-        : divisor_(256 * length), whole_(0), rest_(first * (length - start) + second * start) {
-        const int64_t step = int64_t{second} - first;
+    // Of vertices, as their fields hold it.
+    Component(int16_t firstBits, int16_t secondBits, int64_t start, int64_t length) : divisor_(256 * length) {
+        const int64_t first = draw::TRIVERTEX::Value(firstBits);
+        const int64_t second = draw::TRIVERTEX::Value(secondBits);
+        rest_ = first * (length - start) + second * start;
+        const int64_t step = second - first;
         wholeStep_ = step / divisor_ - (step % divisor_ < 0 ? 1 : 0);
         restStep_ = step - wholeStep_ * divisor_;
         Carry(rest_ / divisor_);
@@ -50,8 +53,8 @@ private:
     }
 
     int64_t divisor_;
-    int64_t whole_;
-    int64_t rest_;  // 0 to below the divisor
+    int64_t whole_ = 0;
+    int64_t rest_ = 0;  // 0 to below the divisor
     int64_t wholeStep_ = 0;
     int64_t restStep_ = 0;
 };
@@ -147,12 +150,13 @@ RowSpan RowOf(const QRect& box, QSizeF corner, int y) {
 
 void SurfacePainter::operator()(const draw::GradientFill& fill) {
     for (const draw::GRADIENT_RECT& rect : fill.Rects) {
-        Fill(fill.Vertices[rect.UpperLeft], fill.Vertices[rect.LowerRight], fill.Mode == 1);
+        const auto vertex = [&](int32_t index) { return fill.Vertices[static_cast<size_t>(index)]; };
+        Fill(vertex(rect.UpperLeft), vertex(rect.LowerRight), fill.Mode == 1);
     }
 }
 
 void SurfacePainter::Fill(const draw::TRIVERTEX& first, const draw::TRIVERTEX& second, bool downwards) {
-    const Span x = SpanOf(first.X, second.X);
+    const Span x = SpanOf(first.x, second.x);
     const Span y = SpanOf(first.Y, second.Y);
     const QRect area = grid_.Area(WinRect{x.first, y.first, x.behind, y.behind});
     if (area.isEmpty()) return;

@@ -91,6 +91,7 @@ TEST_F(SurfaceTest, PrintsEachRectangleOfAGradientByItsCorners) {
 TEST_F(SurfaceTest, RefusesAGradientOverAMissingVertexOrOfAnUnknownMode) {
     EXPECT_FAILURE(surface.GradientFill({{}, {}}, {{0, 2}}, 0), SubscriptOutOfRange());
     EXPECT_FAILURE(surface.GradientFill({}, {{0, 0}}, 0), SubscriptOutOfRange());
+    EXPECT_FAILURE(surface.GradientFill({{}, {}}, {{-1, 1}}, 0), SubscriptOutOfRange());
     EXPECT_FAILURE(surface.GradientFill({{}, {}}, {{0, 1}}, 2), InvalidCall());
     EXPECT_EQ(Drawn(), "");
 }

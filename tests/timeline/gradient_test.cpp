@@ -14,7 +14,7 @@ constexpr Rgb kWhite{255, 255, 255};
 std::string Told(const Mesh& mesh) {
     std::string text;
     for (const TRIVERTEX& vertex : mesh.Vertices) {
-        text += std::to_string(vertex.X) + "," + std::to_string(vertex.Y) + " " + std::to_string(vertex.Red) + "/" +
+        text += std::to_string(vertex.x) + "," + std::to_string(vertex.Y) + " " + std::to_string(vertex.Red) + "/" +
                 std::to_string(vertex.Green) + "/" + std::to_string(vertex.Blue) + "/" + std::to_string(vertex.Alpha) +
                 "\n";
     }
@@ -26,15 +26,15 @@ std::string Told(const Mesh& mesh) {
 
 TEST(Gradient, FromLeftToRightFromRedToWhite) {
     EXPECT_EQ(Told(MeshOf(3, kRed, kWhite, 10, 20, 110, 60)),
-              "10,20 65280/0/0/0\n"
-              "110,60 65280/65280/65280/0\n"
+              "10,20 -256/0/0/0\n"
+              "110,60 -256/-256/-256/0\n"
               "0-1 mode 0");
 }
 
 TEST(Gradient, FromTopToBottomAndAnyOtherWay) {
     const std::string down =
-        "0,0 65280/0/0/0\n"
-        "100,40 65280/65280/65280/0\n"
+        "0,0 -256/0/0/0\n"
+        "100,40 -256/-256/-256/0\n"
         "0-1 mode 1";
     for (const int32_t direction : {1, 0, -1, 5, 99}) {
         EXPECT_EQ(Told(MeshOf(direction, kRed, kWhite, 0, 0, 100, 40)), down) << direction;
@@ -43,28 +43,28 @@ TEST(Gradient, FromTopToBottomAndAnyOtherWay) {
 
 TEST(Gradient, FromLeftToTheMiddleAndBackOnA100WideBackground) {
     EXPECT_EQ(Told(MeshOf(4, kRed, kWhite, 0, 0, 100, 40)),
-              "0,0 65280/0/0/0\n"
-              "50,40 65280/65280/65280/0\n"
-              "50,0 65280/65280/65280/0\n"
-              "100,40 65280/0/0/0\n"
+              "0,0 -256/0/0/0\n"
+              "50,40 -256/-256/-256/0\n"
+              "50,0 -256/-256/-256/0\n"
+              "100,40 -256/0/0/0\n"
               "0-1 2-3 mode 0");
 }
 
 TEST(Gradient, FromTopToTheMiddleAndBack) {
     EXPECT_EQ(Told(MeshOf(2, kRed, kWhite, 0, 0, 100, 40)),
-              "0,0 65280/0/0/0\n"
-              "100,20 65280/65280/65280/0\n"
-              "0,20 65280/65280/65280/0\n"
-              "100,40 65280/0/0/0\n"
+              "0,0 -256/0/0/0\n"
+              "100,20 -256/-256/-256/0\n"
+              "0,20 -256/-256/-256/0\n"
+              "100,40 -256/0/0/0\n"
               "0-1 2-3 mode 1");
 }
 
 TEST(Gradient, TheMiddleIsHalfOfTheEdgeAlsoWhereTheRectangleStartsElsewhere) {
     EXPECT_EQ(Told(MeshOf(4, kRed, kWhite, 40, 8, 101, 20)),
-              "40,8 65280/0/0/0\n"
-              "50,20 65280/65280/65280/0\n"
-              "50,8 65280/65280/65280/0\n"
-              "101,20 65280/0/0/0\n"
+              "40,8 -256/0/0/0\n"
+              "50,20 -256/-256/-256/0\n"
+              "50,8 -256/-256/-256/0\n"
+              "101,20 -256/0/0/0\n"
               "0-1 2-3 mode 0")
         << "50.5 rounds to the even neighbour";
 }
