@@ -39,13 +39,13 @@ void Surface::Redraw(const std::function<void()>& paint) {
     const OLE_COLOR ground = backColor_;
     const auto tell = [&] {
         redrawing_ = false;
-        lastRedraw_.reset();
         if (revision_ == since) return;
         const std::span<const draw::Command> drawn(*before);
         if (backColor_ == ground) lastRedraw_ = {since, draw::ChangesBetween(drawn.first(count), *commands_)};
         Changed();
     };
     redrawing_ = true;
+    lastRedraw_.reset();
     try {
         paint();
     } catch (...) {

@@ -203,6 +203,8 @@ TEST_F(SurfaceTest, WhatElseHasChangedSinceARedrawIsNotKnown) {
     surface.Redraw(draw);
     surface.SetBackColor(0x123456);
     EXPECT_FALSE(surface.LastRedraw());
+    surface.Redraw(draw);
+    surface.Redraw([&] { EXPECT_FALSE(surface.LastRedraw()) << "what is half drawn"; });
     surface.Redraw([&] { surface.SetBackColor(0x654321); });
     EXPECT_FALSE(surface.LastRedraw()) << "the whole ground";
 }
