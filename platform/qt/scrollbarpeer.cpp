@@ -17,6 +17,8 @@ namespace {
 
 using MouseEvent = Event<int16_t, int16_t, float, float>;
 
+constexpr Qt::MouseButton kButtons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
+
 void Tell(const MouseEvent& told, const QMouseEvent& event) {
     const int16_t button = ButtonOf(event.button());
     const auto twips = [](double pixels) { return static_cast<float>(pixels * kTwipsPerPixel); };
@@ -31,9 +33,8 @@ ScrollBarPeer::ScrollBarPeer(ScrollbarPlus& model, ControlHost& host) : QScrollB
     setTracking(false);
     setContextMenuPolicy(Qt::NoContextMenu);
     changed_ = model_.Changed.connect([this] { Follow(); });
-    connect(this, &QScrollBar::sliderMoved, this, [this](int value) {
-        dragged_ = true;
-        Attempt([&] { model_.DragThumb(value); });
+    connect(this, &QScrollBar::sliderMoved, this, [this] {
+        if (!following_) DragThumb();
     });
     connect(this, &QScrollBar::valueChanged, this, [this](int value) {
         if (following_) return;
@@ -47,14 +48,16 @@ ScrollBarPeer::ScrollBarPeer(ScrollbarPlus& model, ControlHost& host) : QScrollB
     Follow();
 }
 
+// While the user holds the thumb, it stays where it is as far as there is room: a new range alone would bring it back.
 void ScrollBarPeer::Follow() {
     if (following_) return;
     following_ = true;
+    const int thumb = sliderPosition();
     setOrientation(model_.Orientation() == vorlane::Orientation::Horizontal ? Qt::Horizontal : Qt::Vertical);
     setRange(model_.Min(), model_.Max());
     setSingleStep(model_.SmallChange());
     setPageStep(model_.LargeChange());
-    if (!isSliderDown()) setValue(model_.Value());
+    isSliderDown() ? setSliderPosition(thumb) : setValue(model_.Value());
     setEnabled(model_.Enabled());
     const Box box = model_.BoundsInRoot();
     setGeometry(QRectF(box.Left, box.Top, box.Width, box.Height).toRect());
@@ -62,15 +65,23 @@ void ScrollBarPeer::Follow() {
     following_ = false;
 }
 
+void ScrollBarPeer::DragThumb() {
+    dragged_ = true;
+    Attempt([this] { model_.DragThumb(sliderPosition()); });
+}
+
+// A press beside the thumb may bring it there at once, which Qt tells nobody.
 void ScrollBarPeer::mousePressEvent(QMouseEvent* event) {
-    held_ = ButtonOf(event->button());
+    held_ |= event->button();
     Tell(model_.Input.MouseDown, *event);
+    const int before = sliderPosition();
     QScrollBar::mousePressEvent(event);
+    if (isSliderDown() && sliderPosition() != before) DragThumb();
 }
 
 void ScrollBarPeer::mouseReleaseEvent(QMouseEvent* event) {
     QScrollBar::mouseReleaseEvent(event);
-    held_ = 0;
+    held_ &= ~Qt::MouseButtons(event->button());
     Tell(model_.Input.MouseUp, *event);
 }
 
@@ -79,8 +90,10 @@ void ScrollBarPeer::hideEvent(QHideEvent* event) {
     QScrollBar::hideEvent(event);
     dragged_ = false;
     setSliderDown(false);
-    if (const int16_t button = std::exchange(held_, int16_t{0}))
-        Attempt([&] { model_.Input.MouseUp(button, 0, 0, 0); });
+    const Qt::MouseButtons held = std::exchange(held_, {});
+    for (const Qt::MouseButton button : kButtons) {
+        if (held.testFlag(button)) Attempt([&] { model_.Input.MouseUp(ButtonOf(button), 0, 0, 0); });
+    }
 }
 
 // One road for every turn of the wheel over the control.

@@ -24,12 +24,13 @@ protected:
 
 private:
     void Follow();
+    void DragThumb();
 
     ScrollbarPlus& model_;
     ScopedConnection changed_;
     bool following_ = false;
-    int16_t held_ = 0;      // the button that went down on the bar last and is not up again
-    bool dragged_ = false;  // the user has moved the thumb and not let go of it
+    Qt::MouseButtons held_;  // those that went down on the bar and are not up again
+    bool dragged_ = false;   // the user has moved the thumb and not let go of it
 };
 
 }  // namespace vorlane

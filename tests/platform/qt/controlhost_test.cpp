@@ -2,7 +2,6 @@
 
 #include "platform/failure.h"
 #include "platform/qt/qtpicturedata.h"
-#include "platform/qt/scrollbarpeer.h"
 #include "platform/qt/textboxpeer.h"
 #include "tests/platform/qt/board.h"
 
@@ -16,8 +15,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -307,101 +304,6 @@ TEST_F(ControlHostTest, AChangeWhileTheWidgetIsHiddenShowsLater) {
 }
 
 // --- Peers ---
-
-class ScrollBarPeerTest : public ControlHostTest {
-protected:
-    ScrollBarPeerTest() {
-        board.bar.SetMax(1000);
-        board.bar.SetSmallChange(10);
-        board.bar.SetLargeChange(100);
-        board.bar.SetAlign(Align::Right);
-        board.bar.SetVisible(true);
-        Show();
-        board.bar.Change.connect([&](int32_t value) { heard += "change " + std::to_string(value) + ";"; });
-        board.bar.Scroll.connect([&](int32_t value) { heard += "scroll " + std::to_string(value) + ";"; });
-        board.bar.Input.MouseDown.connect([&](int16_t, int16_t, float, float) { heard += "down;"; });
-        board.bar.Input.MouseUp.connect([&](int16_t, int16_t, float, float) { heard += "up;"; });
-    }
-
-    ScrollBarPeer& Peer() { return *host.findChild<ScrollBarPeer*>(); }
-
-    QRect Part(QStyle::SubControl part) {
-        QStyleOptionSlider option;
-        option.initFrom(&Peer());
-        option.orientation = Qt::Vertical;
-        option.minimum = Peer().minimum();
-        option.maximum = Peer().maximum();
-        option.sliderPosition = Peer().sliderPosition();
-        option.sliderValue = Peer().value();
-        option.singleStep = Peer().singleStep();
-        option.pageStep = Peer().pageStep();
-        return Peer().style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &Peer());
-    }
-
-    std::string heard;
-};
-
-TEST_F(ScrollBarPeerTest, FollowsTheModel) {
-    EXPECT_EQ(Peer().geometry(), QRect(184, 0, 16, 100));
-    EXPECT_TRUE(Peer().isVisible());
-    board.bar.SetValue(300);
-    EXPECT_EQ(Peer().value(), 300);
-    EXPECT_EQ(Peer().pageStep(), 100);
-    board.bar.SetMax(200);
-    EXPECT_EQ(Peer().value(), 200);
-    board.bar.SetVisible(false);
-    EXPECT_FALSE(Peer().isVisible());
-    EXPECT_EQ(heard, "change 300;change 200;");
-}
-
-TEST_F(ScrollBarPeerTest, AnArrowStepsByTheSmallChange) {
-    const QPoint arrow = Part(QStyle::SC_ScrollBarAddLine).center();
-    Mouse(QEvent::MouseButtonPress, arrow, Qt::LeftButton, Qt::LeftButton, {}, &Peer());
-    Mouse(QEvent::MouseButtonRelease, arrow, Qt::LeftButton, Qt::NoButton, {}, &Peer());
-    EXPECT_EQ(board.bar.Value(), 10);
-    EXPECT_EQ(heard, "down;change 10;up;");
-}
-
-TEST_F(ScrollBarPeerTest, ADraggedThumbScrollsAndChangesWhenItIsLetGo) {
-    const QPoint thumb = Part(QStyle::SC_ScrollBarSlider).center();
-    Mouse(QEvent::MouseButtonPress, thumb, Qt::LeftButton, Qt::LeftButton, {}, &Peer());
-    Mouse(QEvent::MouseMove, thumb + QPoint(0, 20), Qt::NoButton, Qt::LeftButton, {}, &Peer());
-    EXPECT_EQ(board.bar.Value(), 0);
-    EXPECT_EQ(heard.rfind("down;scroll ", 0), 0U) << heard;
-    heard.clear();
-    Mouse(QEvent::MouseButtonRelease, thumb + QPoint(0, 20), Qt::LeftButton, Qt::NoButton, {}, &Peer());
-    EXPECT_GT(board.bar.Value(), 0);
-    EXPECT_EQ(heard, "change " + std::to_string(board.bar.Value()) + ";up;");
-}
-
-TEST_F(ScrollBarPeerTest, ABarThatGoesOutOfSightUnderTheHandIsLetGoAndKeepsItsValue) {
-    const QPoint thumb = Part(QStyle::SC_ScrollBarSlider).center();
-    Mouse(QEvent::MouseButtonPress, thumb, Qt::LeftButton, Qt::LeftButton, {}, &Peer());
-    Mouse(QEvent::MouseMove, thumb + QPoint(0, 30), Qt::NoButton, Qt::LeftButton, {}, &Peer());
-    heard.clear();
-    board.bar.SetVisible(false);
-    EXPECT_EQ(heard, "up;");
-    EXPECT_EQ(board.bar.Value(), 0);
-    board.bar.SetVisible(true);
-    EXPECT_EQ(Peer().sliderPosition(), 0);
-}
-
-TEST_F(ScrollBarPeerTest, ASecondPressSoonAfterTheFirstIsAPressToo) {
-    const QPoint arrow = Part(QStyle::SC_ScrollBarAddLine).center();
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
-        Mouse(type, arrow, Qt::LeftButton, Qt::LeftButton, {}, &Peer());
-        Mouse(QEvent::MouseButtonRelease, arrow, Qt::LeftButton, Qt::NoButton, {}, &Peer());
-    }
-    EXPECT_EQ(heard, "down;change 10;up;down;change 20;up;");
-}
-
-TEST_F(ScrollBarPeerTest, TheWheelOverTheBarGoesToTheControl) {
-    QWheelEvent event({5, 50}, Peer().mapToGlobal(QPointF(5, 50)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                      false);
-    QCoreApplication::sendEvent(&Peer(), &event);
-    EXPECT_EQ(board.bar.Value(), 0);  // this control makes nothing of it
-    EXPECT_EQ(Peer().value(), 0);
-}
 
 class TextBoxPeerTest : public ControlHostTest {
 protected:
