@@ -53,6 +53,11 @@ bool Open(QImageReader& reader, QBuffer& source) {
 
 }  // namespace
 
+std::string Found(const std::string& path) {
+    const bool pointed = !path.empty() && path.back() == '.';
+    return pointed && !files::IsFile(path) ? path.substr(0, path.size() - 1) : path;
+}
+
 std::optional<QByteArray> Read(const std::string& path) {
     if (!files::IsFile(path)) return std::nullopt;  // a pipe would wait for ever
     std::ifstream file(files::ToPath(path), std::ios::binary | std::ios::ate);

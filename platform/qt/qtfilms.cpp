@@ -78,20 +78,22 @@ private:
 }  // namespace
 
 bool QtFilms::CanOpen(const std::string& path) const {
-    if (!files::IsFile(path)) return false;
-    QImageReader reader(QFile::decodeName(path.c_str()));
+    const std::string file = picturefile::Found(path);
+    if (!files::IsFile(file)) return false;
+    QImageReader reader(QFile::decodeName(file.c_str()));
     reader.setDecideFormatFromContent(true);
     return reader.canRead();
 }
 
 std::unique_ptr<Film> QtFilms::Open(const std::string& path) {
-    QImageReader reader(QFile::decodeName(path.c_str()));
+    const std::string file = picturefile::Found(path);
+    QImageReader reader(QFile::decodeName(file.c_str()));
     reader.setDecideFormatFromContent(true);
-    if (files::IsFile(path) && reader.canRead() && Moves(reader)) {
-        auto bytes = picturefile::Read(path);
+    if (files::IsFile(file) && reader.canRead() && Moves(reader)) {
+        auto bytes = picturefile::Read(file);
         return bytes ? std::make_unique<Animation>(std::move(*bytes)) : nullptr;
     }
-    auto picture = pictures_.LoadImageFile(path);
+    auto picture = pictures_.LoadImageFile(file);
     return picture ? std::make_unique<Still>(std::move(*picture)) : nullptr;
 }
 

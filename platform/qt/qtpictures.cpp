@@ -1,7 +1,6 @@
 #include "platform/qt/qtpictures.h"
 
 #include "platform/failure.h"
-#include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/qt/picturefile.h"
 #include "platform/qt/qtpicturedata.h"
@@ -67,12 +66,6 @@ Picture ReadArtwork(Artwork artwork) {
     return PictureFromSvg(file.readAll(), source.side, source.side);
 }
 
-// The point that stands for a missing extension taken off again, when there is no file with it.
-std::string ExistingPath(const std::string& path) {
-    const bool pointed = !path.empty() && path.back() == '.';
-    return pointed && !files::IsFile(path) ? path.substr(0, path.size() - 1) : path;
-}
-
 // How many pixels there are to take from.
 QSize Available(const Picture& picture) {
     return picture.IsBitmap() ? PixelSizeOf(picture) : QSize(INT32_MAX, INT32_MAX);
@@ -93,7 +86,7 @@ QtPictures::QtPictures() {
 }
 
 std::optional<Picture> QtPictures::LoadImageFile(const std::string& path) {
-    const std::string file = ExistingPath(path);
+    const std::string file = picturefile::Found(path);
     bool broken = false;
     BeforeLoad(file, broken);
     if (broken) return std::nullopt;
