@@ -1,6 +1,7 @@
 #include "platform/compositecontrol.h"
 #include "platform/qt/formwidget.h"
 #include "platform/qt/qtdesktop.h"
+#include "tests/platform/qt/movinggif.h"
 #include "windows/frmdrag.h"
 #include "windows/frmscroll.h"
 #include "windows/frmwait.h"
@@ -9,8 +10,10 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
+#include <QVariantAnimation>
 
 namespace vorlane {
 namespace {
@@ -183,19 +186,44 @@ TEST_F(QtForm, AClosingEffectWaitsForNothingAndNobodyWaitsForIt) {
 }
 
 TEST_F(QtForm, ShrinksIntoItsCorner) {
-    desktop.forms.Show(form);
-    QPointer<QWidget> widget = &Widget();
-    desktop.forms.CloseForm(form, {ClosingCorner::BottomRight, 10});
-    QRect last = widget->rect();
-    while (widget && widget->isVisible()) {
-        QApplication::processEvents(QEventLoop::AllEvents, 5);
-        if (!widget || widget->mask().isEmpty() || !widget->mask().intersects(widget->rect())) continue;
-        const QRect left = widget->mask().boundingRect();
-        EXPECT_EQ(left.bottomRight(), QPoint(39, 19));
-        EXPECT_TRUE(last.contains(left));
-        last = left;
+    using Corner = QPoint (QRect::*)() const;
+    const std::pair<ClosingCorner, Corner> corners[] = {{ClosingCorner::TopLeft, &QRect::topLeft},
+                                                        {ClosingCorner::TopRight, &QRect::topRight},
+                                                        {ClosingCorner::BottomRight, &QRect::bottomRight},
+                                                        {ClosingCorner::BottomLeft, &QRect::bottomLeft}};
+    for (const auto& [kind, corner] : corners) {
+        const Hwnd closing = desktop.forms.OpenForm().Window;
+        desktop.forms.Move(closing, {20, 30, 60, 50});
+        desktop.forms.Show(closing);
+        FormWidget* widget = desktop.forms.WidgetOf(closing);
+        desktop.forms.CloseForm(closing, {kind, 10});
+        auto& effect = *widget->findChild<QVariantAnimation*>();
+        effect.pause();
+        QRect last = widget->rect();
+        for (const int moment : {80, 120, 155}) {
+            effect.setCurrentTime(moment);
+            const QRect left = widget->mask().boundingRect();
+            EXPECT_EQ((left.*corner)(), (widget->rect().*corner)()) << static_cast<int>(kind) << " at " << moment;
+            EXPECT_TRUE(last.contains(left) && left != last) << static_cast<int>(kind) << " at " << moment;
+            last = left;
+        }
     }
-    EXPECT_LT(last.width(), 40);
+}
+
+TEST_F(QtForm, LargeFormsCloseAsFastAsEachOther) {
+    const auto duration = [this](int32_t steps) {
+        const Hwnd closing = desktop.forms.OpenForm().Window;
+        desktop.forms.Move(closing, {20, 30, 60, 50});
+        desktop.forms.Show(closing);
+        const FormWidget* widget = desktop.forms.WidgetOf(closing);
+        desktop.forms.CloseForm(closing, {ClosingCorner::TopLeft, steps});
+        return widget->findChild<QVariantAnimation*>()->duration();
+    };
+    EXPECT_EQ(duration(1), 16);
+    EXPECT_EQ(duration(3), 48);
+    EXPECT_EQ(duration(10), 160);
+    EXPECT_EQ(duration(11), 160);
+    EXPECT_EQ(duration(1'000'000), 160);
 }
 
 TEST_F(QtForm, AHiddenFormAndAnEffectWithoutStepsCloseAtOnce) {
@@ -223,24 +251,77 @@ TEST(QtFormsEnd, TakesWhatIsStillClosingWithIt) {
 
 // --- The library's windows on this desktop ---
 
-TEST(QtFollowWindow, ShowsAPictureWholeInsideItsFrame) {
+class QtFollowWindow : public testing::Test {
+protected:
+    std::string Red() {
+        const QString path = folder.filePath("red.png");
+        QImage picture(80, 40, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        EXPECT_TRUE(picture.save(path));
+        return path.toStdString();
+    }
+    std::string Write(const QString& name, const QByteArray& bytes) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName().toStdString();
+    }
+    QImage Seen(FrmScroll& form) { return desktop.forms.WidgetOf(form.Hwnd())->grab().toImage(); }
+    QColor Middle(FrmScroll& form) { return Seen(form).pixelColor(50, 38); }
+
     QTemporaryDir folder;
-    const QString path = folder.filePath("red.png");
-    QImage picture(80, 40, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    ASSERT_TRUE(picture.save(path));
     QtDesktop desktop;
+};
+
+TEST_F(QtFollowWindow, ShowsAPictureWholeInsideItsFrame) {
     FrmScroll& form = SharedFrmScroll(desktop.Roles());
     form.Move(150, 150, 102 * 15, 82 * 15);
-    form.PictureLet(path.toStdString(), 0xFFFFFF);
+    form.PictureLet(Red(), 0xFFFFFF);
     ShowForm(form);
-    const QImage seen = desktop.forms.WidgetOf(form.Hwnd())->grab().toImage();
+    const QImage seen = Seen(form);
     EXPECT_EQ(seen.size(), QSize(102, 82));
     EXPECT_EQ(seen.pixelColor(0, 40), QColor(0xC0, 0xC0, 0xC0));
     EXPECT_EQ(seen.pixelColor(1, 10), QColor(Qt::white));
     EXPECT_EQ(seen.pixelColor(1, 16), QColor(Qt::red));
     EXPECT_EQ(seen.pixelColor(100, 65), QColor(Qt::red));
     EXPECT_EQ(seen.pixelColor(100, 66), QColor(Qt::white));
+}
+
+TEST_F(QtFollowWindow, AFileThatTheViewerCantOpenShowsByTheSecondView) {
+    class NoFilms final : public Films {
+    public:
+        bool CanOpen(const std::string&) const override { return false; }
+        std::unique_ptr<Film> Open(const std::string&) override { return nullptr; }
+    } films;
+    const Desktop all = desktop.Roles();
+    const Desktop roles{all.clock, all.screen,  all.keyboard, all.metrics, all.windows,
+                        all.drags, all.dialogs, all.pictures, all.sounds,  all.texts,
+                        all.forms, films,       all.tooltips, all.menus,   all.shared};
+    FrmScroll form(roles);
+    form.PictureLet(Red(), 0xFFFFFF);
+    ShowForm(form);
+    EXPECT_EQ(Seen(form).pixelColor(0, 38), QColor(0xC0, 0xC0, 0xC0));
+    EXPECT_EQ(Seen(form).pixelColor(50, 2), QColor(Qt::white));
+    EXPECT_EQ(Middle(form), QColor(Qt::red));
+}
+
+TEST_F(QtFollowWindow, AFileThatIsNoPictureLeavesItsColour) {
+    FrmScroll form(desktop.Roles());
+    form.PictureLet(Red(), 0xFFFFFF);
+    ShowForm(form);
+    form.PictureLet(Write("text.jpg", "no picture"), 0x00FF00);
+    EXPECT_EQ(Middle(form), QColor(Qt::green));
+    form.PictureLet(Red(), 0xFFFFFF);
+    EXPECT_EQ(Middle(form), QColor(Qt::red));
+}
+
+TEST_F(QtFollowWindow, PlaysAnAnimation) {
+    FrmScroll form(desktop.Roles());
+    form.PictureLet(Write("moving.gif", test::RedThenBlue(0, 5)), 0xFFFFFF);
+    ShowForm(form);
+    EXPECT_EQ(Middle(form), QColor(Qt::red));
+    EXPECT_TRUE(RunUntil([&] { return Middle(form) == QColor(Qt::blue); }));
+    EXPECT_TRUE(RunUntil([&] { return Middle(form) == QColor(Qt::red); }));
 }
 
 TEST(QtWaitWindow, StandsRoundedAndSeenThroughOverItsRectangle) {
