@@ -25,6 +25,12 @@ char32_t SmallLatin(char32_t letter) {
     if (Between(letter, 0x139, 0x148)) return SmallOfPair(letter, 0x139);
     if (Between(letter, 0x14A, 0x177)) return SmallOfPair(letter, 0x14A);
     if (Between(letter, 0x179, 0x17E)) return SmallOfPair(letter, 0x179);
+    if (Between(letter, 0x1CD, 0x1DC)) return SmallOfPair(letter, 0x1CD);
+    if (Between(letter, 0x1DE, 0x1EF) || Between(letter, 0x1F8, 0x21F) || Between(letter, 0x222, 0x233) ||
+        Between(letter, 0x1E00, 0x1E95) || Between(letter, 0x1EA0, 0x1EFF)) {
+        return SmallOfPair(letter, 0x1DE);
+    }
+    if (Between(letter, 0xFF21, 0xFF3A)) return letter + 0x20;  // of the width of ideograms
     return letter;
 }
 
@@ -49,18 +55,21 @@ char32_t SmallCyrillic(char32_t letter) {
 }
 
 char32_t Small(char32_t letter) {
-    if (letter < 0x180) return SmallLatin(letter);
-    return letter < 0x400 ? SmallGreek(letter) : SmallCyrillic(letter);
+    if (letter < 0x250 || letter >= 0x1E00) return SmallLatin(letter);
+    if (letter < 0x400) return SmallGreek(letter);
+    if (letter < 0x530) return SmallCyrillic(letter);
+    return Between(letter, 0x531, 0x556) ? letter + 0x30 : letter;  // Armenian
 }
 
-// letter, below U+0800, as one or two bytes.
+// letter, from U+0080 to U+FFFF, as two bytes or three.
 void Append(std::string& text, char32_t letter) {
-    if (letter < 0x80) {
-        text += static_cast<char>(letter);
-    } else {
+    if (letter < 0x800) {
         text += static_cast<char>(0xC0U | letter >> 6);
-        text += static_cast<char>(0x80U | (letter & 0x3FU));
+    } else {
+        text += static_cast<char>(0xE0U | letter >> 12);
+        text += static_cast<char>(0x80U | (letter >> 6 & 0x3FU));
     }
+    text += static_cast<char>(0x80U | (letter & 0x3FU));
 }
 
 std::string TwoDigits(int64_t number) {
@@ -70,15 +79,19 @@ std::string TwoDigits(int64_t number) {
 }  // namespace
 
 std::string Trelmic6::LowerCase(std::string_view text) {
-    // All letters that have a small one here take one byte or two, so nothing longer needs to be read.
+    // No letter that has a small one here takes four bytes, so nothing as long needs to be read.
     const auto byte = [&](size_t i) { return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U; };
+    const auto follows = [&](size_t i) { return (byte(i) & 0xC0U) == 0x80; };
+    const auto bits = [&](size_t i) { return byte(i) & 0x3FU; };
     std::string lower;
     lower.reserve(text.size());
     for (size_t i = 0; i < text.size(); ++i) {
-        const bool pair = byte(i) >= 0xC2 && byte(i) <= 0xDF && (byte(i + 1) & 0xC0U) == 0x80;
-        if (pair) {
-            Append(lower, Small((byte(i) & 0x1FU) << 6 | (byte(i + 1) & 0x3FU)));
+        if (byte(i) >= 0xC2 && byte(i) <= 0xDF && follows(i + 1)) {
+            Append(lower, Small((byte(i) & 0x1FU) << 6 | bits(i + 1)));
             ++i;
+        } else if (byte(i) >= 0xE1 && byte(i) <= 0xEF && follows(i + 1) && follows(i + 2)) {
+            Append(lower, Small((byte(i) & 0x0FU) << 12 | bits(i + 1) << 6 | bits(i + 2)));
+            i += 2;
         } else {
             lower += byte(i) < 0x80 ? static_cast<char>(Small(byte(i))) : text[i];
         }

@@ -15,7 +15,7 @@ struct FollowPlace {
 };
 
 // sheet: the sheet's rectangle on the screen. width: that of the window, which is 0.76 of it high. barWidth, barHeight:
-// of the sheet's bar. Fails with Overflow() where the height fits no 16 bits.
+// of the sheet's bar.
 FollowPlace PlaceFollowWindow(ScrollDirectionType direction, ScrollWindowPosType place, const WinRect& sheet,
                               int16_t width, float barWidth, float barHeight);
 

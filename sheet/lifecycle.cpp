@@ -85,6 +85,7 @@ void Vorlane::InitProperties() {
 // sheet that showed some is laid out anew, and shows its selection in the new colours.
 void Vorlane::ReadProperties(const PropertyBag& bag) {
     const bool filled = HasSlides();
+    layout_.Ready = false;
     Attempt([&] { First().SetSelected(false); });
     for (int32_t k = Diapo.UpperBound(); k > 0; --k) {
         if (Diapo.Loaded(k)) Diapo.Unload(k);
@@ -115,7 +116,7 @@ void Vorlane::WriteProperties(PropertyBag& bag) const {
 
 void Vorlane::WriteDesign(PropertyBag& bag) const {
     WriteProperties(bag);
-    const bool marked = First().BackColorSelected() == selection_.BackColorCurrent;
+    const bool marked = First().Selected() && First().Value() == selection_.CurrentListIndex;
     for (const PersistedProperty& property : PersistedProperties()) {
         const auto put = [&](OLE_COLOR color) { bag.Write(property.Key, Boxed(color), property.Default(*this)); };
         if (property.Key == "BackColorDiapo") put(First().NormalGround());

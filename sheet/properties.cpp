@@ -103,7 +103,7 @@ std::vector<Vorlane::PersistedProperty> Vorlane::MakePersistedProperties() {
     // Any number but 0 counts as a yes.
     const auto lax = [](PersistedProperty property, auto group, auto member) {
         property.Read = [=, key = property.Key](This& sheet, const PropertyBag& bag) {
-            sheet.*group.*member = bag.ReadInt32(key, 0) != 0;
+            sheet.*group.*member = bag.ReadSingle(key, 0) != 0;
         };
         return property;
     };

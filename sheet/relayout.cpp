@@ -205,6 +205,7 @@ sheet::Placed Vorlane::MakeMissing(int16_t slot, std::string& name) {
     ResetDiapo(slot);
     if (!running) return Placed::Yes;
     const auto slide = Diapo.Item(slot);
+    if (item->ListIndex == selection_.CurrentListIndex) selection_.CurrentSlot = slot;
     slide->SetValue(item->ListIndex);
     slide->SetBackColorSelected(GroundOf(item->ListIndex));
     slide->SetSelected(Bound().Selected(item->ListIndex));

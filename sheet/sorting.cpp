@@ -35,7 +35,7 @@ int16_t Vorlane::SortInt(uint8_t criterion, int32_t& anchor) {
         if (!sort_.Sorted) return 0;
         ListBox* list = Bound().AsListBox();
         if (list == nullptr) return 0;
-        if (list->Hwnd() != LstInterne.Hwnd() && list->Sorted()) {
+        if (list != &LstInterne && list->Sorted()) {
             Warn(kListSorts);
             return 0;
         }

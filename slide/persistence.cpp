@@ -134,6 +134,7 @@ void eDiapoLight::InitProperties() {
 
 // A value that can't be read leaves its property as it was.
 void eDiapoLight::ReadProperties(const PropertyBag& bag) {
+    life_.Ready = false;
     for (const PersistedProperty& property : PersistedProperties()) {
         Attempt([&] { property.read_(*this, bag); });
     }

@@ -33,11 +33,17 @@ protected:
         window_->addFiles(paths, before);
         return Settle();
     }
-    // Three files whose five criteria give five orders.
     void WriteOrders() {
         pictures_.Write("a.png", QByteArray(300, 'x'), 10);
         pictures_.Write("b.jpg", QByteArray(100, 'x'), 30);
         pictures_.Write("c.jpg", QByteArray(200, 'x'), 20);
+    }
+    // Three files whose five criteria give five orders: a file is created now, or when it is said to have been modified
+    // if that was before.
+    void WriteFiveOrders() {
+        pictures_.Write("a.jpg", QByteArray(100, 'x'), -30);
+        pictures_.Write("b.png", QByteArray(300, 'x'), 10);
+        pictures_.Write("c.bmp", QByteArray(200, 'x'), -20);
     }
     int Top() { return window_->sheet().Value(0); }
 };
@@ -45,7 +51,7 @@ protected:
 // --- Sorting ---
 
 TEST_F(EditingTest, TheMenuSortsOnEachCriterionBothWays) {
-    WriteOrders();
+    WriteFiveOrders();
     ASSERT_TRUE(Open(Folder()));
     const auto by = [this](const char* text) {
         Action(text).trigger();
@@ -54,13 +60,16 @@ TEST_F(EditingTest, TheMenuSortsOnEachCriterionBothWays) {
     };
     EXPECT_EQ(Letters(), "abc");
     EXPECT_EQ(by("Date de modification"), "bca");
-    EXPECT_EQ(by("Taille"), "bca");
-    EXPECT_EQ(by("Extension"), "bca");
+    EXPECT_EQ(by("Date de création"), "bac");
+    EXPECT_EQ(by("Taille"), "acb");
+    EXPECT_EQ(by("Extension"), "cab");
     EXPECT_EQ(by("Nom"), "abc");
     EXPECT_EQ(by("Ordre décroissant"), "cba");
     EXPECT_EQ(by("Date de modification"), "acb");
-    EXPECT_EQ(by("Extension"), "acb");
-    EXPECT_EQ(by("Ordre croissant"), "bca");
+    EXPECT_EQ(by("Date de création"), "cab");
+    EXPECT_EQ(by("Taille"), "bca");
+    EXPECT_EQ(by("Extension"), "bac");
+    EXPECT_EQ(by("Ordre croissant"), "cab");
 }
 
 TEST_F(EditingTest, ByHandTheOrderStaysAndHasNoDirection) {

@@ -229,7 +229,20 @@ TEST_F(EditorWindowTest, RemembersFoldersSlideSizeAndWindow) {
     Make();
     EXPECT_EQ(window_->status().slideWidth(), 256);
     EXPECT_EQ(window_->sheet().DiapoWidth(), 256);
+    EXPECT_EQ(window_->size(), QSize(700, 500));
     EXPECT_EQ(Recents(settings_).list(), QStringList(Folder()));
+}
+
+TEST_F(EditorWindowTest, AWindowClosedAtFullScreenComesBackInItsFormerSize) {
+    window_->resize(700, 500);
+    window_->close();
+    Make();
+    Action("Plein écran").trigger();
+    ASSERT_TRUE(window_->isFullScreen());
+    window_->close();
+    Make();
+    EXPECT_FALSE(window_->isFullScreen());
+    EXPECT_EQ(window_->size(), QSize(700, 500));
 }
 
 TEST_F(EditorWindowTest, TheRecentsAreInTheMenu) {

@@ -55,10 +55,12 @@ TEST(LowerCase, KnowsLatinGreekAndCyrillic) {
     EXPECT_EQ(Trelmic6::LowerCase("ΆΈΊΌΎΏΑΡΣΩΫ"), "άέίόύώαρσωϋ");
     EXPECT_EQ(Trelmic6::LowerCase("ЀЁЏАПРЯѠҀҊҾӀӁӐԮ"), "ѐёџапряѡҁҋҿӏӂӑԯ");
     EXPECT_EQ(Trelmic6::LowerCase("İ"), "i");
+    EXPECT_EQ(Trelmic6::LowerCase("ȘȚǍǛǞǮǸȜȢȲ"), "șțǎǜǟǯǹȝȣȳ");
+    EXPECT_EQ(Trelmic6::LowerCase("ḀẔẠẾỸ ＡＺ ԱՖ"), "ḁẕạếỹ ａｚ աֆ");
 }
 
 TEST(LowerCase, LeavesEverythingElse) {
-    const std::string small = "àÿßĸŉſžāάςσяѐ×÷ª@[`{0 漢字😀";
+    const std::string small = "àÿßĸŉſžāάςσяѐ×÷ª@[`{0 ǰƀɐẖẟ漢字＠［ａև😀";
     EXPECT_EQ(Trelmic6::LowerCase(small), small);
     EXPECT_EQ(Trelmic6::LowerCase(""), "");
 }

@@ -43,14 +43,23 @@ TEST_F(LifecycleTest, TheSheetsOwnListsHaveHandlesOfTheirOwn) {
 }
 
 TEST_F(LifecycleTest, AnyNumberButZeroLetsTheGaugeSlide) {
+    for (const BagValue& number : {BagValue(int64_t{5}), BagValue(int64_t{3'000'000'000}), BagValue(0.5)}) {
+        PropertyBag bag;
+        bag.SetValue("JaugeAnimation", number);
+        Make(window.Ambient());
+        Start(bag);
+        EXPECT_TRUE(sheet->JaugeAnimation());
+    }
     PropertyBag bag;
-    bag.SetValue("JaugeAnimation", int64_t{5});
+    bag.SetValue("JaugeAnimation", int64_t{0});
+    Make(window.Ambient());
     Start(bag);
-    EXPECT_TRUE(sheet->JaugeAnimation());
+    EXPECT_FALSE(sheet->JaugeAnimation());
 }
 
 TEST_F(LifecycleTest, ASheetPlacedNewShowsThumbnailsAndLeavesTheirSizeOpen) {
     window.Host(*sheet);
+    EXPECT_FALSE(sheet->Diapo.Item(0)->Visible());
     EXPECT_TRUE(sheet->Thumbnail());
     EXPECT_EQ(sheet->ThumbnailSizeNormal(), 0);
     EXPECT_EQ(sheet->Marges(), 5);
@@ -155,6 +164,50 @@ TEST_F(LifecycleTest, ADesignSavedWhileTheFirstSlideIsSelectedHasTheColoursOfAnU
     PropertyBag shown;
     sheet->WriteProperties(shown);
     EXPECT_EQ(shown.ReadColor("BackColorDiapo", 0), sheet->BackColorCurrent()) << "the getters give what shows";
+}
+
+TEST_F(LifecycleTest, ADesignKeepsAHostsColourThatEqualsTheMark) {
+    Show(9);
+    sheet->SetBackColorSelected(sheet->BackColorCurrent());
+    PropertyBag design;
+    sheet->WriteDesign(design);
+    EXPECT_EQ(design.ReadColor("BackColorSelected", 0), sheet->BackColorCurrent());
+}
+
+TEST_F(LifecycleTest, ADesignSavedWhileTheFirstSlideIsTheCurrentOneHasTheLoadedColourOfSelections) {
+    PropertyBag bag;
+    bag.SetValue("BackColorSelected", int64_t{0x101010});
+    Start(bag);
+    AddItems(0, 8);
+    sheet->StartLecture();
+    window.Click(50, 40);
+    PropertyBag design;
+    sheet->WriteDesign(design);
+    EXPECT_EQ(design.Values(), bag.Values());
+}
+
+TEST_F(LifecycleTest, NothingIsResizedWhileASheetIsReadOnceMore) {
+    Show(9);
+    const int16_t rows = sheet->CountDiapoY();
+    PropertyBag bag;
+    bag.SetValue("ScrollDirection", int64_t{1});
+    sheet->ReadProperties(bag);
+    EXPECT_EQ(sheet->CountDiapoY(), rows);
+    sheet->Restart(bag);
+    EXPECT_NE(sheet->CountDiapoY(), rows);
+}
+
+TEST_F(LifecycleTest, TheDragModesOfABagReachTheSlideTheMarkAndTheSheet) {
+    PropertyBag bag;
+    bag.SetValue("OLEDropMode", int64_t{2});
+    bag.SetValue("OLEDragMode", int64_t{1});
+    Start(bag);
+    EXPECT_EQ(sheet->OLEDropMode(), 2);
+    EXPECT_EQ(sheet->Diapo.Item(0)->OLEDropMode(), 1);
+    EXPECT_EQ(sheet->ImgDrag.OLEDropMode(), 1);
+    EXPECT_EQ(sheet->Control::OLEDropMode(), 1);
+    EXPECT_EQ(sheet->OLEDragMode(), 1);
+    EXPECT_EQ(sheet->Diapo.Item(0)->OLEDragMode(), 0);
 }
 
 TEST_F(LifecycleTest, ASheetReadOnceMoreShowsItsSelectionInTheNewColours) {

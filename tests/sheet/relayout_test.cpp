@@ -130,6 +130,19 @@ TEST_F(RelayoutTest, APoolThatGrowsBeyondTheListShowsAllOfIt) {
     ExpectSlidesAgreeWithList();
 }
 
+TEST_F(RelayoutTest, ANewSlideOfTheCurrentItemBearsItsColour) {
+    Show(40);
+    sheet->VScroll.SetValue(3);
+    sheet->SetCurrentDiapo(8);
+    sheet->VScroll.SetValue(0);
+    ASSERT_EQ(sheet->CurrentDiapo(), -1);
+    window.Resize(450, kHeight);
+    desktop.clock.Advance(200);
+    ASSERT_EQ(sheet->Diapo.Item(11)->Value(), 11);
+    EXPECT_EQ(sheet->CurrentDiapo(), 11);
+    ExpectSlidesAgreeWithList();
+}
+
 TEST_F(RelayoutTest, AResizeAtTheVeryEndOfALayoutHasALayoutOfItsOwn) {
     Show(40);
     sheet->Events.DisplayEnd.connect([this, done = false]() mutable {

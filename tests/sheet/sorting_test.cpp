@@ -64,6 +64,28 @@ TEST_F(SortingTest, ItSortsDownWhenSaidSo) {
     EXPECT_EQ(Order(), "3 2 1 0");
 }
 
+TEST_F(SortingTest, AWayThatNobodyKnowsSortsDown) {
+    PropertyBag bag;
+    bag.SetValue("SortedSens", int64_t{7});
+    Start(bag);
+    for (const int32_t n : {3, 1, 0, 2}) sheet->Add(File(n), Digits(n), 1000 + n);
+    sheet->StartLecture();
+    sheet->Sort();
+    EXPECT_EQ(Order(), "3 2 1 0");
+}
+
+TEST_F(SortingTest, TheMarkOfTheCurrentItemStaysAtItsPlaceInTheList) {
+    ShowSortable(9);
+    window.Click(50, 40);  // the first slide
+    ASSERT_EQ(sheet->CurrentDiapo(), 0);
+    sheet->Sort(2);
+    ASSERT_TRUE(sheet->Diapo.Item(8)->Selected());
+    EXPECT_EQ(sheet->Diapo.Item(8)->BackColor(), sheet->BackColorSelected()) << "selected, and not the current one";
+    EXPECT_EQ(sheet->CurrentDiapo(), -1);
+    sheet->Sort(1);
+    EXPECT_EQ(sheet->CurrentDiapo(), 0);
+}
+
 TEST_F(SortingTest, ACriterionBeyondTheFieldsLeavesTheOrder) {
     ShowMixed();
     sheet->Sort(200);

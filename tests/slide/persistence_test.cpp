@@ -221,6 +221,8 @@ TEST_F(PersistenceTest, ReadingLaysNothingOut) {
     PropertyBag bag = FullBag();
     bag.SetValue("NoResize", false);
     EXPECT_FALSE(LaysOut([&] { slide.ReadProperties(bag); }));
+    bag.SetValue("BackColor", int64_t{0x99});
+    EXPECT_FALSE(LaysOut([&] { slide.ReadProperties(bag); })) << "once more, when the slide was ready";
 }
 
 TEST_F(PersistenceTest, OnlyWhatGoesThroughASetterIsReportedWhileReading) {
