@@ -61,8 +61,12 @@ char32_t Small(char32_t letter) {
     return Between(letter, 0x531, 0x556) ? letter + 0x30 : letter;  // Armenian
 }
 
-// letter, from U+0080 to U+FFFF, as two bytes or three.
+// letter, below U+10000, as up to three bytes.
 void Append(std::string& text, char32_t letter) {
+    if (letter < 0x80) {
+        text += static_cast<char>(letter);
+        return;
+    }
     if (letter < 0x800) {
         text += static_cast<char>(0xC0U | letter >> 6);
     } else {

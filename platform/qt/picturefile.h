@@ -21,7 +21,8 @@ struct Decoded {
     bool vector = false;  // it can be drawn sharp at any size
 };
 
-// The file that a path stands for: without the point that stands for a missing extension, when there is no file with it.
+// The file that a path stands for: without the point that stands for a missing extension, when there is no file with
+// it.
 std::string Found(const std::string& path);
 
 // All bytes of a regular file; nothing when it can't be read, is empty, or is larger than kLimit.

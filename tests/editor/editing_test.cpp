@@ -3,6 +3,7 @@
 #include "editor/show.h"
 #include "tests/editor/windowfixture.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QMenu>
 
@@ -38,12 +39,14 @@ protected:
         pictures_.Write("b.jpg", QByteArray(100, 'x'), 30);
         pictures_.Write("c.jpg", QByteArray(200, 'x'), 20);
     }
-    // Three files whose five criteria give five orders: a file is created now, or when it is said to have been modified
-    // if that was before.
+    // Three files whose five criteria give five orders; "b" is created in an earlier second than the others.
     void WriteFiveOrders() {
-        pictures_.Write("a.jpg", QByteArray(100, 'x'), -30);
-        pictures_.Write("b.png", QByteArray(300, 'x'), 10);
-        pictures_.Write("c.bmp", QByteArray(200, 'x'), -20);
+        pictures_.Write("b.png", QByteArray(300, 'x'), 40);
+        const qint64 second = QDateTime::currentSecsSinceEpoch();
+        while (QDateTime::currentSecsSinceEpoch() == second) QTest::qSleep(1);
+        QTest::qSleep(20);  // the clock of a file system may lag a little
+        pictures_.Write("a.jpg", QByteArray(100, 'x'), 20);
+        pictures_.Write("c.bmp", QByteArray(200, 'x'), 30);
     }
     int Top() { return window_->sheet().Value(0); }
 };

@@ -226,7 +226,7 @@ TEST_F(EditorWindowTest, RemembersFoldersSlideSizeAndWindow) {
     window_->status().setSlideWidth(256);
     window_->resize(700, 500);
     window_->close();
-    Make();
+    Make(QSize());
     EXPECT_EQ(window_->status().slideWidth(), 256);
     EXPECT_EQ(window_->sheet().DiapoWidth(), 256);
     EXPECT_EQ(window_->size(), QSize(700, 500));
@@ -236,11 +236,11 @@ TEST_F(EditorWindowTest, RemembersFoldersSlideSizeAndWindow) {
 TEST_F(EditorWindowTest, AWindowClosedAtFullScreenComesBackInItsFormerSize) {
     window_->resize(700, 500);
     window_->close();
-    Make();
+    Make(QSize());
     Action("Plein écran").trigger();
     ASSERT_TRUE(window_->isFullScreen());
     window_->close();
-    Make();
+    Make(QSize());
     EXPECT_FALSE(window_->isFullScreen());
     EXPECT_EQ(window_->size(), QSize(700, 500));
 }

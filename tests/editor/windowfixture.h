@@ -33,7 +33,8 @@ protected:
     }
     ~WindowFixture() override { loads_.disconnect(); }
 
-    void Make() {
+    // As large as the user left it without a size.
+    void Make(QSize size = {900, 600}) {
         ThumbnailOptions options;
         options.cacheFolder.clear();
         options.decoder = stage_.Decoder();
@@ -46,7 +47,7 @@ protected:
             opened_.push_back(QFileInfo(path).fileName());
             return true;
         });
-        window_->resize(900, 600);
+        if (size.isValid()) window_->resize(size);
         window_->show();
     }
     QString Folder() { return QFileInfo(pictures_.Path("x")).path(); }

@@ -79,8 +79,10 @@ TEST_F(SortingTest, TheMarkOfTheCurrentItemStaysAtItsPlaceInTheList) {
     window.Click(50, 40);  // the first slide
     ASSERT_EQ(sheet->CurrentDiapo(), 0);
     sheet->Sort(2);
-    ASSERT_TRUE(sheet->Diapo.Item(8)->Selected());
-    EXPECT_EQ(sheet->Diapo.Item(8)->BackColor(), sheet->BackColorSelected()) << "selected, and not the current one";
+    const auto slide = sheet->Diapo.Item(5);
+    ASSERT_EQ(slide->Value(), 8);
+    ASSERT_TRUE(slide->Selected());
+    EXPECT_EQ(slide->BackColor(), 7321083U) << "selected, and not the current one";
     EXPECT_EQ(sheet->CurrentDiapo(), -1);
     sheet->Sort(1);
     EXPECT_EQ(sheet->CurrentDiapo(), 0);
