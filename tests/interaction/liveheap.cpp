@@ -2,7 +2,8 @@
 
 #if defined(__SANITIZE_ADDRESS__)
 
-#include <sanitizer/allocator_interface.h>
+// Of the sanitizer's own interface; not every compiler comes with its header.
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 
 size_t vorlane::LiveHeap() {
     return __sanitizer_get_current_allocated_bytes();
