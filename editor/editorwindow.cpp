@@ -2,6 +2,7 @@
 
 #include "editor/caption.h"
 #include "editor/emptypage.h"
+#include "editor/filefilters.h"
 #include "editor/focusring.h"
 #include "editor/infoballoon.h"
 #include "editor/look.h"
@@ -192,7 +193,8 @@ void EditorWindow::chooseFolder() {
 }
 
 void EditorWindow::chooseFiles() {
-    addFiles(QFileDialog::getOpenFileNames(this, tr("Ajouter des images"), folder_));
+    const QString filter = FilterFor(FileKind::Picture);
+    addFiles(QFileDialog::getOpenFileNames(this, tr("Ajouter des images"), folder_, filter));
 }
 
 }  // namespace vorlane::editor

@@ -1,5 +1,6 @@
 #include "editor/stripmenu.h"
 
+#include "editor/filefilters.h"
 #include "editor/navigator.h"
 #include "editor/preferences.h"
 #include "editor/stripsounds.h"
@@ -105,7 +106,7 @@ void StripMenu::ShowState() {
 
 void StripMenu::Choose(SoundKind kind) {
     const QString title = kind == SoundKind::Music ? tr("Ajouter une musique") : tr("Ajouter un commentaire");
-    addFiles(kind, QFileDialog::getOpenFileNames(Window(), title, folder_));
+    addFiles(kind, QFileDialog::getOpenFileNames(Window(), title, folder_, FilterFor(FileKind::Sound)));
 }
 
 void StripMenu::addFiles(SoundKind kind, const QStringList& files, int listIndex) {

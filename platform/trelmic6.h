@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -51,6 +52,8 @@ public:
     //   2: 3gp avi flv m2ts m4v mkv mov mp4 mpeg mpg mts ogv webm wmv
     //   3: csv doc docx htm html md odp ods odt pdf ppt pptx rtf txt xls xlsx
     static int16_t FileKind(std::string_view path);
+    // The extensions of a kind, in small letters; none of kind 5.
+    static std::span<const std::string_view> ExtensionsOf(int16_t kind);
     // Follows links. A file is a regular one. Anything that can't be looked at does not exist.
     static bool PathExists(const std::string& path, PathKind kind);
     // A folder without doubled separators and with one at its end; an empty text stays empty and "/" stays "/". The

@@ -77,11 +77,26 @@ std::string Trelmic6::FileName(std::string_view path) {
 
 int16_t Trelmic6::FileKind(std::string_view path) {
     const std::string extension = LowerCase(FilePart(path, PathPart::Extension));
-    if (extension.empty() || Holds(kPictures, extension)) return 0;
-    if (Holds(kSounds, extension)) return 1;
-    if (Holds(kVideos, extension)) return 2;
-    if (Holds(kDocuments, extension)) return 3;
+    if (extension.empty()) return 0;
+    for (int16_t kind = 0; kind <= 3; ++kind) {
+        if (Holds(ExtensionsOf(kind), extension)) return kind;
+    }
     return 5;
+}
+
+std::span<const std::string_view> Trelmic6::ExtensionsOf(int16_t kind) {
+    switch (kind) {
+        case 0:
+            return kPictures;
+        case 1:
+            return kSounds;
+        case 2:
+            return kVideos;
+        case 3:
+            return kDocuments;
+        default:
+            return {};
+    }
 }
 
 bool Trelmic6::PathExists(const std::string& path, PathKind kind) {

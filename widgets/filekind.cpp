@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QImageReader>
+#include <QStringList>
 
 namespace vorlane {
 
@@ -13,6 +14,14 @@ FileKind FileKindOf(const QString& path) {
 
 bool HasExtension(const QString& path) {
     return !Trelmic6::FilePart(path.toStdString(), PathPart::Extension).empty();
+}
+
+QString NamePatternsOf(FileKind kind) {
+    QStringList patterns;
+    for (const std::string_view extension : Trelmic6::ExtensionsOf(static_cast<int16_t>(kind))) {
+        patterns.push_back(QStringLiteral("*.") + QString::fromLatin1(extension));
+    }
+    return patterns.join(u' ');
 }
 
 bool HoldsPicture(const QString& path) {

@@ -866,4 +866,19 @@
         <translation>The sheet is still at work: save in a moment</translation>
     </message>
 </context>
+<context>
+    <name>FileFilters</name>
+    <message>
+        <source>Sons (%1)</source>
+        <translation>Sounds (%1)</translation>
+    </message>
+    <message>
+        <source>Images (%1)</source>
+        <translation>Pictures (%1)</translation>
+    </message>
+    <message>
+        <source>Tous les fichiers (*)</source>
+        <translation>All files (*)</translation>
+    </message>
+</context>
 </TS>
