@@ -1,4 +1,8 @@
+#include "tests/widgets/assistive.h"
 #include "tests/widgets/timelinewidgettest.h"
+
+#include <utility>
+#include <vector>
 
 #include <QAccessible>
 
@@ -110,6 +114,28 @@ TEST_F(AccessibleTimeLineTest, TheInterfacesOfSoundsThatAreGoneGoInTime) {
     for (const QAccessible::Id id : ids) alive += QAccessible::accessibleInterface(id) == nullptr ? 0 : 1;
     EXPECT_LT(alive, 100);
     EXPECT_NE(QAccessible::accessibleInterface(kept), nullptr) << "the comment's";
+}
+
+int reordered = 0;  // how often the list was told to be another
+
+TEST_F(AccessibleTimeLineTest, ChangesOfTheSoundsAreTold) {
+    const test::AssistivePrograms listening;
+    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        const QAccessibleInterface* told = event->accessibleInterface();
+        const bool ours = told != nullptr && told->text(QAccessible::Name) == QLatin1String("Ligne de temps");
+        reordered += ours && event->type() == QAccessible::ObjectReorder;
+    });
+    const auto told = [] { return std::exchange(reordered, 0) > 0; };
+    EXPECT_FALSE(told());
+    Music(3, 2);
+    EXPECT_TRUE(told());
+    Comment(4, 2);
+    EXPECT_TRUE(told());
+    strip->Comments().Remove(104);
+    EXPECT_TRUE(told());
+    strip->Musiques().Clear();
+    EXPECT_TRUE(told());
+    QAccessible::installUpdateHandler(nullptr);
 }
 
 TEST_F(AccessibleTimeLineTest, TheInterfacesEndWithTheWidget) {
