@@ -140,6 +140,7 @@ void Vorlane::SetEnabled(bool enabled) {
     if (enabled == First().Enabled() && enabled == Enabled()) return;
     SetOnSlides(&eDiapoLight::SetEnabled, enabled);
     Control::SetEnabled(enabled);
+    if (!enabled) mouse_.KeyHeld = false;  // a disabled sheet hears no key go up
     PropertyChanged("Enabled");
 }
 

@@ -115,6 +115,20 @@ TEST_F(MouseTest, WithCtrlOrShiftNoDragStarts) {
 
 // --- Keys ---
 
+TEST_F(MouseTest, AKeyThatIsLetGoOverADisabledSheetSwallowsNoOther) {
+    Show(40);
+    sheet->Events.KeyDown.connect([this](int16_t& code, int16_t) {
+        if (code == 46) sheet->SetEnabled(false);
+    });
+    window.HoldKey(46);
+    window.ReleaseKey(46);
+    sheet->SetEnabled(true);
+    Heard();
+    window.HoldKey(37);
+    EXPECT_EQ(Heard(), "host KeyDown 37\n");
+    window.ReleaseKey(37);
+}
+
 TEST_F(MouseTest, PageDownScrollsByAPageAndTellsTheHostBehindIt) {
     Show(40);
     window.HoldKey(34);
