@@ -1,5 +1,6 @@
-// Browsing a window of 1,000 x 700 pixels full of slides, by row, by page and by resizing it, beside a QListView in
-// icon mode with uniform items over the same items in the same run, at lists of 1,000 and 1,000,000 items.
+// Browsing a window of 1,000 x 700 pixels full of slides, by row (also with the mouse over them), by page and by
+// resizing it, beside a QListView in icon mode with uniform items over the same items in the same run, at lists of
+// 1,000 and 1,000,000 items.
 //
 // Each time is that from the gesture until what it shows is painted in the window's own pixels.
 #include "bench/beside.h"
@@ -10,6 +11,8 @@
 #include <string>
 
 #include <QApplication>
+#include <QHoverEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 
 using namespace vorlane;
@@ -36,6 +39,16 @@ Times Timed(int rounds, const std::function<void(int)>& gesture) {
     return times;
 }
 
+// The mouse over the middle of view, a pixel to and fro: a hand that turns the wheel is never quite still.
+void Hover(QWidget& view, int round) {
+    const QPointF place = QRectF(view.rect()).center() + QPointF(round % 2, 0);
+    const QPointF before = place - QPointF(1, 0);
+    QMouseEvent move(QEvent::MouseMove, place, view.mapToGlobal(place), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&view, &move);
+    QHoverEvent hover(QEvent::HoverMove, place, view.mapToGlobal(place), before);
+    QCoreApplication::sendEvent(&view, &hover);
+}
+
 struct Counted {
     int filled;
     int64_t drawn;
@@ -58,6 +71,13 @@ public:
     void Run() {
         Print("row step", Timed(kRounds, [&](int) { bar_->setValue(bar_->value() + row_); }));
         Print("row step back", Timed(kRounds, [&](int) { bar_->setValue(bar_->value() - row_); }));
+        Hover(widget_, 0);
+        Settle();
+        Print("row step under the mouse", Timed(kRounds, [&](int i) {
+                  Hover(widget_, i);
+                  bar_->setValue(bar_->value() + row_);
+                  Hover(widget_, i + 1);
+              }));
         Print("page jump", Timed(kRounds, [&](int i) { bar_->setValue(i % 2 == 0 ? 13 * page_ : 7 * page_); }));
         Print("resize, the same grid", Timed(kRounds, [&](int i) { widget_.resize(i % 2 == 0 ? 990 : 1000, 700); }));
         Print("resize, another grid", Timed(kRounds, [&](int i) {
@@ -99,6 +119,16 @@ void RunList(int length, int rounds) {
     Settle();
     QScrollBar& bar = *list.verticalScrollBar();
     Timed(rounds, [&](int) { bar.setValue(bar.value() + kSlide.height()); }).Print("list view, row step");
+    QWidget& viewport = *list.viewport();
+    viewport.setAttribute(Qt::WA_Hover);  // as a style has it that lights up what is under the mouse
+    bar.setValue(0);
+    Hover(viewport, 0);
+    Settle();
+    Timed(rounds, [&](int i) {
+        Hover(viewport, i);
+        bar.setValue(bar.value() + kSlide.height());
+        Hover(viewport, i + 1);
+    }).Print("list view, row step under the mouse");
     Timed(rounds, [&](int i) { bar.setValue((i % 2 == 0 ? 13 : 7) * 700); }).Print("list view, page jump");
     // It would put off its layout for a tenth of a second.
     const auto resize = [&](int width) {
