@@ -134,14 +134,26 @@ QString ThumbnailCache::EntryPath(const QString& path, int edge) const {
     return QStringLiteral("%1/%2/%3.png").arg(folder_, FolderOf(edge), QString::fromLatin1(digest));
 }
 
-std::optional<Thumbnail> ThumbnailCache::Find(const QString& path, const FileStamp& stamp, int edge) const {
+std::optional<ThumbnailCache::Entry> ThumbnailCache::FindEntry(const QString& path, const FileStamp& stamp,
+                                                               int edge) const {
     if (folder_.isEmpty() || !stamp.Exists()) return std::nullopt;
     for (const int size : kThumbnailEdges) {
         if (size < edge) continue;
-        QImage entry = ReadEntry(EntryPath(path, size), path, stamp, size);
-        if (!entry.isNull()) return ToThumbnail(std::move(entry));
+        const QString file = EntryPath(path, size);
+        QImage image = ReadEntry(file, path, stamp, size);
+        if (!image.isNull()) return Entry{file, std::move(image)};
     }
     return std::nullopt;
+}
+
+std::optional<Thumbnail> ThumbnailCache::Find(const QString& path, const FileStamp& stamp, int edge) const {
+    auto entry = FindEntry(path, stamp, edge);
+    return entry ? std::optional(ToThumbnail(std::move(entry->image))) : std::nullopt;
+}
+
+QString ThumbnailCache::FindFile(const QString& path, const FileStamp& stamp, int edge) const {
+    const auto entry = FindEntry(path, stamp, edge);
+    return entry ? entry->file : QString();
 }
 
 bool ThumbnailCache::IsBroken(const QString& path, const FileStamp& stamp) const {

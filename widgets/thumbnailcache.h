@@ -25,6 +25,8 @@ public:
     // The thumbnail of the file in the state of stamp, in that size (one of kThumbnailEdges) or the next larger one
     // that is there. An entry without a word on the picture's size leaves pictureSize empty.
     std::optional<Thumbnail> Find(const QString& path, const FileStamp& stamp, int edge) const;
+    // The file of that thumbnail, empty without one.
+    QString FindFile(const QString& path, const FileStamp& stamp, int edge) const;
     // Whether this program could not read the file in that state.
     bool IsBroken(const QString& path, const FileStamp& stamp) const;
 
@@ -40,6 +42,11 @@ public:
     QString EntryPath(const QString& path, int edge) const;
 
 private:
+    struct Entry {
+        QString file;
+        QImage image;
+    };
+    std::optional<Entry> FindEntry(const QString& path, const FileStamp& stamp, int edge) const;
     bool MayStore(const QString& path, const FileStamp& stamp) const;
 
     QString folder_;

@@ -5,6 +5,7 @@
 #include "platform/qt/qtpictures.h"
 #include "platform/trelmic6.h"
 #include "sheet/vorlane.h"
+#include "widgets/followedthumb.h"
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
@@ -22,6 +23,10 @@ QString Text(const std::string& text) {
     return QString::fromStdString(text);
 }
 
+bool IsPicture(const std::string& name) {
+    return !name.empty() && Trelmic6::FileKind(name) == 0;
+}
+
 Picture ToPicture(const Thumbnail& thumbnail) {
     return PictureFromImage(thumbnail.image, thumbnail.pictureSize.width(), thumbnail.pictureSize.height());
 }
@@ -35,7 +40,11 @@ int EdgeOf(const Thumbnail& thumbnail) {
 
 ThumbnailProvider::ThumbnailProvider(Vorlane& sheet, QWidget& view, QtPictures& pictures, ThumbnailService& service,
                                      QObject* parent)
-    : QObject(parent), sheet_(sheet), view_(view), service_(&service) {
+    : QObject(parent),
+      sheet_(sheet),
+      view_(view),
+      service_(&service),
+      followed_(std::make_unique<FollowedThumb>(sheet, service)) {
     beforeSetPicture_ =
         sheet.Events.BeforeSetPicture.connect([this](int16_t, const std::string& name, Picture& picture, bool&, bool&,
                                                      bool&, bool&, bool&) { Answer(name, picture); });
@@ -43,6 +52,8 @@ ThumbnailProvider::ThumbnailProvider(Vorlane& sheet, QWidget& view, QtPictures& 
         pictures.BeforeLoad.connect([this](const std::string& name, bool& refused) { Refuse(name, refused); });
     displayEnd_ = sheet.Events.DisplayEnd.connect([this] { LookSoon(); });
     scroll_ = sheet.Events.Scroll.connect([this](int32_t, int32_t&) { LookSoon(); });
+    getThumbPath_ =
+        sheet.Events.GetThumbPath.connect([this](const std::string& name, std::string& thumb) { Follow(name, thumb); });
     connect(&service, &ThumbnailService::ready, this, &ThumbnailProvider::Show);
     connect(&service, &ThumbnailService::failed, this, &ThumbnailProvider::ShowBroken);
 }
@@ -65,13 +76,18 @@ void ThumbnailProvider::Answer(const std::string& name, Picture& picture) {
     }
     const bool tile = answer.thumbnail.IsNull();
     Note(path, tile ? 0 : EdgeOf(answer.thumbnail));
-    picture = tile ? Tile() : ToPicture(answer.thumbnail);
+    picture = tile ? PictureFromImage(Tile(), kTileSize.width(), kTileSize.height()) : ToPicture(answer.thumbnail);
 }
 
 void ThumbnailProvider::Refuse(const std::string& name, bool& refused) const {
     if (!service_) return;
     const QString path = Text(name);
     refused = refused || refused_.contains(path) || service_->isKnownBroken(path);
+}
+
+void ThumbnailProvider::Follow(const std::string& name, std::string& thumb) {
+    if (!service_ || !thumb.empty() || !IsPicture(name)) return;
+    thumb = followed_->FileFor(Text(name), FollowedSize(), Tile());
 }
 
 // --- What the service tells ---
@@ -111,6 +127,7 @@ void ThumbnailProvider::Look() {
     if (!service_) return;
     const std::vector<Bound> bound = BoundSlides();
     QStringList wanted;
+    if (!followed_->Awaited().isEmpty()) wanted.push_back(followed_->Awaited());
     QHash<QString, int> given;
     for (const Bound& one : bound) {
         wanted.push_back(one.path);
@@ -144,7 +161,7 @@ void ThumbnailProvider::AskAhead(const std::vector<Bound>& bound) {
     const int32_t end = std::min(list->ListCount() - 1, last + sheet_.CountDiapo());
     for (int32_t i = end; i > last; --i) {  // the newest request is served first
         const std::string name = sheet_.ImageFullPath(i);
-        if (!name.empty() && Trelmic6::FileKind(name) == 0) service_->request(Text(name), WantedSize());
+        if (IsPicture(name)) service_->request(Text(name), WantedSize());
     }
 }
 
@@ -190,13 +207,18 @@ int ThumbnailProvider::WantedSize() const {
     return static_cast<int>(longest * view_.devicePixelRatioF());
 }
 
-Picture ThumbnailProvider::Tile() const {
+// As large as the slides, too, so that what is decoded on the way serves where the thumb is let go.
+int ThumbnailProvider::FollowedSize() const {
+    return std::max(WantedSize(), static_cast<int>(sheet_.ScrollWindowWidth() * view_.devicePixelRatioF()));
+}
+
+QImage ThumbnailProvider::Tile() const {
     const QColor ink = view_.palette().color(QPalette::WindowText);
     const QColor paper = view_.palette().color(QPalette::Base);
     const auto mixed = [](int a, int b) { return (a * 14 + b * 86) / 100; };
     QImage image(3, 2, QImage::Format_RGB32);
     image.fill(qRgb(mixed(ink.red(), paper.red()), mixed(ink.green(), paper.green()), mixed(ink.blue(), paper.blue())));
-    return PictureFromImage(image, kTileSize.width(), kTileSize.height());
+    return image;
 }
 
 }  // namespace vorlane

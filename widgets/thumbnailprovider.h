@@ -3,6 +3,8 @@
 // for the moment, and its thumbnail when that arrives. The picture handed over has the size of the file's own, though
 // not its pixels: what the slide tells of its picture is true of the file.
 //
+// While the thumb of the bar is dragged, the follow window takes its pictures from the service, too.
+//
 // A file that can't be shown ends as the sheet's substitute, with its InvalidPicture event, when the service has found
 // out. A picture that another handler of BeforeSetPicture gave before is left alone, and so are files of other kinds.
 #pragma once
@@ -24,6 +26,7 @@
 namespace vorlane {
 
 class eDiapoLight;
+class FollowedThumb;
 class QtPictures;
 class Vorlane;
 class VorlaneWidget;
@@ -54,6 +57,7 @@ private:
 
     void Answer(const std::string& name, Picture& picture);
     void Refuse(const std::string& name, bool& refused) const;
+    void Follow(const std::string& name, std::string& thumb);
     void LookSoon();
     void Look();
     void AskAgain(const Bound& bound);
@@ -66,7 +70,8 @@ private:
     std::vector<Bound> BoundSlides() const;
     QString PathOf(const eDiapoLight& slide) const;
     int WantedSize() const;
-    Picture Tile() const;
+    int FollowedSize() const;
+    QImage Tile() const;
 
     Vorlane& sheet_;
     QWidget& view_;
@@ -75,10 +80,12 @@ private:
     QSet<QString> refused_;      // files that are being shown as broken
     bool looking_ = false;
     int missing_ = 0;
+    std::unique_ptr<FollowedThumb> followed_;
     ScopedConnection beforeSetPicture_;
     ScopedConnection beforeLoad_;
     ScopedConnection displayEnd_;
     ScopedConnection scroll_;
+    ScopedConnection getThumbPath_;
 };
 
 }  // namespace vorlane

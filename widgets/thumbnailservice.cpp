@@ -9,14 +9,16 @@
 namespace vorlane {
 
 ThumbnailService::ThumbnailService(ThumbnailOptions options, QObject* parent)
-    : QObject(parent), checkInterval_(options.checkInterval), memory_(options.memoryBudget) {
+    : QObject(parent),
+      checkInterval_(options.checkInterval),
+      cache_(options.cacheFolder),
+      memory_(options.memoryBudget) {
     clock_.start();
     const auto deliver = [this](ThumbnailOutcome outcome) {
         const auto take = [this, taken = std::move(outcome)] { Take(taken); };
         QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
     };
-    workers_ = std::make_unique<ThumbnailWorkers>(options.workers, ThumbnailCache(options.cacheFolder),
-                                                  std::move(options.decoder), deliver);
+    workers_ = std::make_unique<ThumbnailWorkers>(options.workers, cache_, std::move(options.decoder), deliver);
 }
 
 ThumbnailService::~ThumbnailService() = default;
@@ -57,6 +59,10 @@ void ThumbnailService::setWanted(const QStringList& paths) {
     for (const QString& path : dropped) pending_.remove(path);
     counts_.dropped += static_cast<int>(dropped.size());
     Q_EMIT pendingChanged(pending());
+}
+
+QString ThumbnailService::cachedFile(const QString& path, int size) const {
+    return cache_.FindFile(path, FileStamp::Of(path), ThumbnailEdge(size));
 }
 
 bool ThumbnailService::isKnownBroken(const QString& path) const {

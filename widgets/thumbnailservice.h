@@ -1,6 +1,6 @@
 // ThumbnailService: thumbnails of picture files for a host's user interface. It answers at once what it has at hand,
 // lets worker threads see to the rest, and tells when that is there. The thread that uses it never decodes anything
-// and never touches a file.
+// and never touches a file, but for an entry of the cache where it asks for that one's name.
 //
 // What the user sees comes first: tell it by setWanted() after each scroll, which also drops what was asked for and not
 // begun. Thumbnails are kept in memory and in the user's thumbnail cache on disk; a file that changed since is noticed
@@ -60,6 +60,9 @@ public:
     // These are in sight, in this order; requests for others that aren't begun are dropped.
     void setWanted(const QStringList& paths);
 
+    // The file in the cache on disk that holds that thumbnail of the file as it is now; empty without one. Reads it.
+    QString cachedFile(const QString& path, int size) const;
+
     // Whether the last that was heard of the file is that it can't be shown. Asks nobody.
     bool isKnownBroken(const QString& path) const;
     // How many requests are to be answered yet.
@@ -83,6 +86,7 @@ private:
     bool Settle(const ThumbnailJob& job);
 
     const int checkInterval_;
+    const ThumbnailCache cache_;
     ThumbnailMemory memory_;
     QHash<QString, int> pending_;  // sizes asked for
     Counts counts_;

@@ -4,6 +4,7 @@
 #include "editor/navigator.h"
 #include "editor/slidesize.h"
 #include "tests/editor/windowfixture.h"
+#include "tests/platform/qt/barhand.h"
 
 #include <QMenu>
 #include <QPushButton>
@@ -18,7 +19,10 @@ using test::WaitFor;
 
 namespace {
 
-class EditorWindowTest : public WindowFixture {};
+class EditorWindowTest : public WindowFixture {
+protected:
+    QScrollBar& Bar() { return *window_->sheet().findChild<QScrollBar*>(); }
+};
 
 }  // namespace
 
@@ -70,6 +74,16 @@ TEST_F(EditorWindowTest, NoPictureIsEverReadOnTheUsersThread) {
     ASSERT_TRUE(Settle());
     window_->resize(1200, 900);
     ASSERT_TRUE(Settle());
+    const int before = window_->sheet().Value(0);
+    test::BarHand hand(Bar());
+    hand.PressThumb();
+    for (int move = 0; move < 20; ++move) {
+        hand.Move({0, -20});
+        QCoreApplication::processEvents();
+    }
+    hand.Release();
+    ASSERT_TRUE(Settle());
+    EXPECT_LT(window_->sheet().Value(0), before);
     EXPECT_GT(stage_.Begun().size(), static_cast<size_t>(window_->sheet().CountDiapo()));
     EXPECT_EQ(stage_.Threads().count(std::this_thread::get_id()), 0U);
     EXPECT_EQ(readOnThisThread_, 0);
@@ -174,6 +188,25 @@ TEST_F(EditorWindowTest, AManyFileFolderComesInSlicesAndCanBeScrolledMeanwhile) 
     EXPECT_EQ(window_->sheet().Count(), 5000);
     EXPECT_EQ(Slide(0).ImageName(), top);
     EXPECT_EQ(Status(), QString("%L1 images").arg(5000));
+}
+
+TEST_F(EditorWindowTest, TheThumbStaysInTheHandWhileAFolderIsRead) {
+    for (int i = 0; i < 5000; ++i) pictures_.Write(QStringLiteral("p%1.jpg").arg(i), {});
+    window_->openFolder(Folder());
+    ASSERT_TRUE(WaitFor([this] { return window_->count() > 0 && Bar().isVisible() && Bar().maximum() > 0; }));
+    test::BarHand hand(Bar());
+    hand.PressThumb();
+    hand.Move({0, 100});
+    const int held = Bar().sliderPosition();
+    const int longest = Bar().maximum();
+    ASSERT_GT(held, 0);
+    QSignalSpy asked(&window_->sheet(), &VorlaneWidget::OnGetThumbPath);
+    ASSERT_TRUE(Settle());
+    ASSERT_GT(Bar().maximum(), longest);
+    EXPECT_EQ(Bar().sliderPosition(), held);
+    EXPECT_EQ(asked.count(), 0);
+    hand.Release();
+    EXPECT_NEAR(window_->sheet().Value(0), held, window_->sheet().CountDiapoX());
 }
 
 TEST_F(EditorWindowTest, TheZoomSliderSizesTheSlides) {

@@ -27,8 +27,8 @@ class WindowFixture : public testing::Test {
 protected:
     WindowFixture() {
         Make();
-        loads_ = QtDesktop::Of(*qApp).pictures.BeforeLoad.connect([this](const std::string&, bool& broken) {
-            if (!broken) ++readOnThisThread_;
+        loads_ = QtDesktop::Of(*qApp).pictures.BeforeLoad.connect([this](const std::string& path, bool& broken) {
+            if (!broken && path.starts_with(Folder().toStdString())) ++readOnThisThread_;
         });
     }
     ~WindowFixture() override { loads_.disconnect(); }
@@ -105,7 +105,7 @@ protected:
     QSettings settings_{config_.filePath("settings.ini"), QSettings::IniFormat};
     std::unique_ptr<EditorWindow> window_;
     Connection loads_;
-    int readOnThisThread_ = 0;
+    int readOnThisThread_ = 0;  // pictures of the folder
     QStringList invalid_;
     QStringList opened_;
     bool accepted_ = false;
