@@ -1,14 +1,14 @@
 // Scrolling a sheet by its widget's wheel and native bar.
 #include "platform/qt/formwidget.h"
 #include "platform/qt/qtdesktop.h"
+#include "tests/platform/qt/barhand.h"
 #include "tests/widgets/vorlanewidgettest.h"
 #include "windows/frmscroll.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QWheelEvent>
 
 namespace vorlane {
@@ -27,21 +27,10 @@ protected:
     FrmScroll& Form() { return SharedFrmScroll(widget.Desktop().Roles()); }
     // The follow window on the screen, nullptr without one.
     FormWidget* FormOnScreen() { return Form().Visible() ? widget.Desktop().forms.WidgetOf(Form().Hwnd()) : nullptr; }
-    QPoint Thumb() {
-        QStyleOptionSlider option;
-        option.initFrom(&Bar());
-        option.orientation = Qt::Vertical;
-        option.minimum = Bar().minimum();
-        option.maximum = Bar().maximum();
-        option.sliderPosition = Bar().sliderPosition();
-        option.sliderValue = Bar().value();
-        option.pageStep = Bar().pageStep();
-        return Bar()
-            .style()
-            ->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &Bar())
-            .center();
-    }
     QScrollBar& Bar() { return *widget.findChild<QScrollBar*>(); }
+    QRgb Followed() { return FormOnScreen()->grab().toImage().pixel(50, 38); }
+
+    test::BarHand hand{Bar()};
 };
 
 TEST_F(ScrollingTest, TheBarIsAtTheRightAndCoversTheWholeList) {
@@ -105,20 +94,19 @@ TEST_F(ScrollingTest, ADraggedThumbIsFollowedByAWindowAndScrollsWhenItIsLetGo) {
     QObject::connect(
         &widget, &VorlaneWidget::OnScrollMouseUp, &widget,
         [&](int button, int, double, double, int* value) { told << QString("up %1 at %2").arg(button).arg(*value); });
-    const QPoint thumb = Thumb();
-    test::SendMouse(Bar(), QEvent::MouseButtonPress, thumb, Qt::LeftButton, true);
+    hand.PressThumb();
     EXPECT_EQ(FormOnScreen(), nullptr);
-    test::SendMouse(Bar(), QEvent::MouseMove, thumb + QPoint(0, 60), Qt::LeftButton, true);
+    hand.Move({0, 60});
     ASSERT_NE(FormOnScreen(), nullptr);
     ASSERT_EQ(asked.size(), 1);
     const int under = asked[0].right(7).left(3).toInt();
     EXPECT_GT(under, 0);
     EXPECT_EQ(FormOnScreen()->geometry().topLeft(), widget.mapToGlobal(QPoint(500, 0)));
     EXPECT_EQ(FormOnScreen()->size(), QSize(100, 76));
-    EXPECT_EQ(FormOnScreen()->grab().toImage().pixel(50, 38), ColorOf(under));
+    EXPECT_EQ(Followed(), ColorOf(under));
     EXPECT_EQ(Shown(0), ColorOf(0)) << "the list stands still";
 
-    test::SendMouse(Bar(), QEvent::MouseButtonRelease, thumb + QPoint(0, 60), Qt::LeftButton, false);
+    hand.Release();
     EXPECT_EQ(FormOnScreen(), nullptr);
     EXPECT_EQ(Shown(0), ColorOf(under));
     EXPECT_EQ(told, QStringList({"down 1 at 0", QString("up 1 at %1").arg(under)}));
@@ -129,12 +117,44 @@ TEST_F(ScrollingTest, AReceiverMayNameAThumbnailForTheFollowWindow) {
     const QString thumb = Write("thumb.png", test::Plain(30, 20, Qt::black));
     QObject::connect(&widget, &VorlaneWidget::OnGetThumbPath, &widget,
                      [&](const QString&, QString* thumbName) { *thumbName = thumb; });
-    const QPoint place = Thumb();
-    test::SendMouse(Bar(), QEvent::MouseButtonPress, place, Qt::LeftButton, true);
-    test::SendMouse(Bar(), QEvent::MouseMove, place + QPoint(0, 60), Qt::LeftButton, true);
+    hand.PressThumb();
+    hand.Move({0, 60});
     ASSERT_NE(FormOnScreen(), nullptr);
-    EXPECT_EQ(FormOnScreen()->grab().toImage().pixelColor(50, 38), QColor(Qt::black));
-    test::SendMouse(Bar(), QEvent::MouseButtonRelease, place, Qt::LeftButton, false);
+    EXPECT_EQ(QColor(Followed()), QColor(Qt::black));
+    hand.Release();
+}
+
+TEST_F(ScrollingTest, AWindowThatStillClosesIsNotInTheWayOfTheNextPress) {
+    int under = -1;
+    QObject::connect(&widget, &VorlaneWidget::OnGetThumbPath, &widget,
+                     [&](const QString& fileName, QString*) { under = fileName.right(7).left(3).toInt(); });
+    widget.SetScrollWindowWidth(400);  // large enough for an effect that lasts
+    hand.PressThumb();
+    hand.Move({0, 60});
+    const QPointer<FormWidget> first = FormOnScreen();
+    const int before = under;
+    hand.Release();
+    ASSERT_TRUE(first && first->isVisible());
+    EXPECT_TRUE(first->windowFlags().testFlag(Qt::WindowTransparentForInput));
+
+    hand.PressThumb();
+    hand.Move({0, 40});
+    ASSERT_NE(FormOnScreen(), nullptr);
+    EXPECT_NE(FormOnScreen(), first);
+    EXPECT_GT(under, before);
+    EXPECT_TRUE(FormOnScreen()->mask().isEmpty());
+    const auto shown = [&] { return FormOnScreen()->grab().toImage().pixel(200, 152); };
+    EXPECT_EQ(shown(), ColorOf(under));
+    for (int i = 0; first && i < 2000; ++i) {
+        widget.Desktop().clock.Sleep(2);
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_EQ(first, nullptr);
+    ASSERT_NE(FormOnScreen(), nullptr);
+    EXPECT_EQ(shown(), ColorOf(under));
+    hand.Release();
+    EXPECT_EQ(errors, "");
 }
 
 }  // namespace
