@@ -80,7 +80,9 @@ TEST_F(CellsTest, TheBarOfASidewaysSheetLiesBelow) {
     bag.SetValue("ScrollDirection", int64_t{1});
     Start(bag);
     EXPECT_EQ(sheet->VScroll.Bounds(), (Box{0, kHeight - 16, kWidth, 16}));
+    EXPECT_EQ(sheet->VScroll.Orientation(), Orientation::Horizontal);
     sheet->SetScrollDirection(ScrollDirectionType::sdVertical);
+    EXPECT_EQ(sheet->VScroll.Orientation(), Orientation::Vertical);
     EXPECT_EQ(sheet->VScroll.Bounds(), (Box{kWidth - 16, 0, 16, kHeight}));
     EXPECT_EQ(sheet->CountDiapoY(), 3);
     EXPECT_THAT(Heard(), testing::EndsWith("host PropertyChanged ScrollDirection\n"));

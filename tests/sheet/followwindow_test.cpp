@@ -60,6 +60,21 @@ TEST_F(ThumbTest, AThrowOnTheBarsMouseLeavesTheBarAlive) {
 
 // --- A drag of the thumb ---
 
+TEST_F(ThumbTest, OfASidewaysSheetTheWindowStandsBelowItsLeftEnd) {
+    PropertyBag bag;
+    bag.SetValue("ScrollDirection", int64_t{1});
+    ShowWith(bag);
+    window.HoldThumb(sheet->VScroll);
+    window.DragThumb(sheet->VScroll, 9);
+    EXPECT_TRUE(Form().Visible());
+    EXPECT_EQ(Followed(), File(9));
+    EXPECT_EQ((Box{Form().Left(), Form().Top(), Form().Width(), Form().Height()}),
+              (Box{100 * 15, (200 + kHeight) * 15, 100 * 15, 76 * 15}))
+        << "twips of the screen";
+    window.ReleaseThumb(sheet->VScroll, 9);
+    EXPECT_EQ(sheet->Diapo.Item(0)->Value(), 9);
+}
+
 TEST_F(ThumbTest, ADragOpensTheWindowShowsTheItemUnderTheThumbAndScrollsAtItsEnd) {
     Show(40);
     window.HoldThumb(sheet->VScroll);

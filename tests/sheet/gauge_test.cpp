@@ -28,6 +28,26 @@ TEST_F(GaugeTest, FollowsTheFillInTheLowerRightCorner) {
     EXPECT_EQ(sheet->Jauge.Top(), kHeight - sheet->Jauge.Height());
 }
 
+TEST_F(GaugeTest, FollowsALayoutThatMakesSlidesAndNoOther) {
+    Show(40);
+    std::string heard;
+    int32_t shown = 0;
+    onAdded = [&](int16_t index) {
+        shown += sheet->Jauge.Visible() ? 1 : 0;
+        if (index == 10) heard = Gauge();
+    };
+    window.Resize(450, kHeight);
+    desktop.clock.Advance(200);
+    EXPECT_EQ(heard, "0 to 13, 10");
+    EXPECT_EQ(shown, 12);
+    EXPECT_EQ(Gauge(), "0 to 13, 13");
+    EXPECT_FALSE(sheet->Jauge.Visible());
+    shown = 0;
+    window.Resize(240, kHeight);
+    desktop.clock.Advance(200);
+    EXPECT_EQ(shown, 0);
+}
+
 TEST_F(GaugeTest, OfASidewaysSheetStandsAboveTheBar) {
     PropertyBag bag;
     bag.SetValue("ScrollDirection", int64_t{1});

@@ -130,6 +130,53 @@ TEST_F(RelayoutTest, APoolThatGrowsBeyondTheListShowsAllOfIt) {
     ExpectSlidesAgreeWithList();
 }
 
+// A slide takes 20 ms, and the edge moves by some pixels behind each one.
+TEST_F(RelayoutTest, AnEdgeDraggedForTwoSecondsUnderAFillWaitsForOneSlideAtMostAndLeavesTheRightGrid) {
+    Start();
+    AddItems(0, 399);
+    int32_t slides = 0;
+    int32_t behind = -1;  // slides shown for a grid that is no more; -1: the grid is right
+    int32_t most = 0;
+    int32_t moves = 0;
+    const auto moveEdge = [&] {
+        ++moves;
+        window.Resize(345 + 40 * (moves % 9), 180 + 2 * (moves % 100));
+    };
+    onDisplayStart = [&] { behind = -1; };
+    onAdded = [&](int16_t) {
+        if (behind >= 0) most = std::max(most, ++behind);
+        if (++slides > 100) return;
+        desktop.clock.Sleep(20);
+        const int16_t shown = sheet->CountDiapo();
+        moveEdge();
+        if (sheet->CountDiapo() != shown && behind < 0) behind = 0;
+        if (slides % 3 == 0) desktop.clock.DoEvents();
+    };
+    sheet->StartLecture();
+    for (int32_t pause = 0; slides <= 100 && pause < 100; ++pause) {
+        desktop.clock.Advance(10);
+        moveEdge();
+    }
+    desktop.clock.Advance(500);
+    ASSERT_GT(slides, 100);
+    EXPECT_LE(most, 1);
+    EXPECT_EQ(sheet->Diapo.Count(), sheet->CountDiapo());
+    EXPECT_EQ(sheet->Diapo.Item(0)->Value(), 0);
+    EXPECT_EQ(sheet->Diapo.Item(sheet->CountDiapo() - 1)->Value(), sheet->CountDiapo() - 1);
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(RelayoutTest, ALayoutAtTheListsEndLeavesTheBarWhereLessThanAColumnOfPlacesIsFree) {
+    Show(14);
+    sheet->VScroll.SetValue(3);
+    window.Resize(450, kHeight);
+    desktop.clock.Advance(200);
+    ASSERT_EQ(sheet->CountDiapo(), 12);
+    EXPECT_EQ(sheet->VScroll.Value(), 3);
+    EXPECT_EQ(Slides(), "3 4 5 6 7 8 9 10 11 12 13");
+}
+
 TEST_F(RelayoutTest, ANewSlideOfTheCurrentItemBearsItsColour) {
     Show(40);
     sheet->VScroll.SetValue(3);
