@@ -49,6 +49,7 @@ void EditorWindow::PlayFrom(int first) {
         });
         connect(player_.get(), &ShowPlayer::troubled, this, &EditorWindow::Say);
     }
+    soundMenu_->endRecording();
     sheet_->StopSound();
     player_->play(std::move(*show), first, this);
 }

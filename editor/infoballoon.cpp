@@ -71,7 +71,9 @@ QStringList InfoLines(const QString& path, const QLocale& locale) {
 
 void ShowInfoBalloons(VorlaneWidget& sheet) {
     sheet.SetShowInfo(true);
-    const auto tell = [&sheet](int, const QString& path, QString* title, QString* text, int* icon) {
+    // The item's own path: a slide knows a file without extension with a point behind.
+    const auto tell = [&sheet](int slot, const QString&, QString* title, QString* text, int* icon) {
+        const QString path = sheet.ImageFullPath(sheet.Value(slot));
         const QStringList lines = InfoLines(path, sheet.locale());
         *title = QFileInfo(path).fileName();
         *icon = lines.isEmpty() ? kWarning : kInformation;

@@ -119,14 +119,18 @@ void StripMenu::addFiles(SoundKind kind, const QStringList& files, int listIndex
 }
 
 void StripMenu::AddTo(SoundKind kind, const QStringList& files, int listIndex) {
+    Q_EMIT said(Added(kind, files, listIndex));
+}
+
+QString StripMenu::Added(SoundKind kind, const QStringList& files, int listIndex) {
     const int added = sounds_.add(kind, files, listIndex);
     const auto left = static_cast<int>(files.size()) - added;
-    if (added == 0) return Q_EMIT said(tr("Aucun son à ajouter"));
+    if (added == 0) return tr("Aucun son à ajouter");
     const bool music = kind == SoundKind::Music;
     QString notice =
         music ? tr("%Ln musique(s) ajoutée(s)", nullptr, added) : tr("%Ln commentaire(s) ajouté(s)", nullptr, added);
     if (left > 0) notice = tr("%1 ; %2").arg(notice, tr("%Ln de trop pour les diapositives", nullptr, left));
-    Q_EMIT said(notice);
+    return notice;
 }
 
 void StripMenu::Remove(SoundKind kind) {
@@ -191,14 +195,16 @@ void StripMenu::endRecording() {
     const Recording recording = recorder_.stop();
     record_->setChecked(false);
     strip_.RecordEnd();
-    const QString file = QDir::toNativeSeparators(recording.path);
+    QStringList notices;
     const int item = strip_.itemOf(recordedKey_);
     if (!recording.path.isEmpty() && item >= 0) {
-        AddTo(SoundKind::Comment, {recording.path}, item);
+        notices += Added(SoundKind::Comment, {recording.path}, item);
     } else if (!recording.path.isEmpty()) {
-        Q_EMIT said(tr("La diapositive n'est plus là ; le commentaire est dans « %1 »").arg(file));
+        const QString file = QDir::toNativeSeparators(recording.path);
+        notices += tr("La diapositive n'est plus là ; le commentaire est dans « %1 »").arg(file);
     }
-    if (!recording.failure.isEmpty()) Q_EMIT said(recording.failure);
+    if (!recording.failure.isEmpty()) notices += recording.failure;
+    if (!notices.empty()) Q_EMIT said(notices.size() > 1 ? tr("%1 ; %2").arg(notices[0], notices[1]) : notices[0]);
 }
 
 }  // namespace vorlane::editor

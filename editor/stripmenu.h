@@ -47,6 +47,8 @@ private:
     void Choose(SoundKind kind);
     void Remove(SoundKind kind);
     void AddTo(SoundKind kind, const QStringList& files, int listIndex);
+    // The same, untold: what is to be said of it.
+    QString Added(SoundKind kind, const QStringList& files, int listIndex);
     void ChooseExposition();
     void ChooseVolumes();
     void Record(bool on);

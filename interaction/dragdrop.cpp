@@ -133,7 +133,7 @@ void Vorlane::PutSelectionInto(DataObject& data) const {
     data.Files().reserve(items.size());
     for (const int32_t item : items) {
         const std::string path = ItemFullPath(item);
-        data.Files().push_back(list != nullptr ? DraggedFileEntry(path, list->ItemData(item)) : path);
+        data.Files().push_back(list != nullptr ? DraggedFileEntry(path, list->ItemData(item)) : DraggedFileEntry(path));
     }
 }
 

@@ -32,7 +32,8 @@ bool IsAllowed(char unit) {
 bool IsNameForFile(std::string_view name) {
     if (name.empty() || name.back() == ' ' || name.back() == '.') return false;
     if (!std::all_of(name.begin(), name.end(), IsAllowed)) return false;
-    return !IsDevice(Trelmic6::LowerCase(name.substr(0, name.find('.'))));
+    const std::string_view stem = name.substr(0, name.find('.'));
+    return !IsDevice(Trelmic6::LowerCase(stem.substr(0, stem.find_last_not_of(' ') + 1)));
 }
 
 bool IsShortEnough(std::string_view fileName) {

@@ -167,9 +167,13 @@ void Vorlane::RenameDiapo(int32_t listIndex, const std::string& oldName, const s
                           int16_t diapoIndex) {
     ListBox* list = Bound().AsListBox();
     if (list == nullptr) return;
+    // What stands behind a point is a name's extension where both have it, as a file without one may get a point.
+    const bool sameExtension =
+        Trelmic6::FilePart(oldName, PathPart::Extension) == Trelmic6::FilePart(newName, PathPart::Extension);
+    const auto part = [&](const std::string& path) { return sameExtension ? NameIn(path) : Trelmic6::FileName(path); };
     const int16_t slot = diapoIndex < 0 ? SlotFromListIndex(listIndex) : diapoIndex;
     const auto slide = slot < 0 ? nullptr : Diapo.Item(slot);
-    list->SetList(listIndex, ReplacedAll(list->List(listIndex), NameIn(oldName), NameIn(newName)));
+    list->SetList(listIndex, ReplacedAll(list->List(listIndex), part(oldName), part(newName)));
     if (slide) slide->SetImageFullPath(eDiapoLight::KnownPath(newName));
 }
 

@@ -26,6 +26,10 @@ DraggedFile ReadDraggedFile(std::string_view entry) {
     return {std::string(entry.substr(0, separator)), *key};
 }
 
+std::string DraggedFileEntry(std::string_view path) {
+    return ReadDraggedFile(path).Path == path ? std::string(path) : DraggedFileEntry(path, -1);
+}
+
 std::string DraggedFileEntry(std::string_view path, int32_t key) {
     return std::string(path).append(1, kSeparator).append(std::to_string(key));
 }

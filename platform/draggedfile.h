@@ -17,5 +17,7 @@ struct DraggedFile {
 DraggedFile ReadDraggedFile(std::string_view entry);
 
 std::string DraggedFileEntry(std::string_view path, int32_t key);
+// Of a file without a key: the path alone, unless its end would be taken for one.
+std::string DraggedFileEntry(std::string_view path);
 
 }  // namespace vorlane

@@ -37,7 +37,7 @@ struct TextOutA {  // left and top of the text
     bool operator==(const TextOutA&) const = default;
 };
 struct TRIVERTEX {
-    int32_t x = 0, Y = 0;
+    int32_t x = 0, Y = 0;                             // spelt as the system spells them
     int16_t Red = 0, Green = 0, Blue = 0, Alpha = 0;  // the bits of unsigned values, 0 to 0xFF00
 
     TRIVERTEX() = default;

@@ -78,9 +78,9 @@ public:
     static std::string_view FieldViewAt(std::string_view text, int32_t n, std::string_view separator);
     // How many separators text holds; an empty separator is nowhere.
     static int32_t CountOf(std::string_view text, std::string_view separator);
-    // Small letters of the Latin (but for U+0180 to U+01CC, where pairs don't stand together), Greek (without accents
-    // of old), Cyrillic and Armenian alphabets, letter by letter in UTF-8, whatever the locale. Everything else, also
-    // bytes that are no UTF-8, stays as it is.
+    // Small letters of the Latin (full width too; not the rare ones of U+0180 to U+024F whose pairs don't stand
+    // together), Greek (without accents of old), Cyrillic and Armenian alphabets, letter by letter in UTF-8, whatever
+    // the locale. Everything else, also bytes that are no UTF-8, stays as it is.
     static std::string LowerCase(std::string_view text);
     // withUnits false: "m:ss", or "h:mm:ss" from an hour on. withUnits true: "2 h 05 min 09 s", without the units in
     // front that are zero: "5 min 09 s", "9 s". Negative seconds get a leading "-".

@@ -75,11 +75,15 @@ QStringList AccessibleSlide::actionNames() const {
 }
 
 void AccessibleSlide::doAction(const QString& name) {
-    if (!isValid()) return;
+    if (!isValid() || !widget_->isEnabled()) return;
     Vorlane& sheet = widget_->sheet();
     const int16_t slot = ToInt16(slot_);
     Attempt([&] {
-        if (name == toggleAction()) return sheet.SetSelected(slot, !sheet.Selected(slot));
+        if (name == toggleAction()) {
+            const bool selected = !sheet.Selected(slot);
+            if (selected && !sheet.SelectionMultiple()) sheet.SelectedClear();
+            return sheet.SetSelected(slot, selected);
+        }
         if (name == setFocusAction()) widget_->setFocus(Qt::OtherFocusReason);
         if (name != pressAction() && name != setFocusAction()) return;
         sheet.SelectedClear();

@@ -5,6 +5,8 @@
 #include "widgets/conversions.h"
 #include "widgets/timelinewidget.h"
 
+#include <limits>
+
 #include <QFileInfo>
 
 namespace vorlane {
@@ -83,7 +85,8 @@ QStringList AccessibleSound::actionNames() const {
 }
 
 void AccessibleSound::doAction(const QString& name) {
-    if (isValid() && name == pressAction()) widget_->MnuCtx_ItemClic(diapoKey_ + 1);
+    const bool known = diapoKey_ >= 0 && diapoKey_ < std::numeric_limits<int32_t>::max();  // others would be commands
+    if (isValid() && known && name == pressAction()) widget_->MnuCtx_ItemClic(diapoKey_ + 1);
 }
 
 }  // namespace vorlane

@@ -38,7 +38,7 @@ void FollowedThumb::Show(const QString& path, const Thumbnail& thumbnail) {
 }
 
 void FollowedThumb::ShowBroken(const QString& path) {
-    if (IsShown(path)) SharedFrmScroll(sheet_.Desktop()).Img().Clear();
+    if (IsShown(path)) Attempt([&] { SharedFrmScroll(sheet_.Desktop()).Img().Clear(); });
 }
 
 // The window is shared with those who enlarge a slide.

@@ -9,7 +9,6 @@
 #include <string>
 
 #include <QObject>
-#include <QPointer>
 #include <QTemporaryDir>
 
 namespace vorlane {
@@ -21,13 +20,15 @@ class FollowedThumb : public QObject {
     Q_OBJECT
 
 public:
-    // Both outlive this.
+    // The sheet outlives this; nothing is asked of it once the service has gone.
     FollowedThumb(Vorlane& sheet, ThumbnailService& service);
 
     // The file to show for the picture file under the thumb, in that size or a larger one, in pixels. Empty for one
     // that is known to be broken, or when no file can be written.
     std::string FileFor(const QString& path, int size, const QImage& tile);
 
+    // Something else is under the thumb.
+    void Forget() { awaited_.clear(); }
     // The file whose thumbnail is waited for; empty when there is none.
     const QString& Awaited() const { return awaited_; }
 

@@ -86,7 +86,8 @@ void ThumbnailProvider::Refuse(const std::string& name, bool& refused) const {
 }
 
 void ThumbnailProvider::Follow(const std::string& name, std::string& thumb) {
-    if (!service_ || !thumb.empty() || !IsPicture(name)) return;
+    if (!service_) return;
+    if (!thumb.empty() || !IsPicture(name)) return followed_->Forget();
     thumb = followed_->FileFor(Text(name), FollowedSize(), Tile());
 }
 

@@ -1,6 +1,6 @@
 // ThumbnailService: thumbnails of picture files for a host's user interface. It answers at once what it has at hand,
 // lets worker threads see to the rest, and tells when that is there. The thread that uses it never decodes anything
-// and never touches a file, but for an entry of the cache where it asks for that one's name.
+// and touches no file, but for the state of one and its entry in the cache where it asks for that one's name.
 //
 // What the user sees comes first: tell it by setWanted() after each scroll, which also drops what was asked for and not
 // begun. Thumbnails are kept in memory and in the user's thumbnail cache on disk; a file that changed since is noticed

@@ -91,7 +91,8 @@ bool VorlaneWidget::EndEdit(bool cancel, MsgBoxObject* msgBox) {
 
 void VorlaneWidget::RenameDiapo(int listIndex, const QString& oldName, const QString& newName, int diapoIndex) {
     Do("RenameDiapo", [&] { sheet_.RenameDiapo(listIndex, ToText(oldName), ToText(newName), ToInt16(diapoIndex)); });
-    AccessibleSheet::TellName(*this, ImageFullPath(listIndex));
+    if (listIndex >= 0 && listIndex < sheet_.Liste()->ListCount())
+        AccessibleSheet::TellName(*this, ImageFullPath(listIndex));
 }
 
 void VorlaneWidget::ConnectEdit() {

@@ -44,7 +44,8 @@ void ControlHost::ForgetHeld() {
 // Taking the entry asks for the moves to come, which say whether a drop would do anything.
 void ControlHost::dragEnterEvent(QDragEnterEvent* event) {
     if (!router_ || control_->OLEDropMode() == 0) return event->ignore();
-    dragged_ = std::make_shared<DataObject>(DataObjectFrom(*event->mimeData()));
+    const DataObject* own = desktop_.drags.Carried();
+    dragged_ = std::make_shared<DataObject>(own != nullptr ? *own : DataObjectFrom(*event->mimeData()));
     event->accept();
 }
 

@@ -85,7 +85,10 @@ QByteArray AddressOf(const std::string& path) {
 
 QByteArray UriList(const std::vector<std::string>& files) {
     QByteArray list;
-    for (const std::string& entry : files) list += AddressOf(ReadDraggedFile(entry).Path) + "\r\n";
+    for (const std::string& entry : files) {
+        const std::string path = ReadDraggedFile(entry).Path;
+        if (IsPath(path)) list += AddressOf(path) + "\r\n";
+    }
     return list;
 }
 
@@ -105,12 +108,11 @@ std::vector<std::string> FilesOfOwnForm(const QByteArray& list) {
     return files;
 }
 
-// A path with a bar in it says that it has no key, lest its end be taken for one.
 std::vector<std::string> FilesOfUriList(const QByteArray& list) {
     std::vector<std::string> files;
     ForEachLine(View(list), [&](std::string_view line) {
         const auto path = PathOfAddress(line);
-        if (path) files.push_back(ReadDraggedFile(*path).Path == *path ? *path : DraggedFileEntry(*path, -1));
+        if (path) files.push_back(DraggedFileEntry(*path));
         return true;
     });
     return files;

@@ -36,6 +36,7 @@ QPixmap Nothing() {
 
 struct QtDrags::Run {
     QPointer<QDrag> Drag;
+    const DataObject& Carried;
     int32_t Allowed;
     const DragFeedback& Feedback;
     int32_t Told = 0;
@@ -68,7 +69,7 @@ int32_t QtDrags::DoDrag(Hwnd window, DataObject& data, int32_t allowed, const Dr
     drag->setMimeData(MimeDataFrom(data).release());
     drag->setPixmap(Nothing());
     drag->setHotSpot({0, 0});
-    Run run{drag, allowed, feedback};
+    Run run{drag, data, allowed, feedback};
     run_ = &run;
     QObject ears;
     QObject::connect(widget.data(), &QObject::destroyed, &ears, &QDrag::cancel);
@@ -81,6 +82,10 @@ int32_t QtDrags::DoDrag(Hwnd window, DataObject& data, int32_t allowed, const Dr
     run_ = nullptr;
     if (auto* host = qobject_cast<ControlHost*>(widget.data())) host->ForgetHeld();
     return done == Qt::IgnoreAction ? 0 : run.Answered.value_or(EffectsOf(done)) & allowed;
+}
+
+const DataObject* QtDrags::Carried() const {
+    return Running() ? &run_->Carried : nullptr;
 }
 
 int32_t QtDrags::Possible(Qt::DropActions offered) const {

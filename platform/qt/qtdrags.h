@@ -20,6 +20,8 @@ public:
     // The drag ends with its window.
     int32_t DoDrag(Hwnd window, DataObject& data, int32_t allowed, const DragFeedback& feedback) override;
     bool Running() const { return run_ != nullptr; }
+    // What the drag that runs from here carries, as its source gave it: no other program's form holds all of it.
+    const DataObject* Carried() const;
 
     // --- For the widgets of the desktop over which a drag goes, from here or from elsewhere ---
     // What a drop may do. offered: what the drag's event says.

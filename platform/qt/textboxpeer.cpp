@@ -5,6 +5,7 @@
 #include "platform/qt/controlhost.h"
 
 #include <QKeyEvent>
+#include <QPointer>
 
 namespace vorlane {
 
@@ -80,8 +81,9 @@ void TextBoxPeer::focusInEvent(QFocusEvent* event) {
 
 void TextBoxPeer::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    host_.ReleaseKeys();
-    host_.Router().SetFocus(nullptr);
+    const QPointer<ControlHost> host = &host_;
+    host_.ReleaseKeys();  // tells a handler, which may end the host
+    if (host) host->Router().SetFocus(nullptr);
 }
 
 void TextBoxPeer::keyPressEvent(QKeyEvent* event) {

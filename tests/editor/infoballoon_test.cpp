@@ -165,6 +165,18 @@ protected:
     }
 };
 
+TEST_F(InfoBalloonTest, TellsOfAFileWithoutExtensionToo) {
+    pictures_.Write("a", Photo());
+    ASSERT_TRUE(Open(Folder()));
+    QString title;
+    QString text;
+    int icon = 0;
+    Q_EMIT window_->sheet().OnToolTipInfos(0, QString::fromStdString(Slide(0).ImageFullPath()), &title, &text, &icon);
+    EXPECT_EQ(title, "a");
+    EXPECT_EQ(icon, 1);
+    EXPECT_TRUE(text.contains("300 × 200 pixels")) << text.toStdString();
+}
+
 TEST_F(InfoBalloonTest, ShowsWhileTheInfoButtonOfASlideIsHeld) {
     pictures_.Write("a.jpg", Photo());
     ASSERT_TRUE(Open(Folder()));

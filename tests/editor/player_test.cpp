@@ -4,6 +4,8 @@
 #include "editor/showfile.h"
 #include "editor/showplayer.h"
 #include "editor/strip.h"
+#include "editor/stripmenu.h"
+#include "tests/editor/fakemicrophone.h"
 #include "tests/editor/windowfixture.h"
 #include "timeline/etimeline.h"
 
@@ -117,6 +119,23 @@ TEST_F(PlayerTest, APictureThatCannotBeShownIsNamedWithTheReasonAndThePlayGoesOn
     PressInPlayer(Qt::Key_Left);
     EXPECT_TRUE(Shows(Qt::red));
     EXPECT_TRUE(Texts().isEmpty());
+}
+
+TEST_F(PlayerTest, APlayEndsARecordingFirst) {
+    ASSERT_TRUE(OpenColors());
+    test::FakeMicrophone* microphone = nullptr;
+    window_->soundMenu().setMicrophone([&microphone] {
+        auto made = std::make_unique<test::FakeMicrophone>();
+        microphone = made.get();
+        return made;
+    });
+    QAction& record = Action("Enregistrer un commentaire");
+    record.trigger();
+    ASSERT_TRUE(record.isChecked());
+    EXPECT_TRUE(microphone->Hear(2));
+    window_->playFromStart();
+    EXPECT_FALSE(record.isChecked());
+    EXPECT_EQ(QDir(Folder()).entryList({"*.wav"}).size(), 1);
 }
 
 TEST_F(PlayerTest, TextsStandOneBelowTheOther) {

@@ -54,6 +54,19 @@ TEST_F(DragTest, FilesOfAFileListAreDraggedWithoutKeys) {
     EXPECT_THAT(files, ElementsAre(folder.WithSeparator() + "a.jpg"));
 }
 
+TEST_F(DragTest, AFileOfAFileListWhoseNameEndsLikeAKeyIsDraggedAsItIs) {
+    ShowDraggable(1);
+    RealFile("scan.jpg|12");
+    sheet->InitListe(ListeModeType::lmFileList, nullptr, folder.WithSeparator(), "*");
+    sheet->StartLecture();
+    DraggedFile file;
+    onStart = [&](DataObject& data, int32_t&) { file = ReadDraggedFile(data.Files().at(0)); };
+    Click(0);
+    DragSlide(0, {});
+    EXPECT_EQ(file.Path, folder.WithSeparator() + "scan.jpg|12");
+    EXPECT_EQ(file.Key, -1);
+}
+
 TEST_F(DragTest, AFailingHostIsReportedWithTheDragsName) {
     ShowDraggable(7);
     onStart = [](DataObject&, int32_t&) { throw std::runtime_error("host"); };

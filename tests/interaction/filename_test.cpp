@@ -31,7 +31,7 @@ TEST(FileNameTest, CharactersThatTheBoxRefusesAreRefusedInPastedTextToo) {
 }
 
 TEST(FileNameTest, NamesOfDevicesAreReserved) {
-    for (const char* name : {"con", "NUL", "Com1", "lpt9", "aux.old", "PRN.a.b"}) {
+    for (const char* name : {"con", "NUL", "Com1", "lpt9", "aux.old", "aux .old", "PRN.a.b"}) {
         EXPECT_FALSE(IsNameForFile(name)) << name;
     }
 }

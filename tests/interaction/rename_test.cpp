@@ -184,6 +184,18 @@ TEST_F(RenameTest, AFileWithoutExtensionIsRenamedLikeAnyOther) {
     EXPECT_EQ(sheet->Diapo.Item(3)->ImageFullPath(), Path("Ville."));
 }
 
+TEST_F(RenameTest, AFileWithoutExtensionMayGetAPoint) {
+    const std::string path = folder.File("Wagon");
+    desktop.pictures.Add(path, 60, 40);
+    sheet->Add(path, "", 600);
+    sheet->StartLecture();
+    Type("Ville.2024", 3);
+    Enter();
+    EXPECT_TRUE(Exists(Path("Ville.2024")));
+    EXPECT_EQ(sheet->ImageFullPath(3), Path("Ville.2024"));
+    EXPECT_EQ(sheet->Diapo.Item(3)->ImageFullPath(), Path("Ville.2024"));
+}
+
 TEST_F(RenameTest, ANameLeftUnchangedClosesTheBoxWithoutAnEvent) {
     Type("Zebre");
     Enter();

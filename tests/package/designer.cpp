@@ -1,6 +1,6 @@
-// designer PLUGINS: a program that knows nothing of the library but the folder of the installed plug-in: it loads a
-// form with the three controls, as programs do and designers in their previews. Whatever of the library it then has in
-// memory comes from the installed tree.
+// designer PLUGINS PREFIX: a program that knows nothing of the library but the folder of the installed plug-in: it
+// loads a form with the three controls, as programs do and designers in their previews. Whatever of the library it then
+// has in memory comes from the installed tree.
 #include <cstdio>
 #include <memory>
 

@@ -113,6 +113,23 @@ TEST_F(AccessibilityTest, TogglingASlideLeavesTheOthers) {
     EXPECT_TRUE(widget.Selected(0));
 }
 
+TEST_F(AccessibilityTest, WhereOneSlideAtMostIsSelectedTogglingASlideLeavesNoOther) {
+    widget.SetSelectionMultiple(false);
+    widget.SetSelected(0, true);
+    Do(Slide(2), QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(widget.CountSelected(), 1);
+    EXPECT_TRUE(widget.Selected(2));
+    Do(Slide(2), QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(widget.CountSelected(), 0);
+}
+
+TEST_F(AccessibilityTest, TheSlidesOfADisabledSheetDoNothing) {
+    widget.setEnabled(false);
+    Do(Slide(2), QAccessibleActionInterface::toggleAction());
+    Do(Slide(2), QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(widget.CountSelected(), 0);
+}
+
 TEST_F(AccessibilityTest, FocusingASlideMakesItCurrent) {
     widget.activateWindow();
     Do(Slide(3), QAccessibleActionInterface::setFocusAction());

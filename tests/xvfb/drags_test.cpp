@@ -102,6 +102,16 @@ TEST_F(DragUnderX, ASlideMovesToTheMarkInTheOpenedRow) {
     EXPECT_EQ(FilesInFolder().size(), 7);
 }
 
+// Other programs get no address of such a slide.
+TEST_F(DragUnderX, ASlideWithARelativePathMovesWithTheOthers) {
+    sheet->Add("nowhere/h.png", {}, 1007);
+    sheet->StartLecture();
+    for (const int slide : {1, 7}) sheet->SetSelected(slide, true);
+    EXPECT_TRUE(Dragging(1).GoTo(In(4, 0.2)).Until([&] { return MarkStandsBefore(4); }, "the mark").Release().Play());
+    EXPECT_TRUE(User::Until([&] { return done >= 0; }));
+    EXPECT_EQ(ItemsOf(*sheet), "a 1000, c 1002, d 1003, b 1001, h 1007, e 1004, f 1005, g 1006");
+}
+
 TEST_F(DragUnderX, ASlideMovesBehindTheLastOne) {
     EXPECT_TRUE(Dragging(1).GoTo(In(6, 0.8)).Until([&] { return MarkStandsBefore(7); }, "the mark").Release().Play());
     EXPECT_TRUE(User::Until([&] { return done >= 0; }));

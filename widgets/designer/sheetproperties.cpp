@@ -21,6 +21,7 @@ constexpr auto kSound = "Sons";
 // What the sheet has of its own, and what it names otherwise than its slides or means otherwise.
 const PropertyTable& Own() {
     static const PropertyTable table{
+        {"AliasComment", kSound, "Renvoie ou définit l'Alias utilisé pour la lecture du commentaire."},
         {"AliasMusic", kSound, "Renvoie ou définit l'Alias utilisé pour la lecture de la musique."},
         {"BackColor", kLook, "Renvoie ou définit la couleur du fond de la planche."},
         {"BackColorCurrent", kLook, "Renvoie ou définit la couleur du fond de la dernière diapo sélectionnée."},
