@@ -5,6 +5,7 @@
 #include "platform/font.h"
 #include "platform/geometry.h"
 #include "platform/picture.h"
+#include "platform/shortvector.h"
 
 #include <cstdint>
 #include <optional>
@@ -53,9 +54,11 @@ struct GRADIENT_RECT {  // indices of two vertices, the corners
     int32_t UpperLeft, LowerRight;
     bool operator==(const GRADIENT_RECT&) const = default;
 };
+using Vertices = ShortVector<TRIVERTEX, 4>;
+using GradientMesh = ShortVector<GRADIENT_RECT, 2>;
 struct GradientFill {
-    std::vector<TRIVERTEX> Vertices;
-    std::vector<GRADIENT_RECT> Rects;
+    draw::Vertices Vertices;
+    GradientMesh Rects;
     uint32_t Mode;  // 0 left to right, 1 top to bottom
     bool operator==(const GradientFill&) const = default;
 };

@@ -83,15 +83,14 @@ void Surface::TextOutA(int32_t x, int32_t y, std::string_view text) {
     Append(draw::TextOutA{x, y, std::string(text), foreColor_, font_});
 }
 
-void Surface::GradientFill(std::vector<draw::TRIVERTEX> vertices, std::vector<draw::GRADIENT_RECT> rects,
-                           uint32_t mode) {
+void Surface::GradientFill(const draw::Vertices& vertices, const draw::GradientMesh& rects, uint32_t mode) {
     if (mode > 1) throw failures::InvalidCall();
     const auto given = [&](const draw::GRADIENT_RECT& rect) {
         const auto [first, last] = std::minmax(rect.UpperLeft, rect.LowerRight);
         return first >= 0 && static_cast<size_t>(last) < vertices.size();
     };
     if (!std::all_of(rects.begin(), rects.end(), given)) throw failures::SubscriptOutOfRange();
-    Append(draw::GradientFill{std::move(vertices), std::move(rects), mode});
+    Append(draw::GradientFill{vertices, rects, mode});
 }
 
 void Surface::DrawEdge(const WinRect& rect, uint32_t edge, uint32_t flags) {

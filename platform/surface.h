@@ -60,7 +60,7 @@ public:
     void TextOutA(int32_t x, int32_t y, std::string_view text);
     // Fails with SubscriptOutOfRange() for a rectangle over a vertex that is not given, and with InvalidCall() for an
     // unknown mode.
-    void GradientFill(std::vector<draw::TRIVERTEX> vertices, std::vector<draw::GRADIENT_RECT> rects, uint32_t mode);
+    void GradientFill(const draw::Vertices& vertices, const draw::GradientMesh& rects, uint32_t mode);
     void DrawEdge(const WinRect& rect, uint32_t edge, uint32_t flags);
     // Outline in ForeColor, inside in FillColor when FillStyle is solid.
     void Polygon(std::vector<Point> points);

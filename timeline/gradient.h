@@ -6,7 +6,6 @@
 #include "platform/surface.h"
 
 #include <cstdint>
-#include <vector>
 
 namespace vorlane {
 
@@ -35,8 +34,8 @@ constexpr bool Mirrored(int32_t direction) {
 
 // The arguments of one GradientFill.
 struct Mesh {
-    std::vector<TRIVERTEX> Vertices;
-    std::vector<GRADIENT_RECT> Rects;
+    draw::Vertices Vertices;
+    draw::GradientMesh Rects;
     uint32_t Mode;
 };
 

@@ -15,8 +15,8 @@ void eTimeLine::GradientTrace(OLE_COLOR startColor, OLE_COLOR endColor, int32_t 
         const Rgb a = utilities_.ColorToRgb(from);
         const Rgb b = utilities_.ColorToRgb(inverse ? startColor : endColor);
         if (life_.OldSystem) return TraceLines(from, a, b, direction, right, bottom);
-        gradient::Mesh mesh = gradient::MeshOf(direction, a, b, x, y, right, bottom);
-        Surface().GradientFill(std::move(mesh.Vertices), std::move(mesh.Rects), mesh.Mode);
+        const gradient::Mesh mesh = gradient::MeshOf(direction, a, b, x, y, right, bottom);
+        Surface().GradientFill(mesh.Vertices, mesh.Rects, mesh.Mode);
     };
     // The log tells the edges in place of the sizes.
     Trap(pending_, trace, [&](const Failure& failure) {

@@ -88,6 +88,25 @@ TEST_F(SurfaceTest, PrintsEachRectangleOfAGradientByItsCorners) {
               "GradientFill down [0,0 0000/0000/0100 to 1,1 0000/0000/0000]\n");
 }
 
+TEST_F(SurfaceTest, AGradientKeepsAnyNumberOfCorners) {
+    surface.GradientFill({{0, 0, 0, 0, 0, 0},
+                          {1, 1, 0, 0, 0, 0},
+                          {2, 2, 0, 0, 0, 0},
+                          {3, 3, 0, 0, 0, 0},
+                          {4, 4, 0, 0, 0, 0},
+                          {5, 5, 0xFF00, 0, 0, 0}},
+                         {{0, 1}, {2, 3}, {4, 5}}, 0);
+    const std::vector<draw::Command> copy = surface.Commands();
+    const std::string drawn = Drawn();
+    EXPECT_EQ(drawn,
+              "GradientFill across [0,0 0000/0000/0000 to 1,1 0000/0000/0000]"
+              " [2,2 0000/0000/0000 to 3,3 0000/0000/0000] [4,4 0000/0000/0000 to 5,5 FF00/0000/0000]\n");
+    surface.Cls();
+    surface.GradientFill({{0, 0, 0, 0, 0, 0}, {1, 1, 0, 0, 0, 0}}, {{0, 1}}, 0);
+    EXPECT_FALSE(copy.at(0) == surface.Commands().at(0));
+    EXPECT_TRUE(std::vector<draw::Command>(copy) == copy);
+}
+
 TEST_F(SurfaceTest, RefusesAGradientOverAMissingVertexOrOfAnUnknownMode) {
     EXPECT_FAILURE(surface.GradientFill({{}, {}}, {{0, 2}}, 0), SubscriptOutOfRange());
     EXPECT_FAILURE(surface.GradientFill({}, {{0, 0}}, 0), SubscriptOutOfRange());
