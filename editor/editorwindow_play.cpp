@@ -3,6 +3,7 @@
 #include "editor/navigator.h"
 #include "editor/showplayer.h"
 #include "editor/strip.h"
+#include "editor/stripmenu.h"
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
