@@ -9,7 +9,9 @@ namespace {
 constexpr float kMargin = 2;  // pixels that a command may touch beyond its corners
 // By the points of a text's font:
 constexpr float kLargest = 4;  // height of a line of text, and width of one of its letters
-constexpr float kBeyond = 1;   // what letters may reach over the text's left and top
+constexpr float kFigure = 2;   // width of a figure or a sign of a time, which every font has narrow
+constexpr float kUnmeasured = std::numeric_limits<float>::infinity();  // width of any other letter
+constexpr float kBeyond = 1;  // what letters may reach over the text's left and top
 
 float Single(int32_t value) {
     return static_cast<float>(value);
@@ -28,6 +30,11 @@ Extent At(int32_t x, int32_t y) {
     return Corners(Single(x), Single(y), Single(x), Single(y));
 }
 
+float WidthOf(char letter) {
+    if (letter >= '-' && letter <= ':') return kFigure;
+    return letter >= ' ' && letter <= '~' ? kLargest : kUnmeasured;
+}
+
 struct Measure {
     Extent operator()(const Line& line) const { return Corners(line.X1, line.Y1, line.X2, line.Y2); }
     Extent operator()(const OutlinedBox& box) const { return Corners(box.X1, box.Y1, box.X2, box.Y2); }
@@ -35,13 +42,11 @@ struct Measure {
     // How wide other letters are is not known without measuring them.
     Extent operator()(const TextOutA& text) const {
         const float points = std::max(text.Font.Size, 1.0F);
-        const bool plain =
-            std::all_of(text.Text.begin(), text.Text.end(), [](char letter) { return letter >= ' ' && letter <= '~'; });
-        const auto letters = static_cast<float>(text.Text.size());
-        Extent extent = Corners(Single(text.X) - kBeyond * points, Single(text.Y) - kBeyond * points,
-                                Single(text.X) + kLargest * letters * points, Single(text.Y) + kLargest * points);
-        if (!plain) extent.Right = std::numeric_limits<float>::max();
-        return extent;
+        float width = 0;
+        for (const char letter : text.Text) width += WidthOf(letter);
+        return Corners(Single(text.X) - kBeyond * points, Single(text.Y) - kBeyond * points,
+                       std::min(Single(text.X) + width * points, std::numeric_limits<float>::max()),
+                       Single(text.Y) + kLargest * points);
     }
     Extent operator()(const GradientFill& fill) const {
         Extent extent;

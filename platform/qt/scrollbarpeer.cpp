@@ -9,6 +9,8 @@
 
 #include <QHideEvent>
 #include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionSlider>
 #include <QWheelEvent>
 
 namespace vorlane {
@@ -16,6 +18,8 @@ namespace vorlane {
 namespace {
 
 using MouseEvent = Event<int16_t, int16_t, float, float>;
+
+constexpr int kShadow = 8;  // pixels around the thumb
 
 constexpr Qt::MouseButton kButtons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
 
@@ -94,6 +98,36 @@ void ScrollBarPeer::hideEvent(QHideEvent* event) {
     for (const Qt::MouseButton button : kButtons) {
         if (held.testFlag(button)) Attempt([&] { model_.Input.MouseUp(ButtonOf(button), 0, 0, 0); });
     }
+}
+
+// --- Painting ---
+
+void ScrollBarPeer::paintEvent(QPaintEvent* event) {
+    painted_ = sliderPosition();
+    QScrollBar::paintEvent(event);
+}
+
+// A step through a long list hardly moves the thumb, and styles take their time to draw a bar: only where the thumb was
+// and is, is it drawn anew. At an end of the range a style may draw its arrows otherwise.
+void ScrollBarPeer::sliderChange(SliderChange change) {
+    const auto atEnd = [this](int position) { return position <= minimum() || position >= maximum(); };
+    if (change != SliderValueChange || atEnd(painted_) || atEnd(sliderPosition())) {
+        return QScrollBar::sliderChange(change);
+    }
+    const QRect before = ThumbAt(painted_);
+    const QRect now = ThumbAt(sliderPosition());
+    if (before != now) update(before | now);
+}
+
+// With what its shadow may touch.
+QRect ScrollBarPeer::ThumbAt(int position) const {
+    QStyleOptionSlider bar;
+    initStyleOption(&bar);
+    bar.sliderPosition = position;
+    bar.sliderValue = position;
+    const QRect thumb = style()->subControlRect(QStyle::CC_ScrollBar, &bar, QStyle::SC_ScrollBarSlider, this);
+    return orientation() == Qt::Vertical ? QRect(0, thumb.top() - kShadow, width(), thumb.height() + 2 * kShadow)
+                                         : QRect(thumb.left() - kShadow, 0, thumb.width() + 2 * kShadow, height());
 }
 
 // One road for every turn of the wheel over the control.

@@ -20,17 +20,21 @@ protected:
     void hideEvent(QHideEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void sliderChange(SliderChange change) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
     void Follow();
     void DragThumb();
+    QRect ThumbAt(int position) const;
 
     ScrollbarPlus& model_;
     ScopedConnection changed_;
     bool following_ = false;
     Qt::MouseButtons held_;  // those that went down on the bar and are not up again
     bool dragged_ = false;   // the user has moved the thumb and not let go of it
+    int painted_ = 0;        // where the thumb was painted
 };
 
 }  // namespace vorlane

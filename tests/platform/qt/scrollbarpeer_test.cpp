@@ -4,9 +4,12 @@
 #include "tests/platform/qt/board.h"
 
 #include <gtest/gtest.h>
+#include <random>
 #include <string>
 #include <utility>
 
+#include <QPaintEvent>
+#include <QScreen>
 #include <QWheelEvent>
 
 namespace vorlane {
@@ -190,6 +193,81 @@ TEST_F(ScrollBarPeerTest, AllButtonsThatAreHeldAreLetGoWithTheBar) {
     Heard();
     board.bar.SetVisible(false);
     EXPECT_EQ(Heard(), "up 1;up 2;");
+}
+
+// --- Painting ---
+
+// Hears what a widget paints.
+class PaintWatch : public QObject {
+public:
+    explicit PaintWatch(QWidget& widget) {
+        QCoreApplication::processEvents();
+        widget.installEventFilter(this);
+    }
+    QRegion Painted() {
+        QCoreApplication::processEvents();
+        return std::exchange(painted_, {});
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) painted_ += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+
+private:
+    QRegion painted_;
+};
+
+TEST_F(ScrollBarPeerTest, AStepThatDoesNotMoveTheThumbPaintsNothing) {
+    board.bar.SetMax(1'000'000);
+    board.bar.SetValue(500'000);
+    PaintWatch watch(Peer());
+    board.bar.SetValue(500'010);
+    EXPECT_TRUE(watch.Painted().isEmpty());
+    board.bar.SetValue(700'000);
+    EXPECT_FALSE(watch.Painted().isEmpty());
+}
+
+TEST_F(ScrollBarPeerTest, AStepPaintsAroundTheThumbAlone) {
+    host.resize(200, 600);
+    board.bar.SetValue(400);
+    PaintWatch watch(Peer());
+    board.bar.SetValue(410);
+    const QRegion painted = watch.Painted();
+    EXPECT_TRUE(painted.contains(Middle(QStyle::SC_ScrollBarSlider)));
+    EXPECT_FALSE(painted.intersects(test::PartOf(Peer(), QStyle::SC_ScrollBarAddLine)));
+    EXPECT_FALSE(painted.intersects(test::PartOf(Peer(), QStyle::SC_ScrollBarSubLine)));
+}
+
+// Steps, drags, sizes and ranges in a fixed disorder: what has come to stand in the window is what a whole paint gives.
+TEST_F(ScrollBarPeerTest, ThePaintedPartsMakeTheWholeBar) {
+    host.resize(60, 300);
+    std::minstd_rand random(7);
+    const auto below = [&](unsigned limit) { return static_cast<int32_t>(random() % limit); };
+    for (int step = 0; step < 150; ++step) {
+        switch (below(8)) {
+            case 0:
+                board.bar.SetMax(200 + below(3000));
+                break;
+            case 1:
+                host.resize(60, 200 + below(200));
+                break;
+            case 2:
+                hand.PressThumb();
+                hand.Move({0, below(60) - 30});
+                if (below(2) == 0) QCoreApplication::processEvents();
+                hand.Release();
+                break;
+            default:
+                board.bar.SetValue(below(2) == 0 ? below(3000) : board.bar.Value() + 10);
+        }
+        if (below(3) == 0) continue;
+        QCoreApplication::processEvents();
+        const QImage shown = host.screen()->grabWindow(host.winId()).toImage().convertToFormat(QImage::Format_RGB32);
+        ASSERT_EQ(shown.copy(Peer().geometry()), Peer().grab().toImage().convertToFormat(QImage::Format_RGB32))
+            << "after step " << step;
+    }
 }
 
 }  // namespace
