@@ -101,6 +101,7 @@ void Vorlane::ConnectDropsOn(Control& ground) {
 void Vorlane::SlideStartDrag(int16_t index, DataObject& data, int32_t& effects) {
     const auto start = [&] {
         drag_.Origin = Trelmic6(Desktop()).CursorPos();
+        drag_.Own = true;
         drag_.Moved = false;
         data.Clear();
         PutSelectionInto(data);
@@ -207,6 +208,7 @@ void Vorlane::OleResetDrag() {
 // Items that were moved inside the sheet stay selected; any other end of a drag leaves nothing selected.
 void Vorlane::SlideCompleteDrag(int32_t& effect) {
     const bool moved = std::exchange(drag_.Moved, false);
+    drag_.Own = false;
     moved ? EndDrag() : OleResetDrag();
     if (effect != 0) selection_.CurrentSlot = -1;
     if (!internalDrag_) Events.OLECompleteDrag(effect);

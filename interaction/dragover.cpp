@@ -83,7 +83,7 @@ void Vorlane::DragOverGround(const DragEvent& drag) {
         if (EscapesDrag()) return;
         if (drag.State == sheet::kDragLeave) return LeaveGround(drag);
         const bool asks = drag.State == sheet::kDragEnter && !internalDrag_;
-        if (asks) drag_.Cancel = false;
+        if (asks && !drag_.Own) drag_.Cancel = false;
         if (!HasPlaceFor(drag)) return;
         if (asks) AskForForeignDrag(drag);
         if (drag.State == sheet::kDragOver && StepForeignDrag()) OpenUnder(drag);
@@ -92,7 +92,8 @@ void Vorlane::DragOverGround(const DragEvent& drag) {
 }
 
 void Vorlane::AskForForeignDrag(const DragEvent& drag) {
-    Events.OLEBeforeStartDrag(CountObject(&drag.Data), drag_.DisplayText, drag_.Cancel);
+    if (drag_.Counted < 0) drag_.Counted = CountObject(&drag.Data);
+    Events.OLEBeforeStartDrag(drag_.Counted, drag_.DisplayText, drag_.Cancel);
     if (drag_.Cancel) drag.Effect = 0;
 }
 
@@ -121,7 +122,7 @@ void Vorlane::LeaveGround(const DragEvent& drag) {
     if (inside && drag.X >= 0) return;
     CloseRow();
     drag_.DropSlot = 0;
-    if (internalDrag_) return;
+    if (drag_.Own) return;
     drag_.Cancel = false;
     drag_.DisplayText.clear();
 }

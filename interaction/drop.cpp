@@ -69,16 +69,20 @@ void Vorlane::TakeDrop(const DragEvent& drop) {
         if (!own) RaiseDrop(drop);
         return;
     }
-    ListBox* list = Bound().AsListBox();
-    if (list == nullptr) return Events.OLEDragError();
+    if (Bound().AsListBox() == nullptr) return Events.OLEDragError();
+    const int32_t place = DropPlace();  // before the host is told: it may scroll then
     const bool offersFiles = drop.Data.GetFormat(kFormatFiles);
     if (offersFiles || drop.Data.GetFormat(kFormatText)) {
         bool cancel = false;
         const int32_t offered = offersFiles ? ToInt32(drop.Data.Files().size()) : DroppedLines(drop.Data.Text());
         Events.OLEBeforeDropStart(offered, cancel);
         if (cancel) return;
+        ListBox* list = Bound().AsListBox();
+        if (list == nullptr) return Events.OLEDragError();
         const bool moves = own && offersFiles && sort_.SortedSens == SortSensType::ssNone;
-        const int32_t added = moves ? MoveFiles(*list, FilesOf(drop.Data)) : AddFiles(*list, FilesOf(drop.Data));
+        const std::vector<DraggedFile> files = FilesOf(drop.Data);
+        const int32_t within = std::min(place, list->ListCount());
+        const int32_t added = moves ? MoveFiles(*list, files, within) : AddFiles(*list, files, within);
         if (!own) Events.AfterDropAdd(added);
     } else if (!own) {
         Events.AfterDropAdd(0);
@@ -93,10 +97,9 @@ void Vorlane::TakeDrop(const DragEvent& drop) {
 
 // The selected items go to the mark, with their keys, and stay selected. All of them come back, whatever has become of
 // their files, and also where a handler fails meanwhile; that failure is the drop's in the end.
-int32_t Vorlane::MoveFiles(ListBox& list, const std::vector<DraggedFile>& files) {
+int32_t Vorlane::MoveFiles(ListBox& list, const std::vector<DraggedFile>& files, int32_t place) {
     const std::vector<int32_t> items = SelectedTableau();
     const std::vector<std::string> texts = MovedTexts(list, items, files);
-    const int32_t place = DropPlace();
     const int32_t top = First().Value();
     const auto before = [&](int32_t index) {
         return static_cast<int32_t>(std::lower_bound(items.begin(), items.end(), index) - items.begin());
@@ -158,9 +161,9 @@ void Vorlane::ShowMoved(int32_t movedAbove) {
 
 // --- Files from outside ---
 
-int32_t Vorlane::AddFiles(ListBox& list, const std::vector<DraggedFile>& files) {
+int32_t Vorlane::AddFiles(ListBox& list, const std::vector<DraggedFile>& files, int32_t place) {
     const bool sorts = sort_.SortedSens != SortSensType::ssNone;
-    int32_t place = sorts ? -1 : DropPlace();
+    if (sorts) place = -1;
     const int32_t before = list.ListCount();
     int32_t added = 0;
     std::exception_ptr failed;

@@ -107,6 +107,7 @@ void Vorlane::DragRestoreLig(int16_t row) {
 // row's by now.
 void Vorlane::CloseRow() {
     ++drag_.Ends;
+    drag_.Counted = -1;
     ImgDrag.SetVisible(false);
     DragRestoreLig(drag_.OpenRow);
     ForEachSlide([](eDiapoLight& slide) {

@@ -107,9 +107,11 @@ struct Drag {
     int16_t DropSlot = 0;        // the slide in front of which items go
     bool DropRightPart = false;  // they go behind it instead
     std::string DisplayText;     // what the mark says, as the host wants it
+    bool Own = false;            // it has started on a slide here
     bool Cancel = false;         // the host keeps the drag off the sheet
     bool BusyShifting = false;   // a row is opening
     bool Moved = false;          // the drag from here has moved its items
+    int32_t Counted = -1;        // how many files it brings from outside; -1 until that is asked for
     uint32_t Ends = 0;           // how many drags have ended: tells whoever let the message loop run
 };
 

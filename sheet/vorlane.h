@@ -175,7 +175,8 @@ public:
     // How many files data brings: those that are there, and those of the folders. nullptr brings none.
     int32_t CountObject(const DataObject* data);
     // During a drag over the sheet, and in OLEBeforeDropStart: the list index in front of which a drop puts items, the
-    // number of items for the end. A sort puts them where they belong.
+    // number of items for the end. A sort puts them where they belong. What a handler of that event scrolls or changes
+    // moves the place of that drop no more.
     int32_t DropPlace() const;
 
     // --- Sounds ---
@@ -649,13 +650,13 @@ private:
     void DropOnSlide(const sheet::DragEvent& drop);
     void RaiseDrop(const sheet::DragEvent& drop);
     void TakeDrop(const sheet::DragEvent& drop);
-    int32_t MoveFiles(ListBox& list, const std::vector<DraggedFile>& files);
+    int32_t MoveFiles(ListBox& list, const std::vector<DraggedFile>& files, int32_t place);
     std::vector<std::string> MovedTexts(const ListBox& list, const std::vector<int32_t>& items,
                                         const std::vector<DraggedFile>& files) const;
     std::string TextOf(const DraggedFile& file) const;
     void PutItem(ListBox& list, const std::string& text, int32_t key, int32_t index);
     void ShowMoved(int32_t movedAbove);
-    int32_t AddFiles(ListBox& list, const std::vector<DraggedFile>& files);
+    int32_t AddFiles(ListBox& list, const std::vector<DraggedFile>& files, int32_t place);
     int32_t AddFile(ListBox& list, DraggedFile file, int32_t place);
     void ShowDropped();
     void ShowSorted();

@@ -92,6 +92,32 @@ TEST_F(DragTest, ADragThatTheHostCancelsShowsNothingOnTheSheet) {
     EXPECT_EQ(desktop.trace.Text({"form"}), "");
 }
 
+TEST_F(DragTest, ACancelledDragStaysCancelledWhereDropsAreTheHostsToo) {
+    ShowDraggable(7);
+    sheet->SetOLEDropMode(1);
+    int32_t asked = 0;
+    onBeforeStart = [&](std::string&, bool& cancel) {
+        cancel = true;
+        ++asked;
+    };
+    DragSlide(1, [&](UserDrag& drag) {
+        drag.Over(window, kGroundX, kGroundY);
+        EXPECT_EQ(drag.Effect(), 0);
+        drag.Over(window, -20, 40);
+        Over(drag, 4, 0.2F);
+        EXPECT_EQ(drag.Effect(), 0) << "it comes back over a slide";
+        drag.Over(window, -20, 40);
+        drag.Over(window, kGroundX, kGroundY);
+        EXPECT_EQ(drag.Effect(), 0) << "it comes back over the ground";
+        EXPECT_EQ(Mark(), "hidden");
+        drag.Drop(window, -20, 40);
+    });
+    EXPECT_EQ(asked, 1);
+    UserDrag next(desktop, Files({RealFile("x.jpg")}));
+    Over(next, 4, 0.2F);
+    EXPECT_EQ(next.Effect(), 1);
+}
+
 TEST_F(DragTest, WithASortInForceAnOwnDragShowsTheNoDropEffectAndOpensNoRow) {
     ShowDraggable(7);
     sheet->SetSortedSens(SortSensType::ssAscending);

@@ -119,6 +119,24 @@ TEST_F(DragTest, WithASortInForceADragFromOutsideIsTakenWithoutAnyMark) {
     EXPECT_EQ(Lefts(0, 5), "5 111 217 5 111 217");
 }
 
+TEST_F(DragTest, TheFilesOfADragFromOutsideAreCountedOnceWhileItStaysOverTheSheet) {
+    ShowDraggable(7);
+    std::filesystem::create_directories(folder.WithSeparator() + "album");
+    RealFile("album/a.jpg");
+    UserDrag drag(desktop, Files({folder.WithSeparator() + "album"}));
+    const auto enter = [&] {
+        Over(drag, 1, 0.2F);
+        Told();
+        drag.Over(window, kGroundX, kGroundY);
+        return Told();
+    };
+    EXPECT_THAT(enter(), HasSubstr("BeforeStartDrag 1\n"));
+    RealFile("album/b.jpg");
+    EXPECT_THAT(enter(), HasSubstr("BeforeStartDrag 1\n")) << "it has not left";
+    drag.Over(window, -20, 40);
+    EXPECT_THAT(enter(), HasSubstr("BeforeStartDrag 2\n"));
+}
+
 // --- Files ---
 
 TEST_F(DragTest, FilesFromOutsideGoInAtTheMarkOneAfterTheOther) {
