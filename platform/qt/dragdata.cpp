@@ -10,6 +10,7 @@
 #include <vector>
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QMimeData>
 #include <QString>
 #include <QSysInfo>
@@ -52,14 +53,17 @@ bool IsPath(std::string_view text) {
     return text.starts_with('/') && std::none_of(text.begin(), text.end(), control);
 }
 
+// In an address the case of a scheme and of a host does not count.
+bool SameWord(std::string_view one, std::string_view other) {
+    return QByteArrayView(one).compare(QByteArrayView(other), Qt::CaseInsensitive) == 0;
+}
+
 bool IsThisHost(std::string_view host) {
-    return host.empty() || host == "localhost" || host == QSysInfo::machineHostName().toStdString();
+    return host.empty() || SameWord(host, "localhost") || SameWord(host, View(QSysInfo::machineHostName().toUtf8()));
 }
 
 bool HasFileScheme(std::string_view text) {
-    const auto lower = [](char letter) { return letter >= 'A' && letter <= 'Z' ? letter + ('a' - 'A') : letter; };
-    return text.size() >= kScheme.size() &&
-           std::equal(kScheme.begin(), kScheme.end(), text.begin(), [&](char a, char b) { return a == lower(b); });
+    return SameWord(text.substr(0, kScheme.size()), kScheme);
 }
 
 // The path of a file address; nothing for any other. A query and a fragment are no part of a path.

@@ -1,8 +1,13 @@
 #include "platform/qt/dragdata.h"
 
+#include "platform/draggedfile.h"
+
+#include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <random>
 #include <string>
+#include <vector>
 
 #include <QMimeData>
 #include <QSysInfo>
@@ -45,6 +50,37 @@ TEST(DragDataTest, AnotherSheetGetsTheFilesWithTheirKeys) {
     const DataObject back = DataObjectFrom(*MimeDataFrom(data));
     EXPECT_EQ(back.Files(), data.Files());
     EXPECT_FALSE(back.GetFormat(kFormatText));
+}
+
+// Paths made of what means something on one of the ways, in any order, with keys and without.
+TEST(DragDataTest, WhatGoesOutComesBackWholeByEachWay) {
+    constexpr std::array kPieces{" ",     "|",   "|12",      "|-",           "%",    "%20",      "%zz", "#",    "?",
+                                 "&",     "+",   "\\",       "\"",           "'",    ":",        "//",  "/",    ".",
+                                 "file:", "a",   "\xC3\xA9", "\xE6\x97\xA5", "\xFF", "\xC2\xA0", "\n",  "\r\n", "\t",
+                                 "\x7F",  ".jpg"};
+    std::mt19937 random(7);
+    const auto below = [&](size_t end) { return std::uniform_int_distribution<size_t>(0, end - 1)(random); };
+    for (int run = 0; run < 3000; ++run) {
+        std::vector<std::string> sent;
+        std::vector<std::string> withKeys;
+        std::vector<DraggedFile> withoutKeys;
+        for (size_t count = 1 + below(4); count > 0; --count) {
+            std::string path = "/";
+            for (size_t pieces = 1 + below(6); pieces > 0; --pieces) path += kPieces.at(below(kPieces.size()));
+            const auto key = static_cast<int32_t>(below(2000)) - 1000;
+            sent.push_back(below(2) == 0 ? DraggedFileEntry(path) : DraggedFileEntry(path, key));
+            if (path.find_first_of("\n\r\t\x7F") != std::string::npos) continue;  // no program is given these
+            withKeys.push_back(sent.back());
+            withoutKeys.push_back({path, -1});
+        }
+        DataObject data;
+        data.SetFiles(sent);
+        const auto mime = MimeDataFrom(data);
+        ASSERT_EQ(DataObjectFrom(*mime).Files(), withKeys);
+        std::vector<DraggedFile> back;
+        for (const std::string& entry : FilesOf(mime->data("text/uri-list"))) back.push_back(ReadDraggedFile(entry));
+        ASSERT_EQ(back, withoutKeys);
+    }
 }
 
 TEST(DragDataTest, ATextGoesOutAsText) {
@@ -124,6 +160,14 @@ TEST(DragDataTest, TheOwnFormIsNotTrustedEither) {
 TEST(DragDataTest, PathsAndAddressesOfAPlainTextComeInOneALine) {
     EXPECT_EQ(TextOf(QStringLiteral("/p/a.jpg\nfile:///p/b%20c.jpg\r\n/p/été.jpg")),
               "/p/a.jpg\r\n/p/b c.jpg\r\n/p/\xC3\xA9t\xC3\xA9.jpg");
+}
+
+// Of a list of addresses Qt makes the hosts small itself.
+TEST(DragDataTest, TheCaseOfAHostsNameDoesNotCount) {
+    const QString here = QSysInfo::machineHostName();
+    EXPECT_EQ(TextOf("file://LocalHost/p/a.jpg\nfile://" + here.toUpper() + "/p/b.jpg\nFile://" + here.toLower() +
+                     "/p/C.jpg"),
+              "/p/a.jpg\r\n/p/b.jpg\r\n/p/C.jpg");
 }
 
 TEST(DragDataTest, AnEmptyLineEndsAText) {
