@@ -101,6 +101,24 @@ TEST_F(BandTest, ABandIsDrawnInFrontFromItsAnchorInBothDirections) {
     LetGo(100, 70);
 }
 
+TEST_F(BandTest, AMoveOfTheBandDamagesItsEdgesAndTheSlidesThatChangeAlone) {
+    Show(40);
+    Sweep(50, 50);
+    std::vector<Box> damaged;
+    const ScopedConnection listens = sheet->Damaged.connect([&](const Box& part) { damaged.push_back(part); });
+    window.MouseTo(60, 50);
+    const std::vector<Box> edges{{2, 2, 48, 1}, {2, 49, 48, 1}, {2, 2, 1, 48}, {49, 2, 1, 48},
+                                 {2, 2, 58, 1}, {2, 49, 58, 1}, {2, 2, 1, 48}, {59, 2, 1, 48}};
+    EXPECT_EQ(damaged, edges);
+    damaged.clear();
+    window.MouseTo(150, 50);
+    damaged.erase(damaged.begin(), damaged.begin() + 8);
+    const Box turned = sheet->Diapo.Item(1)->Bounds();
+    EXPECT_FALSE(damaged.empty());
+    for (const Box& part : damaged) EXPECT_EQ(part, turned);
+    LetGo(150, 50);
+}
+
 TEST_F(BandTest, TheGroundsEventsComeInOrder) {
     Show(40);
     Sweep(50, 50);

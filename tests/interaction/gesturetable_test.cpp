@@ -18,9 +18,10 @@ namespace vorlane {
 namespace {
 
 enum class Mode : uint8_t {
-    Many,   // many slides may be selected
-    One,    // one only
-    Drags,  // many, and slides can be dragged
+    Many,      // many slides may be selected
+    One,       // one only
+    Drags,     // many, and slides can be dragged
+    DragsOne,  // one only, that can be dragged
 };
 
 struct Gesture {
@@ -39,8 +40,8 @@ class GestureTable : public GestureTest, public ::testing::WithParamInterface<Ge
 protected:
     void Start(Mode mode) {
         Show(40);
-        sheet->SetSelectionMultiple(mode != Mode::One);
-        sheet->SetOLEDragMode(mode == Mode::Drags ? 1 : 0);
+        sheet->SetSelectionMultiple(mode == Mode::Many || mode == Mode::Drags);
+        sheet->SetOLEDragMode(mode == Mode::Drags || mode == Mode::DragsOne ? 1 : 0);
         Listen();
     }
 
@@ -223,6 +224,80 @@ constexpr Gesture kGestures[] = {
      "down4=4* up4 click4 down6=46* up6 click6 down4=6 enter4 move2 up2", "......s.."},
     {"TheRightButtonDragsNothing", Mode::Drags, "4 r4>6", "down4=4* up4 click4 downr4 enter4 move6 upr6", "....C...."},
     {"TheMiddleButtonDragsNothing", Mode::Drags, "m4>6", "downm4=4* enter4 move6 upm6", "....C...."},
+    {"CtrlTakesAwayTheOnlyOne", Mode::Many, "4 ^4", "down4=4* up4 click4 down4= up4 click4", "........."},
+    {"ShiftStartsAtWhatCtrlHasTakenAway", Mode::Many, "4 ^4 +7",
+     "down4=4* up4 click4 down4= up4 click4 down7=4567* up7 click7", "....sssC."},
+    {"ShiftStartsAtTheLastToggle", Mode::Many, "0 ^8 +6",
+     "down0=0* up0 click0 down8=08* up8 click8 down6=06*78 up6 click6", "s.....Css"},
+    {"ShiftStartsAtARightClickToo", Mode::Many, "4 r6 +7",
+     "down4=4* up4 click4 downr6=6* upr6 clickr6 down7=67* up7 click7", "......sC."},
+    {"ARightClickWithCtrlTakesAway", Mode::Many, "4 ^6 ^r6",
+     "down4=4* up4 click4 down6=46* up6 click6 downr6=4 upr6 clickr6", "....s...."},
+    {"ARightClickWithShiftOnASelectedSlideSelectsARange", Mode::Many, "4 ^6 +r4",
+     "down4=4* up4 click4 down6=46* up6 click6 downr4=4*56 upr4 clickr4", "....Css.."},
+    {"ARightPullIsNoClick", Mode::Many, "r4>6", "downr4=4* enter4 move6 upr6", "....C...."},
+    {"AMiddleClickWithCtrlAdds", Mode::Many, "4 ^m6", "down4=4* up4 click4 downm6=46* upm6 clickm6", "....s.C.."},
+    {"AMiddleClickWithShiftSelectsARange", Mode::Many, "4 +m7", "down4=4* up4 click4 downm7=4567* upm7 clickm7",
+     "....sssC."},
+    {"AMiddleClickOnTheCurrentOneOfManyLeavesNone", Mode::Many, "4 ^6 m6",
+     "down4=4* up4 click4 down6=46* up6 click6 downm6=4 cleared1/1= upm6 clickm6", "........."},
+    {"AMiddleClickOnAnotherOneOfManyLeavesNone", Mode::Many, "4 ^6 m4",
+     "down4=4* up4 click4 down6=46* up6 click6 downm4=6 cleared1/1= upm4 clickm4", "........."},
+    {"ADoubleMiddleClickSelectsOnce", Mode::Many, "md4", "downm4=4* upm4 clickm4 doublem4 upm4", "....C...."},
+    {"ADoubleClickWithShiftSelectsARangeOnce", Mode::Many, "+d3", "down3=0123* up3 click3 double3 up3", "sssC....."},
+    {"ADoubleClickOnOneOfManyKeepsThem", Mode::Many, "4 ^6 d4",
+     "down4=4* up4 click4 down6=46* up6 click6 down4=4*6 up4 click4 double4 up4", "....C.s.."},
+    {"ADoubleRightClickOnTheGround", Mode::Many, "4 rdb", "down4=4* up4 click4 downrb uprb clickrb doublerb uprb",
+     "....C...."},
+    {"TheGroundWithCtrlAndShiftTakesNothing", Mode::Many, "4 ^6 ^+b",
+     "down4=4* up4 click4 down6=46* up6 click6 downb upb clickb", "....s.C.."},
+    {"TheGroundUnderTheMiddleButtonTakesNothing", Mode::Many, "4 ^6 mb",
+     "down4=4* up4 click4 down6=46* up6 click6 downmb upmb clickmb", "....s.C.."},
+    {"TheGroundUnderTheRightButtonWithCtrlTakesNothing", Mode::Many, "4 ^6 ^rb",
+     "down4=4* up4 click4 down6=46* up6 click6 downrb uprb clickrb", "....s.C.."},
+    {"APullWithCtrlTakesAwayAtThePress", Mode::Many, "4 ^2 ^4>6",
+     "down4=4* up4 click4 down2=2*4 up2 click2 down4=2 enter4 move6 up6", "..s......"},
+    {"ABandWithCtrlAndShiftTurnsWhatItTouches", Mode::Many, "0 ^6 ^+b>1",
+     "down0=0* up0 click0 down6=06* up6 click6 downb move1=16* up1", ".s....C.."},
+    {"OneOnlyCtrlAndShiftIsCtrl", Mode::One, "4 ^+4", "down4=4* up4 click4 down4= up4 click4", "........."},
+    {"OneOnlyARightClickOnTheSelectedSlideChangesNothing", Mode::One, "4 r4", "down4=4* up4 click4 downr4 upr4 clickr4",
+     "....C...."},
+    {"OneOnlyARightClickWithCtrlMovesTheSelection", Mode::One, "4 ^r6", "down4=4* up4 click4 downr6=6* upr6 clickr6",
+     "......C.."},
+    {"OneOnlyARightClickWithCtrlTakesAway", Mode::One, "4 ^r4", "down4=4* up4 click4 downr4= upr4 clickr4",
+     "........."},
+    {"OneOnlyARightClickWithShiftIsAPlainOne", Mode::One, "4 +r6 +r6",
+     "down4=4* up4 click4 downr6=6* upr6 clickr6 downr6 upr6 clickr6", "......C.."},
+    {"OneOnlyAMiddleClickWithCtrlTakesAway", Mode::One, "4 ^m4", "down4=4* up4 click4 downm4= upm4 clickm4",
+     "........."},
+    {"OneOnlyAMiddleClickElsewhereMovesTheSelection", Mode::One, "4 m6", "down4=4* up4 click4 downm6=6* upm6 clickm6",
+     "......C.."},
+    {"OneOnlyADoubleClickWithCtrlSelectsOnce", Mode::One, "^d4", "down4=4* up4 click4 double4 up4", "....C...."},
+    {"OneOnlyTheGroundWithCtrlTakesNothing", Mode::One, "4 ^b", "down4=4* up4 click4 downb upb clickb", "....C...."},
+    {"OneOnlyTheGroundWithShiftTakesNothing", Mode::One, "4 +b", "down4=4* up4 click4 downb upb clickb", "....C...."},
+    {"OneOnlyTheGroundUnderTheRightButtonTakesNothing", Mode::One, "4 rb", "down4=4* up4 click4 downrb uprb clickrb",
+     "....C...."},
+    {"OneOnlyAPullIsNoClick", Mode::One, "4>6", "down4=4* enter4 move6 up6", "....C...."},
+    {"WhereSlidesAreDraggedAClickOnOneOfManyKeepsThem", Mode::Drags, "4 ^6 4",
+     "down4=4* up4 click4 down6=46* up6 click6 down4=4*6 up4 click4", "....C.s.."},
+    {"WhereSlidesAreDraggedTheGroundTakesAll", Mode::Drags, "4 b", "down4=4* up4 click4 cleared1/1= downb upb clickb",
+     "........."},
+    {"APullOfAnotherSlideDragsThatAlone", Mode::Drags, "4 ^6 2>7",
+     "down4=4* up4 click4 down6=46* up6 click6 cleared1/2=6! cleared2/2= down2=2* enter2 drag cleared1/1= dragged "
+     "move7",
+     "........."},
+    {"APullDragsAWholeRange", Mode::Drags, "4 +6 5>0",
+     "down4=4* up4 click4 down6=456* up6 click6 down5=45*6 enter5 drag cleared1/3=5!6! cleared2/3=6! cleared3/3= "
+     "dragged move0",
+     "........."},
+    {"WithCtrlAndShiftNothingIsDragged", Mode::Drags, "4 ^+6>2", "down4=4* up4 click4 down6=456* enter6 move2 up2",
+     "....ssC.."},
+    {"TheRightButtonDragsNothingUnselected", Mode::Drags, "r4>6", "downr4=4* enter4 move6 upr6", "....C...."},
+    {"APullOnTheGroundWithCtrlIsABand", Mode::Drags, "4 ^b>1", "down4=4* up4 click4 downb move1=014* up1", "ss..C...."},
+    {"OneOnlyAPullDragsIt", Mode::DragsOne, "4 6>2",
+     "down4=4* up4 click4 down6=6* enter6 drag cleared1/1= dragged move2", "........."},
+    {"OneOnlyWithShiftNothingIsDragged", Mode::DragsOne, "+4>6", "down4=4* enter4 move6 up6", "....C...."},
+    {"OneOnlyAPullOnTheGroundIsNoBand", Mode::DragsOne, "b>1", "downb move1 up1", "........."},
     {"APullOnTheGroundIsABand", Mode::Drags, "b>1", "downb move1=01 up1", "ss......."},
 };
 

@@ -236,6 +236,30 @@ TEST_F(SelectionTest, SettingCurrentDiapoReadsTheKeysThatAreDown) {
     EXPECT_EQ(States(), "....ssC..") << "Shift makes a range of it";
 }
 
+TEST_F(SelectionTest, TheKeyboardTellsCtrlAndShiftNotTheEvent) {
+    Show(40);
+    const auto click = [this](Point place, int16_t told) {
+        desktop.clock.Advance(1000);
+        window.Router().MouseDown(headless::kLeftButton, told, static_cast<float>(place.X),
+                                  static_cast<float>(place.Y));
+        window.Router().MouseUp(headless::kLeftButton, told, static_cast<float>(place.X), static_cast<float>(place.Y));
+        return SelectedItems();
+    };
+    const Point ground{2, 2};
+    Click(4);
+    for (const int32_t key : {16, 17}) {
+        desktop.keyboard.Set(key, true);
+        EXPECT_EQ(click(ground, kNoKeys), "4") << "on the ground, with the key " << key;
+        desktop.keyboard.Set(key, false);
+    }
+    desktop.keyboard.Set(17, true);
+    EXPECT_EQ(click(InSlide(6), kNoKeys), "4 6");
+    desktop.keyboard.Set(17, false);
+    EXPECT_EQ(click(InSlide(2), kCtrl), "2");
+    EXPECT_EQ(click(InSlide(5), kShift), "5");
+    EXPECT_EQ(click(ground, kCtrl | kShift), "");
+}
+
 TEST_F(SelectionTest, SettingSelectedTakesTheMarkFromAnother) {
     Show(40);
     sheet->SetSelected(2, true);
