@@ -12,13 +12,13 @@ namespace vorlane::designer {
 namespace {
 
 constexpr auto kSheet =
-    "Une planche contact : une grille de diapos qui défile sur une liste de fichiers d'images, avec sélection, tri et "
+    "Une planche contact : une grille de diapos qui défile sur une liste de fichiers d'images, avec sélection, tri et "
     "glisser-déposer. L'hôte remplit la liste par Add ou InitListe, puis appelle StartLecture.";
 constexpr auto kSlide =
-    "Une diapo : une image encadrée avec son nom, une légende, les boutons de lecture, de commentaire, de texte et "
+    "Une diapo : une image encadrée avec son nom, une légende, les boutons de lecture, de commentaire, de texte et "
     "d'informations, et un coin de zoom.";
 constexpr auto kTimeLine =
-    "Une ligne de temps, sous une planche contact : les repères de temps, les barres des musiques et celles des "
+    "Une ligne de temps, sous une planche contact : les repères de temps, les barres des musiques et celles des "
     "commentaires du diaporama. L'hôte l'attache à la planche et remplit Musiques et Comments.";
 
 template <class Widget>

@@ -18,7 +18,7 @@ const PropertyTable& TimeLineProperties() {
     static const PropertyTable table{
         {"BarreHeight", kBars, "Renvoie ou définit la hauteur des barres, en pixels."},
         {"BarreMarge", kBars, "Renvoie ou définit la marge des barres, en pixels."},
-        {"BarreOnTop", kBars, "Renvoie ou définit la barre du dessus : 0 la musique, sinon le commentaire."},
+        {"BarreOnTop", kBars, "Renvoie ou définit la barre du dessus : 0 la musique, sinon le commentaire."},
         {"BorderColor", kLook, "Renvoie ou définit la couleur du bord."},
         {"BorderCommentColor", kComment, "Renvoie ou définit le contour des barres de commentaire, premier jeu."},
         {"BorderCommentColor2", kComment, "Renvoie ou définit le contour des barres de commentaire, second jeu."},
@@ -45,7 +45,7 @@ const PropertyTable& TimeLineProperties() {
         {"GradientMusicColorStart", kMusic, "Renvoie ou définit le début du dégradé des musiques, premier jeu."},
         {"GradientMusicColorStart2", kMusic, "Renvoie ou définit le début du dégradé des musiques, second jeu."},
         {"LectureIndicPos", kRecord,
-         "Renvoie ou définit la place des triangles de lecture : 0 en bas, 1 en haut, 2 les deux."},
+         "Renvoie ou définit la place des triangles de lecture : 0 en bas, 1 en haut, 2 les deux."},
         {"MargeGauche", kTime, "Renvoie ou définit la marge de gauche, celle de la première diapo, en pixels."},
         {"RecordBorderColor", kRecord, "Renvoie ou définit le contour de la barre d'enregistrement."},
         {"RecordGradientColorEnd", kRecord, "Renvoie ou définit la fin du dégradé de la barre d'enregistrement."},
@@ -54,7 +54,7 @@ const PropertyTable& TimeLineProperties() {
         {"RoundBorder", kLook, "Renvoie ou définit le diamètre des coins arrondis, en pixels."},
         {"ShowBarres", kBars, "Affiche les barres."},
         {"StartPoint", kTime, "Renvoie ou définit la première diapo affichée."},
-        {"Style", kTime, "Renvoie ou définit le style des repères de temps : libres, ou un par diapo."},
+        {"Style", kTime, "Renvoie ou définit le style des repères de temps : libres, ou un par diapo."},
     };
     return table;
 }

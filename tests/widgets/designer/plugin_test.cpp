@@ -107,6 +107,17 @@ TEST_F(DesignerPlugin, GivesEachPropertyAToolTip) {
     }
 }
 
+// In French these signs stand behind a blank that never breaks.
+TEST_F(DesignerPlugin, WritesItsTextsWithBlanksThatDoNotBreak) {
+    for (auto* plugin : Controls()) {
+        const QString texts = plugin->toolTip() + plugin->whatsThis() + plugin->domXml();
+        EXPECT_TRUE(texts.contains(QStringLiteral("\u00A0:")));
+        for (const char* sign : {" :", " ;", " ?", " !", "« ", " »"}) {
+            EXPECT_FALSE(texts.contains(QString::fromUtf8(sign))) << Text(plugin->name()) << ": " << sign;
+        }
+    }
+}
+
 TEST_F(DesignerPlugin, GivesAFormThatIsLoadedItsControlsRunningWithTheirProperties) {
     QByteArray form = R"(<ui version="4.0"><class>Form</class>
         <widget class="QWidget" name="Form">
