@@ -49,8 +49,8 @@ Failure JsonScanner::Failed(std::string_view what) const {
     const std::string_view before = text_.substr(0, at_);
     const auto line = std::count(before.begin(), before.end(), '\n') + 1;
     const size_t column = before.size() - (before.rfind('\n') + 1) + 1;
-    return failures::InvalidFormat("ligne " + std::to_string(line) + ", colonne " + std::to_string(column) + " : " +
-                                   std::string(what));
+    return failures::InvalidFormat("ligne " + std::to_string(line) + ", colonne " + std::to_string(column) +
+                                   " : " + std::string(what));
 }
 
 char JsonScanner::Next() {
@@ -66,7 +66,7 @@ bool JsonScanner::Take(std::string_view word) {
 }
 
 void JsonScanner::Expect(char wanted) {
-    if (!Take({&wanted, 1})) throw Failed(std::string("« ") + wanted + " » attendu");
+    if (!Take({&wanted, 1})) throw Failed(std::string("« ") + wanted + " » attendu");
 }
 
 void JsonScanner::End() {

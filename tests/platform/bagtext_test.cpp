@@ -92,15 +92,15 @@ TEST(BagText, AWholeNumberThatNoBagHoldsIsAReal) {
 }
 
 TEST(BagText, DamageIsToldWithItsPlace) {
-    EXPECT_EQ(Complaint(""), "ligne 1, colonne 1 : « { » attendu");
-    EXPECT_EQ(Complaint("[1]"), "ligne 1, colonne 1 : « { » attendu");
-    EXPECT_EQ(Complaint("{\n  \"a\": 1,\n  \"b\" 2\n}"), "ligne 3, colonne 7 : « : » attendu");
-    EXPECT_EQ(Complaint("{\"a\": 1"), "ligne 1, colonne 8 : « } » attendu");
-    EXPECT_EQ(Complaint("{\"a\": 1,}"), "ligne 1, colonne 9 : « \" » attendu");
-    EXPECT_EQ(Complaint("{\"a\": 1} x"), "ligne 1, colonne 10 : fin du texte attendue");
-    EXPECT_EQ(Complaint("{\"a\": \"x"), "ligne 1, colonne 9 : texte sans fin");
-    EXPECT_EQ(Complaint("{\"a\": \"x\ny\"}"), "ligne 1, colonne 9 : caractère de contrôle dans un texte");
-    EXPECT_EQ(Complaint("{\"a\": 1, \"a\": 2}"), "ligne 1, colonne 14 : clé en double");
+    EXPECT_EQ(Complaint(""), "ligne 1, colonne 1 : « { » attendu");
+    EXPECT_EQ(Complaint("[1]"), "ligne 1, colonne 1 : « { » attendu");
+    EXPECT_EQ(Complaint("{\n  \"a\": 1,\n  \"b\" 2\n}"), "ligne 3, colonne 7 : « : » attendu");
+    EXPECT_EQ(Complaint("{\"a\": 1"), "ligne 1, colonne 8 : « } » attendu");
+    EXPECT_EQ(Complaint("{\"a\": 1,}"), "ligne 1, colonne 9 : « \" » attendu");
+    EXPECT_EQ(Complaint("{\"a\": 1} x"), "ligne 1, colonne 10 : fin du texte attendue");
+    EXPECT_EQ(Complaint("{\"a\": \"x"), "ligne 1, colonne 9 : texte sans fin");
+    EXPECT_EQ(Complaint("{\"a\": \"x\ny\"}"), "ligne 1, colonne 9 : caractère de contrôle dans un texte");
+    EXPECT_EQ(Complaint("{\"a\": 1, \"a\": 2}"), "ligne 1, colonne 14 : clé en double");
 }
 
 TEST(BagText, ValuesThatNoBagHoldsAreFailures) {
