@@ -166,10 +166,11 @@ void eTimeLine::DescribeSlide(int32_t diapoKey, int32_t& secStart, std::string& 
 }
 
 void eTimeLine::MnuCtx_ItemClic(int32_t mnuItemID) {
+    const std::weak_ptr<const bool> alive = alive_;
     Trap(
         pending_, [&] { RunMenuItem(mnuItemID); },
         [&](const Failure& failure) { Report(failure, TimeLineLogText("MnuCtx_ItemClic", mnuItemID)); });
-    menu_.MnuCtx.reset();
+    if (!alive.expired()) menu_.MnuCtx.reset();
 }
 
 void eTimeLine::RunMenuItem(int32_t mnuItemID) {
@@ -183,10 +184,12 @@ void eTimeLine::RunMenuItem(int32_t mnuItemID) {
     SelectSlide(next ? NextSound(from, quoi).DiapoKey : PreviousSound(from, quoi).DiapoKey);
 }
 
+// The time line may end while the sheet shows the slide; then the slide is shown and not selected.
 void eTimeLine::SelectSlide(int32_t diapoKey) {
     if (diapoKey < 0) return;
+    const std::weak_ptr<const bool> alive = alive_;
     const int16_t index = Sheet().StartLecture({}, diapoKey);
-    if (index >= 0) Sheet().SetCurrentDiapo(index);
+    if (!alive.expired() && index >= 0) Sheet().SetCurrentDiapo(index);
 }
 
 }  // namespace vorlane

@@ -343,5 +343,40 @@ TEST_F(NavigationTest, ATimeLineMayEndWhileItsMenuIsOpen) {
     EXPECT_EQ(desktop.menus.OpenMenus(), 0);
 }
 
+TEST_F(NavigationTest, ATimeLineMayEndWhileTheSheetShowsTheChosenSlide) {
+    Start();
+    ShowSheet();
+    Music(6, 3);
+    const auto endInside = [this](auto&& choose) {
+        if (line == nullptr) {
+            Make(window.Ambient());
+            Start();
+            Music(6, 3);
+        }
+        sheet.StartLecture();
+        sheet.SetSelected(0, false);
+        MakeCurrent(0);
+        const ScopedConnection ends = sheet.Events.DisplayStart.connect([this](auto&&...) { line.reset(); });
+        choose();
+        EXPECT_EQ(line, nullptr);
+        EXPECT_EQ(Top(), 106) << "the sheet goes on";
+    };
+    endInside([this] { line->MnuCtx_ItemClic(107); });
+    endInside([this] { line->MnuCtx_ItemClic(emnutlNextMusic); });
+    endInside([this] { line->KeyCommand(117); });
+    endInside([this] {
+        int16_t key = 117;
+        sheet.Events.KeyDown(key, 0);
+    });
+    endInside([this] {
+        desktop.menus.Choose(107);
+        line->Menu(0);
+    });
+    endInside([this] {
+        desktop.menus.Choose(107);
+        line->ContextMenu(5, 5);
+    });
+}
+
 }  // namespace
 }  // namespace vorlane
