@@ -27,6 +27,7 @@ TimeLineWidget::TimeLineWidget(QtDesktop& desktop, QWidget* parent)
     : ControlHost(desktop, parent), line_(Host(std::make_unique<eTimeLine>(desktop.Roles(), AmbientOfHost()))) {
     line_.PropertyChanged.connect([this](std::string_view key) {
         Q_EMIT PropertyChanged(QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size())));
+        if (key == "ExpositionTime") AccessibleTimeLine::TellSounds(*this);
     });
     auto& events = line_.Events;
     events.Click.connect([this] { Q_EMIT OnClick(); });
@@ -118,8 +119,20 @@ void TimeLineWidget::SetComments(std::shared_ptr<ClsSon> sounds) {
 
 void TimeLineWidget::AttachVorlane(VorlaneWidget* sheet) {
     disconnect(sheetEnds_);
+    sheetHeard_.clear();
     line_.AttachVorlane(sheet == nullptr ? nullptr : &sheet->sheet());
-    if (sheet != nullptr) sheetEnds_ = connect(sheet, &QObject::destroyed, this, [this] { AttachVorlane(nullptr); });
+    if (sheet == nullptr) return;
+    sheetEnds_ = connect(sheet, &QObject::destroyed, this, [this] { AttachVorlane(nullptr); });
+    TellChangesOf(sheet->sheet().Events);
+}
+
+// Heard behind the time line's own handlers: the sounds have their new times by then.
+void TimeLineWidget::TellChangesOf(VorlaneEvents& events) {
+    const auto tell = [this](auto&&...) { AccessibleTimeLine::TellSounds(*this); };
+    sheetHeard_.emplace_back(events.AfterDropAdd.connect(tell));
+    sheetHeard_.emplace_back(events.OLECompleteDrag.connect(tell));
+    sheetHeard_.emplace_back(events.Sorted.connect(tell));
+    sheetHeard_.emplace_back(events.TLRefresh.connect(tell));
 }
 
 void TimeLineWidget::Clear() {

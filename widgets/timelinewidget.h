@@ -15,6 +15,7 @@
 #include "widgets/timelinesounds.h"
 
 #include <memory>
+#include <vector>
 
 #include <QByteArray>
 #include <QColor>
@@ -26,6 +27,7 @@ namespace vorlane {
 class ClsSon;
 class eTimeLine;
 class VorlaneWidget;
+struct VorlaneEvents;
 
 class TimeLineWidget : public ControlHost {
     Q_OBJECT
@@ -236,10 +238,13 @@ private:
     void Report(const Failure& failure, const char* name) const;
     // Assistive programs are told when the display follows a change of these sounds.
     void TellChangesOf(ClsSon* sounds, ScopedConnection& heard);
+    // They are told when slides have other places, and the sounds other times.
+    void TellChangesOf(VorlaneEvents& events);
 
     eTimeLine& line_;
     mutable PendingError pending_;
     QMetaObject::Connection sheetEnds_;
+    std::vector<ScopedConnection> sheetHeard_;
     ScopedConnection musicsHeard_;
     ScopedConnection commentsHeard_;
 };

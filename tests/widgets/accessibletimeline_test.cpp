@@ -138,6 +138,46 @@ TEST_F(AccessibleTimeLineTest, ChangesOfTheSoundsAreTold) {
     QAccessible::installUpdateHandler(nullptr);
 }
 
+QStringList toldNames;  // of the sounds, as they were told last
+
+TEST_F(AccessibleTimeLineTest, TheNewTimesOfTheSoundsAreToldWhenTheSlidesHaveOtherPlaces) {
+    const test::AssistivePrograms listening;
+    QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+        QAccessibleInterface* list = event->accessibleInterface();
+        if (list == nullptr || event->type() != QAccessible::ObjectReorder) return;
+        if (list->text(QAccessible::Name) != QLatin1String("Ligne de temps")) return;
+        toldNames.clear();
+        for (int i = 0; i < list->childCount(); ++i) toldNames += list->child(i)->text(QAccessible::Name);
+    });
+    const auto told = [] { return std::exchange(toldNames, {}).join("; ").toStdString(); };
+    const auto moveToFront = [this](int item) {
+        const int key = sheet->Key(item);
+        sheet->sheet().LstInterne.RemoveItem(item);
+        sheet->sheet().LstInterne.AddItem("/nowhere/moved.jpg", 0);
+        sheet->sheet().LstInterne.SetItemData(0, key);
+    };
+    VorlaneEvents& events = sheet->sheet().Events;
+    moveToFront(11);
+    events.Sorted();
+    EXPECT_EQ(told(), "m11.wav, à 0:00; m0.wav, à 0:05; c1.wav, à 0:10");
+    moveToFront(1);
+    int32_t effect = 2;
+    events.OLECompleteDrag(effect);
+    EXPECT_EQ(told(), "m0.wav, à 0:00; m11.wav, à 0:05; c1.wav, à 0:10");
+    sheet->sheet().LstInterne.AddItem("/nowhere/new.jpg", 1);
+    events.AfterDropAdd(1);
+    EXPECT_EQ(told(), "m0.wav, à 0:00; m11.wav, à 0:10; c1.wav, à 0:15");
+    sheet->StartLecture();
+    sheet->Remove(1);
+    EXPECT_EQ(told(), "m0.wav, à 0:00; m11.wav, à 0:05; c1.wav, à 0:10");
+    strip->SetExpositionTime(10);
+    EXPECT_EQ(told(), "m0.wav, à 0:00; m11.wav, à 0:10; c1.wav, à 0:20");
+    strip->AttachVorlane(nullptr);
+    events.Sorted();
+    EXPECT_EQ(told(), "");
+    QAccessible::installUpdateHandler(nullptr);
+}
+
 TEST_F(AccessibleTimeLineTest, TheInterfacesEndWithTheWidget) {
     const QAccessible::Id id = QAccessible::uniqueId(&Sound(0));
     strip.reset();
