@@ -146,6 +146,26 @@ TEST_F(IndicatorsTest, LectureEndDuringARecordingLeavesTheBarAtNegativeTime) {
     EXPECT_EQ(Bar(), "\nBox 0,16 120,24 #0EADFA\n") << "the recording still runs from there";
 }
 
+TEST_F(IndicatorsTest, ARecordingStaysWhereItBeganWhenItsSlideMovesOrLeaves) {
+    Items(3);
+    Start();
+    line->Record(2, 1);
+    const std::string before = Drawn();
+    const auto take = [this](int32_t item) { sheet.LstInterne.RemoveItem(item); };
+    take(1);
+    sheet.LstInterne.AddItem("/p/1.jpg", 0);
+    sheet.LstInterne.SetItemData(0, 101);
+    EXPECT_EQ(PaintsIn([&] { sheet.Events.Sorted(); }), 1);
+    EXPECT_EQ(Drawn(), before);
+    take(0);
+    int32_t key = 101;
+    sheet.Events.Removed(0, key);
+    EXPECT_EQ(PaintsIn([&] { sheet.Events.TLRefresh(); }), 1);
+    EXPECT_EQ(Drawn(), before);
+    line->Record(3);
+    EXPECT_EQ(Bar(), "\nBox 150,16 240,24 #0EADFA\n");
+}
+
 TEST_F(IndicatorsTest, DuringARecordingTheMusicRowStandsInTheMiddle) {
     Items(3);
     Start();
