@@ -1,6 +1,7 @@
 #include "editor/commentrecorder.h"
 
 #include "tests/editor/fakemicrophone.h"
+#include "tests/editor/fulldisk.h"
 
 #include <cerrno>
 #include <gtest/gtest.h>

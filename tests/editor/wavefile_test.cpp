@@ -1,6 +1,6 @@
 #include "editor/wavefile.h"
 
-#include "tests/editor/fakemicrophone.h"
+#include "tests/editor/fulldisk.h"
 
 #include <cerrno>
 #include <gtest/gtest.h>
