@@ -28,23 +28,27 @@ StripMenu::StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator
       addMusic_(AddAction(QKeySequence(Qt::CTRL | Qt::Key_M))),
       addComment_(AddAction(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M))),
       record_(AddAction(QKeySequence(Qt::CTRL | Qt::Key_R))),
-      repeat_(AddAction()),
+      repeatMusic_(AddAction()),
+      repeatComment_(AddAction()),
       volumes_(AddAction()),
       removeMusic_(AddAction()),
       removeComment_(AddAction()),
       exposition_(AddAction()),
       show_(AddAction()) {
-    menu_->insertSeparator(repeat_);
+    menu_->insertSeparator(repeatMusic_);
     menu_->insertSeparator(exposition_);
-    repeat_->setCheckable(true);
+    repeatMusic_->setCheckable(true);
+    repeatComment_->setCheckable(true);
     record_->setCheckable(true);
     show_->setCheckable(true);
     show_->setChecked(true);
     connect(addMusic_, &QAction::triggered, this, [this] { Choose(SoundKind::Music); });
     connect(addComment_, &QAction::triggered, this, [this] { Choose(SoundKind::Comment); });
-    connect(repeat_, &QAction::triggered, this,
+    connect(repeatMusic_, &QAction::triggered, this,
             [this](bool on) { sounds_.setRepeated(SoundKind::Music, Current(), on); });
     connect(removeMusic_, &QAction::triggered, this, [this] { Remove(SoundKind::Music); });
+    connect(repeatComment_, &QAction::triggered, this,
+            [this](bool on) { sounds_.setRepeated(SoundKind::Comment, Current(), on); });
     connect(removeComment_, &QAction::triggered, this, [this] { Remove(SoundKind::Comment); });
     connect(exposition_, &QAction::triggered, this, &StripMenu::ChooseExposition);
     connect(volumes_, &QAction::triggered, this, &StripMenu::ChooseVolumes);
@@ -74,7 +78,8 @@ void StripMenu::retranslate() {
     addComment_->setText(tr("Ajouter un &commentaire…"));
     record_->setText(tr("&Enregistrer un commentaire"));
     volumes_->setText(tr("&Volumes…"));
-    repeat_->setText(tr("&Répéter la musique"));
+    repeatMusic_->setText(tr("&Répéter la musique"));
+    repeatComment_->setText(tr("Ré&péter le commentaire"));
     removeMusic_->setText(tr("Retirer &la musique"));
     removeComment_->setText(tr("Retirer le c&ommentaire"));
     exposition_->setText(tr("&Durée d'exposition…"));
@@ -90,11 +95,13 @@ int StripMenu::Current() const {
 void StripMenu::ShowState() {
     const int key = strip_.keyOf(Current());
     const auto music = sounds_.find(SoundKind::Music, key);
-    repeat_->setEnabled(music.has_value());
-    repeat_->setChecked(music && music->Repetition);
+    const auto comment = sounds_.find(SoundKind::Comment, key);
+    repeatMusic_->setEnabled(music.has_value());
+    repeatMusic_->setChecked(music && music->Repetition);
+    repeatComment_->setEnabled(comment.has_value());
+    repeatComment_->setChecked(comment && comment->Repetition);
     removeMusic_->setEnabled(music.has_value());
-    const bool comment = sounds_.find(SoundKind::Comment, key).has_value();
-    removeComment_->setEnabled(comment);
+    removeComment_->setEnabled(comment.has_value());
     volumes_->setEnabled(music || comment);
     const bool slides = strip_.showSeconds() > 0;
     addMusic_->setEnabled(slides);

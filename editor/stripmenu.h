@@ -61,7 +61,8 @@ private:
     QAction* addMusic_;
     QAction* addComment_;
     QAction* record_;
-    QAction* repeat_;
+    QAction* repeatMusic_;
+    QAction* repeatComment_;
     QAction* volumes_;
     QAction* removeMusic_;
     QAction* removeComment_;

@@ -507,6 +507,10 @@
     <message>
         <source>Retirer le c&amp;ommentaire</source>
         <translation>Remove C&amp;omment</translation>
+    <message>
+        <source>Ré&amp;péter le commentaire</source>
+        <translation>Re&amp;peat Comment</translation>
+    </message>
     </message>
     <message>
         <source>&amp;Durée d&apos;exposition…</source>

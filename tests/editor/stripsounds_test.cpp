@@ -51,6 +51,24 @@ TEST_F(StripSoundsTest, AMusicRepeatsUntilTheNext) {
     EXPECT_FALSE(TheStrip().Musiques().ItemFromPos(1)->Repetition);
 }
 
+TEST_F(StripSoundsTest, ACommentRepeatsUntilTheNext) {
+    ASSERT_TRUE(OpenPictures("abcdef"));
+    Sounds().add(SoundKind::Comment, {Sound("c.wav", 2)}, 0);
+    window_->navigator().setCurrent(0);
+    EXPECT_FALSE(Action("Répéter la musique").isEnabled());
+    QAction& repeat = Action("Répéter le commentaire");
+    EXPECT_FALSE(repeat.isChecked());
+    repeat.trigger();
+    EXPECT_TRUE(TheStrip().Comments().ItemFromPos(1)->Repetition);
+    EXPECT_TRUE(repeat.isChecked());
+    repeat.trigger();
+    EXPECT_FALSE(TheStrip().Comments().ItemFromPos(1)->Repetition);
+    window_->navigator().setCurrent(1);
+    EXPECT_FALSE(repeat.isEnabled());
+    Undo();
+    EXPECT_TRUE(TheStrip().Comments().ItemFromPos(1)->Repetition);
+}
+
 TEST_F(StripSoundsTest, SoundsGoWithTheirSlidesAndComeBackWithThem) {
     ASSERT_TRUE(OpenPictures("abcdef"));
     Sounds().add(SoundKind::Music, {Sound("m.wav", 2)}, 1);
