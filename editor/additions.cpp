@@ -1,6 +1,7 @@
 #include "editor/additions.h"
 
 #include <limits>
+#include <utility>
 
 namespace vorlane::editor {
 
@@ -8,8 +9,8 @@ Additions::Additions(QObject* parent) : QObject(parent) {
     connect(&reader_, &FolderReader::finished, this, &Additions::Take);
 }
 
-void Additions::add(const QStringList& paths, int beforeKey) {
-    waiting_.push_back({paths, beforeKey});
+void Additions::add(const Lot& lot) {
+    waiting_.push_back(lot);
     if (waiting_.size() == 1) Next();
 }
 
@@ -24,10 +25,10 @@ void Additions::Next() {
 
 void Additions::Take() {
     const std::vector<FolderItem> items = reader_.take(std::numeric_limits<size_t>::max());
-    const int beforeKey = waiting_.front().beforeKey;
+    const Lot lot = std::move(waiting_.front());
     waiting_.pop_front();
     Next();
-    Q_EMIT read(items, beforeKey);
+    Q_EMIT read(items, lot);
 }
 
 }  // namespace vorlane::editor

@@ -11,28 +11,29 @@
 
 namespace vorlane::editor {
 
+// What is added at once.
+struct Lot {
+    QStringList paths;
+    int beforeKey;   // the item that they are to stand in front of, -1 for the end
+    QString notice;  // what is to be said along with it
+};
+
 class Additions : public QObject {
     Q_OBJECT
 
 public:
     explicit Additions(QObject* parent = nullptr);
 
-    // beforeKey: the item that they are to stand in front of, -1 for the end.
-    void add(const QStringList& paths, int beforeKey);
+    void add(const Lot& lot);
     // Forgets all that isn't read.
     void clear();
     bool isRunning() const { return !waiting_.empty(); }
 
 Q_SIGNALS:
     // Empty when there was no picture among them.
-    void read(const std::vector<vorlane::editor::FolderItem>& items, int beforeKey);
+    void read(const std::vector<vorlane::editor::FolderItem>& items, const vorlane::editor::Lot& lot);
 
 private:
-    struct Lot {
-        QStringList paths;
-        int beforeKey;
-    };
-
     void Next();
     void Take();
 

@@ -148,7 +148,9 @@ private:
     void ConnectStrip();
     QString SoundOf(int key, bool comment) const;
     void ItemsChanged();
-    void Added(const std::vector<FolderItem>& items, int beforeKey);
+    // notice: what is to be said along with it.
+    void Add(const QStringList& paths, int before, const QString& notice);
+    void Added(const std::vector<FolderItem>& items, const Lot& lot);
     void TellName(const QString& from, const QString& to);
     void MoveSelected(int lines);
     void SayHeld();

@@ -53,8 +53,9 @@ void EditorWindow::Receive(const QStringList& paths, int before, int on) {
         QStringList others = paths;
         others.removeIf([](const QString& path) { return FileKindOf(path) == FileKind::Sound; });
         const int from = std::min(on < 0 ? before : on, count() - 1);
-        if (!sounds.isEmpty()) soundMenu_->addFiles(SoundKind::Music, sounds, from);
-        return addFiles(others, before);
+        const QString notice = sounds.isEmpty() ? QString() : soundMenu_->added(SoundKind::Music, sounds, from);
+        if (!notice.isEmpty()) Say(notice);
+        return Add(others, before, notice);
     }
     const auto leave = [this, path = paths.first()] { Leave([this, path] { open(path); }); };
     QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);  // the sheet is in the middle of the drop yet

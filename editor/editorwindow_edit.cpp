@@ -1,6 +1,7 @@
 // What the user does to the slides.
 #include "editor/editorwindow.h"
 #include "editor/navigator.h"
+#include "editor/notices.h"
 #include "editor/renamer.h"
 #include "editor/show.h"
 #include "editor/showkeeper.h"
@@ -115,26 +116,31 @@ void EditorWindow::selectAll() {
 }
 
 void EditorWindow::addFiles(const QStringList& paths, int before) {
+    Add(paths, before, {});
+}
+
+void EditorWindow::Add(const QStringList& paths, int before, const QString& notice) {
     if (paths.isEmpty()) return;
     const bool inFront = before >= 0 && before < count();
-    additions_.add(paths, inFront ? sheet_->Key(before) : -1);
+    additions_.add({paths, inFront ? sheet_->Key(before) : -1, notice});
 }
 
 // What comes while a show is being read waits until all of it is there, for its sounds know the pictures by their
 // places. What was meant for another show is dropped.
-void EditorWindow::Added(const std::vector<FolderItem>& items, int beforeKey) {
+void EditorWindow::Added(const std::vector<FolderItem>& items, const Lot& lot) {
     const bool readsShow = !complete_ && (!keeper_->path().isEmpty() || !recovered_.isEmpty());
     if (show_->isBusy() || readsShow) {
         ++deferred_;
-        QTimer::singleShot(1, this, [this, items, beforeKey, begun = begun_] {
+        QTimer::singleShot(1, this, [this, items, lot, begun = begun_] {
             --deferred_;
-            if (begun == begun_) Added(items, beforeKey);
+            if (begun == begun_) Added(items, lot);
         });
         return;
     }
     const auto added = static_cast<int>(items.size());
-    show_->insert(items, beforeKey < 0 ? -1 : sheet_->GetListIndexFromItemData(beforeKey));
-    Say(added == 0 ? tr("Aucune image à ajouter") : tr("%Ln image(s) ajoutée(s)", nullptr, added));
+    show_->insert(items, lot.beforeKey < 0 ? -1 : sheet_->GetListIndexFromItemData(lot.beforeKey));
+    Say(Joined(
+        {lot.notice, added == 0 ? tr("Aucune image à ajouter") : tr("%Ln image(s) ajoutée(s)", nullptr, added)}));
     CheckSettled();
 }
 

@@ -2,6 +2,7 @@
 
 #include "editor/filefilters.h"
 #include "editor/navigator.h"
+#include "editor/notices.h"
 #include "editor/preferences.h"
 #include "editor/stripsounds.h"
 #include "editor/volumepanel.h"
@@ -46,9 +47,9 @@ StripMenu::StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator
     connect(addComment_, &QAction::triggered, this, [this] { Choose(SoundKind::Comment); });
     connect(repeatMusic_, &QAction::triggered, this,
             [this](bool on) { sounds_.setRepeated(SoundKind::Music, Current(), on); });
-    connect(removeMusic_, &QAction::triggered, this, [this] { Remove(SoundKind::Music); });
     connect(repeatComment_, &QAction::triggered, this,
             [this](bool on) { sounds_.setRepeated(SoundKind::Comment, Current(), on); });
+    connect(removeMusic_, &QAction::triggered, this, [this] { Remove(SoundKind::Music); });
     connect(removeComment_, &QAction::triggered, this, [this] { Remove(SoundKind::Comment); });
     connect(exposition_, &QAction::triggered, this, &StripMenu::ChooseExposition);
     connect(volumes_, &QAction::triggered, this, &StripMenu::ChooseVolumes);
@@ -116,28 +117,26 @@ void StripMenu::Choose(SoundKind kind) {
     addFiles(kind, QFileDialog::getOpenFileNames(Window(), title, folder_, FilterFor(FileKind::Sound)));
 }
 
-void StripMenu::addFiles(SoundKind kind, const QStringList& files, int listIndex) {
-    if (files.isEmpty()) return;
-    QStringList sounds;
-    for (const QString& file : files) {
-        if (FileKindOf(file) == FileKind::Sound) sounds.push_back(file);
-    }
-    AddTo(kind, sounds, listIndex < 0 ? std::max(Current(), 0) : listIndex);
+void StripMenu::addFiles(SoundKind kind, const QStringList& files) {
+    if (!files.isEmpty()) AddTo(kind, files, -1);
 }
 
 void StripMenu::AddTo(SoundKind kind, const QStringList& files, int listIndex) {
-    Q_EMIT said(Added(kind, files, listIndex));
+    Q_EMIT said(added(kind, files, listIndex));
 }
 
-QString StripMenu::Added(SoundKind kind, const QStringList& files, int listIndex) {
-    const int added = sounds_.add(kind, files, listIndex);
-    const auto left = static_cast<int>(files.size()) - added;
-    if (added == 0) return tr("Aucun son à ajouter");
+QString StripMenu::added(SoundKind kind, const QStringList& files, int listIndex) {
+    QStringList sounds = files;
+    sounds.removeIf([](const QString& file) { return FileKindOf(file) != FileKind::Sound; });
+    const int count = sounds_.add(kind, sounds, listIndex < 0 ? std::max(Current(), 0) : listIndex);
+    return count == 0 ? tr("Aucun son à ajouter") : AddedText(kind, count, static_cast<int>(sounds.size()) - count);
+}
+
+QString StripMenu::AddedText(SoundKind kind, int count, int left) {
     const bool music = kind == SoundKind::Music;
-    QString notice =
-        music ? tr("%Ln musique(s) ajoutée(s)", nullptr, added) : tr("%Ln commentaire(s) ajouté(s)", nullptr, added);
-    if (left > 0) notice = tr("%1 ; %2").arg(notice, tr("%Ln de trop pour les diapositives", nullptr, left));
-    return notice;
+    return Joined(
+        {music ? tr("%Ln musique(s) ajoutée(s)", nullptr, count) : tr("%Ln commentaire(s) ajouté(s)", nullptr, count),
+         left > 0 ? tr("%Ln de trop pour les diapositives", nullptr, left) : QString()});
 }
 
 void StripMenu::Remove(SoundKind kind) {
@@ -202,16 +201,18 @@ void StripMenu::endRecording() {
     const Recording recording = recorder_.stop();
     record_->setChecked(false);
     strip_.RecordEnd();
-    QStringList notices;
+    const QString notice = Joined({recording.path.isEmpty() ? QString() : Kept(recording.path), recording.failure});
+    if (!notice.isEmpty()) Q_EMIT said(notice);
+}
+
+// Puts it on the slide that it was spoken for, and tells where it is otherwise.
+QString StripMenu::Kept(const QString& comment) {
     const int item = strip_.itemOf(recordedKey_);
-    if (!recording.path.isEmpty() && item >= 0) {
-        notices += Added(SoundKind::Comment, {recording.path}, item);
-    } else if (!recording.path.isEmpty()) {
-        const QString file = QDir::toNativeSeparators(recording.path);
-        notices += tr("La diapositive n'est plus là ; le commentaire est dans « %1 »").arg(file);
-    }
-    if (!recording.failure.isEmpty()) notices += recording.failure;
-    if (!notices.empty()) Q_EMIT said(notices.size() > 1 ? tr("%1 ; %2").arg(notices[0], notices[1]) : notices[0]);
+    if (item >= 0 && sounds_.add(SoundKind::Comment, {comment}, item) == 1) return AddedText(SoundKind::Comment, 1, 0);
+    const QString file = QDir::toNativeSeparators(comment);
+    return (item < 0 ? tr("La diapositive n'est plus là ; le commentaire est dans « %1 »")
+                     : tr("La planche est occupée ; le commentaire est dans « %1 »"))
+        .arg(file);
 }
 
 }  // namespace vorlane::editor

@@ -26,8 +26,10 @@ public:
     StripMenu(QMenuBar& bar, Strip& strip, StripSounds& sounds, Navigator& navigator);
 
     void retranslate();
-    // To the slide of a list index, without one to the current slide or the first one; tells how it went.
-    void addFiles(SoundKind kind, const QStringList& files, int listIndex = -1);
+    // To the current slide, or the first one; tells how it went. What is no sound is passed over.
+    void addFiles(SoundKind kind, const QStringList& files);
+    // The same untold, for the slide of a list index when there is one: gives what is to be said of it.
+    QString added(SoundKind kind, const QStringList& files, int listIndex);
     // Ends the recording of a comment, if one runs, and puts it on its slide.
     void endRecording();
     // Where recorded comments come from; at first the system's microphone.
@@ -47,11 +49,12 @@ private:
     void Choose(SoundKind kind);
     void Remove(SoundKind kind);
     void AddTo(SoundKind kind, const QStringList& files, int listIndex);
-    // The same, untold: what is to be said of it.
-    QString Added(SoundKind kind, const QStringList& files, int listIndex);
+    // left: those for which there was no slide.
+    static QString AddedText(SoundKind kind, int count, int left);
     void ChooseExposition();
     void ChooseVolumes();
     void Record(bool on);
+    QString Kept(const QString& comment);
     void ShowState();
 
     Strip& strip_;

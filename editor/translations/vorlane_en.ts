@@ -550,10 +550,6 @@
             <numerusform>%Ln comments added</numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1&#xa0;; %2</source>
-        <translation>%1; %2</translation>
-    </message>
     <message numerus="yes">
         <source>%Ln de trop pour les diapositives</source>
         <translation>
@@ -608,6 +604,10 @@
 </context>
 <context>
     <name>vorlane::editor::StripSounds</name>
+    <message>
+        <source>La planche est occupée&#xa0;; le commentaire est dans «&#xa0;%1&#xa0;»</source>
+        <translation>The sheet is busy; the comment is in “%1”</translation>
+    </message>
     <message>
         <source>l&apos;ajout de sons</source>
         <translation>Adding of Sounds</translation>
@@ -673,6 +673,13 @@
         <translation>the file is damaged at byte %1</translation>
     </message>
     <message>
+<context>
+    <name>Notices</name>
+    <message>
+        <source>%1&#xa0;; %2</source>
+        <translation>%1; %2</translation>
+    </message>
+</context>
         <source>ce n&apos;est pas un diaporama de Vorlane</source>
         <translation>it is no slide show of Vorlane</translation>
     </message>

@@ -60,6 +60,7 @@ TEST_F(StripDropsTest, PicturesAndSoundsThatAreDroppedTogetherGoWhereEachKindBel
     ASSERT_TRUE(Settle());
     EXPECT_EQ(Letters(), "abxcd");
     EXPECT_EQ(Musics(), "b:m");
+    EXPECT_EQ(Status(), QStringLiteral("1 musique ajoutée\u00A0; 1 image ajoutée"));
     Undo();
     EXPECT_EQ(Letters(), "abcd");
     EXPECT_EQ(Musics(), "b:m");
@@ -87,6 +88,22 @@ TEST_F(StripDropsTest, WithoutSlidesADroppedSoundHasNoPlace) {
     ASSERT_TRUE(Settle());
     EXPECT_EQ(Status(), QStringLiteral("Aucun son à ajouter"));
     EXPECT_EQ(Musics(), "");
+}
+
+TEST_F(StripDropsTest, SoundsWithoutAPlaceAreToldAlongWithThePicturesThatHaveOne) {
+    const QUrl song = QUrl::fromLocalFile(Sound("m.wav", 3));
+    Drop({song, QUrl::fromLocalFile(pictures_.WritePicture("a.jpg"))});
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(Letters(), "a");
+    EXPECT_EQ(Status(), QStringLiteral("Aucun son à ajouter\u00A0; 1 image ajoutée"));
+    const QString added = pictures_.WritePicture("b.jpg");
+    window_->navigator().setCurrent(0);
+    ASSERT_TRUE(window_->slides().beginMove());
+    Drop({song, QUrl::fromLocalFile(added)});
+    window_->slides().endMove();
+    ASSERT_TRUE(Settle());
+    EXPECT_EQ(Letters(), "ab");
+    EXPECT_EQ(Status(), QStringLiteral("Aucun son à ajouter\u00A0; 1 image ajoutée"));
 }
 
 TEST_F(StripDropsTest, TheDropIsShownWhereItWouldGo) {

@@ -61,5 +61,40 @@ TEST_F(StripRecordingTest, ARecordingThatFailsTellsTheReason) {
     EXPECT_TRUE(Status().endsWith(qt_error_string(EFBIG))) << Status().toStdString();
 }
 
+TEST_F(StripRecordingTest, ACommentGoesToItsSlideWhereverThatIsByThen) {
+    ASSERT_TRUE(OpenPictures("abcd"));
+    window_->navigator().setCurrent(1);
+    QAction& record = StartRecording();
+    EXPECT_TRUE(microphone_->Hear(2));
+    window_->slides().moveSelected(4);
+    ASSERT_EQ(Letters(), "acdb");
+    window_->navigator().setCurrent(0);
+    record.trigger();
+    EXPECT_EQ(Told(SoundKind::Comment), "b:Commentaire 1");
+}
+
+TEST_F(StripRecordingTest, ACommentThatCannotBePutOnItsSlideIsNamed) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    window_->navigator().setCurrent(0);
+    const QString file = QDir(Folder()).filePath("Commentaire 1.wav");
+    QAction* record = &StartRecording();
+    EXPECT_TRUE(microphone_->Hear(2));
+    ASSERT_TRUE(window_->slides().beginMove());
+    record->trigger();
+    EXPECT_EQ(Told(SoundKind::Comment), "");
+    EXPECT_EQ(Status(),
+              QStringLiteral("La planche est occupée\u00A0; le commentaire est dans «\u00A0%1\u00A0»").arg(file));
+    window_->slides().endMove();
+    EXPECT_TRUE(QFileInfo::exists(file));
+
+    record = &StartRecording();
+    EXPECT_TRUE(microphone_->Hear(2));
+    window_->removeSelected();
+    record->trigger();
+    EXPECT_EQ(Told(SoundKind::Comment), "");
+    EXPECT_EQ(Status(), QStringLiteral("La diapositive n'est plus là\u00A0; le commentaire est dans «\u00A0%1\u00A0»")
+                            .arg(QDir(Folder()).filePath("Commentaire 2.wav")));
+}
+
 }  // namespace
 }  // namespace vorlane::editor
