@@ -181,6 +181,8 @@ private:
     void ShowPage();
     void TakeSlice();
     void Complete();
+    // What the show names and the disk doesn't hold.
+    void TellMissing();
     void ShowSheet();
     void ShowStatus();
     void ShowEmptyTexts();

@@ -2,6 +2,7 @@
 #include "editor/editorwindow.h"
 #include "editor/emptypage.h"
 #include "editor/navigator.h"
+#include "editor/notices.h"
 #include "editor/show.h"
 #include "editor/showkeeper.h"
 #include "editor/statuspanel.h"
@@ -149,10 +150,18 @@ void EditorWindow::Complete() {
     show_->orderAppended();
     sounds_->follow();
     complete_ = true;
-    if (missing_ > 0) Say(tr("%Ln image(s) introuvable(s)", nullptr, std::exchange(missing_, 0)));
+    TellMissing();
     KeepRecovered();
     ShowPage();
     CheckSettled();
+}
+
+void EditorWindow::TellMissing() {
+    const int pictures = std::exchange(missing_, 0);
+    const int sounds = sounds_->missing();
+    const QString notice = Joined({pictures == 0 ? QString() : tr("%Ln image(s) introuvable(s)", nullptr, pictures),
+                                   sounds == 0 ? QString() : tr("%Ln son(s) introuvable(s)", nullptr, sounds)});
+    if (!notice.isEmpty()) Say(notice);
 }
 
 void EditorWindow::ShowSheet() {

@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include <QFileInfo>
 #include <QUndoCommand>
 
 namespace vorlane::editor {
@@ -84,6 +85,14 @@ std::vector<SavedSound> StripSounds::saved() const {
         }
     }
     return saved;
+}
+
+int StripSounds::missing() const {
+    int missing = 0;
+    for (const SoundKind kind : {SoundKind::Music, SoundKind::Comment}) {
+        for (const TimeLineSound& sound : all(kind)) missing += QFileInfo::exists(sound.Nom) ? 0 : 1;
+    }
+    return missing;
 }
 
 void StripSounds::Set(SoundKind kind, int key, const std::optional<TimeLineSound>& sound) {

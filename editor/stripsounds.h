@@ -40,6 +40,8 @@ public:
     std::vector<TimeLineSound> all(SoundKind kind) const;
     // The same of both kinds, by the places of their slides.
     std::vector<SavedSound> saved() const;
+    // How many of them have no file.
+    int missing() const;
 
     // --- Without a way back ---
     void clear();

@@ -312,6 +312,13 @@
             <numerusform>%Ln pictures are missing</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln son(s) introuvable(s)</source>
+        <translation>
+            <numerusform>%Ln sound is missing</numerusform>
+            <numerusform>%Ln sounds are missing</numerusform>
+        </translation>
+    </message>
     <message>
         <source>&amp;Ouvrir un diaporama…</source>
         <translation>&amp;Open Slide Show…</translation>
@@ -501,16 +508,16 @@
         <translation>&amp;Repeat Music</translation>
     </message>
     <message>
+        <source>Ré&amp;péter le commentaire</source>
+        <translation>Re&amp;peat Comment</translation>
+    </message>
+    <message>
         <source>Retirer &amp;la musique</source>
         <translation>Remo&amp;ve Music</translation>
     </message>
     <message>
         <source>Retirer le c&amp;ommentaire</source>
         <translation>Remove C&amp;omment</translation>
-    <message>
-        <source>Ré&amp;péter le commentaire</source>
-        <translation>Re&amp;peat Comment</translation>
-    </message>
     </message>
     <message>
         <source>&amp;Durée d&apos;exposition…</source>
@@ -598,16 +605,16 @@
         <translation>The slide is gone; the comment is in “%1”</translation>
     </message>
     <message>
+        <source>La planche est occupée&#xa0;; le commentaire est dans «&#xa0;%1&#xa0;»</source>
+        <translation>The sheet is busy; the comment is in “%1”</translation>
+    </message>
+    <message>
         <source>Parlez&#xa0;: l&apos;enregistrement est en cours</source>
         <translation>Speak: the recording is on</translation>
     </message>
 </context>
 <context>
     <name>vorlane::editor::StripSounds</name>
-    <message>
-        <source>La planche est occupée&#xa0;; le commentaire est dans «&#xa0;%1&#xa0;»</source>
-        <translation>The sheet is busy; the comment is in “%1”</translation>
-    </message>
     <message>
         <source>l&apos;ajout de sons</source>
         <translation>Adding of Sounds</translation>
@@ -667,19 +674,19 @@
     </message>
 </context>
 <context>
-    <name>SavedShow</name>
-    <message>
-        <source>le fichier est endommagé à l&apos;octet %1</source>
-        <translation>the file is damaged at byte %1</translation>
-    </message>
-    <message>
-<context>
     <name>Notices</name>
     <message>
         <source>%1&#xa0;; %2</source>
         <translation>%1; %2</translation>
     </message>
 </context>
+<context>
+    <name>SavedShow</name>
+    <message>
+        <source>le fichier est endommagé à l&apos;octet %1</source>
+        <translation>the file is damaged at byte %1</translation>
+    </message>
+    <message>
         <source>ce n&apos;est pas un diaporama de Vorlane</source>
         <translation>it is no slide show of Vorlane</translation>
     </message>

@@ -34,6 +34,13 @@
             <numerusform>%Ln images introuvables</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln son(s) introuvable(s)</source>
+        <translation>
+            <numerusform>%Ln son introuvable</numerusform>
+            <numerusform>%Ln sons introuvables</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vorlane::editor::RecoveryPanel</name>

@@ -142,6 +142,26 @@ TEST_F(StripSoundsTest, AShowsFileHoldsItsSoundsAndItsTime) {
     EXPECT_EQ(LoadShow(path).show->sounds, std::vector<SavedSound>{sounds[1]}) << "the boost is kept, too";
 }
 
+TEST_F(StripSoundsTest, SoundsWithoutAFileAreToldAndStayInTheShow) {
+    const QString path = config_.filePath("a.vorlane");
+    SavedShow show{{pictures_.WritePicture("a.jpg"), pictures_.WritePicture("b.jpg")}, {SortBy::Hand, false}};
+    show.sounds = {{SoundKind::Music, 0, pictures_.Path("gone.wav")},
+                   {SoundKind::Music, 1, Sound("m.wav", 2)},
+                   {SoundKind::Comment, 1, pictures_.Path("lost.wav")}};
+    ASSERT_EQ(SaveShow(path, show), "");
+    ASSERT_TRUE(window_->openShow(path) && Settle());
+    EXPECT_EQ(Status(), "2 sons introuvables");
+    EXPECT_EQ(Musics(), "b:m");
+    ASSERT_TRUE(window_->save());
+    EXPECT_EQ(LoadShow(path).show, show);
+
+    show.pictures[0] = pictures_.Path("none.jpg");
+    show.sounds.pop_back();
+    ASSERT_EQ(SaveShow(path, show), "");
+    ASSERT_TRUE(window_->openShow(path) && Settle());
+    EXPECT_EQ(Status(), QStringLiteral("1 image introuvable\u00A0; 1 son introuvable"));
+}
+
 TEST_F(StripSoundsTest, AnotherFolderBeginsWithoutSounds) {
     ASSERT_TRUE(OpenPictures("abcd"));
     Sounds().add(SoundKind::Music, {Sound("m.wav", 2)}, 1);
