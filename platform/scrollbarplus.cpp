@@ -7,6 +7,19 @@
 
 namespace vorlane {
 
+namespace {
+
+// A native bar paints itself: a change is told, and nothing of what lies around the bar is damaged.
+template <class T>
+bool Replace(T& field, T value, const Event<>& changed) {
+    if (field == value) return false;
+    field = value;
+    changed();
+    return true;
+}
+
+}  // namespace
+
 ScrollbarPlus::ScrollbarPlus(UserControl* container) : Control(container, Layer::Windowed) {
     Move(0, 0, kThickness, kThickness);
 }
@@ -23,24 +36,24 @@ void ScrollbarPlus::SetRange(int32_t min, int32_t max) {
     const bool changed = min != min_ || max != max_;
     min_ = min;
     max_ = max;
-    if (changed) Invalidate();
+    if (changed) Changed();
     SetValue(value_);
 }
 
 void ScrollbarPlus::SetValue(int32_t value) {
-    if (Assign(value_, std::clamp(value, min_, max_))) Change(value_);
+    if (Replace(value_, std::clamp(value, min_, max_), Changed)) Change(value_);
 }
 
 void ScrollbarPlus::SetSmallChange(int32_t step) {
-    Assign(smallChange_, std::max(step, 1));
+    Replace(smallChange_, std::max(step, 1), Changed);
 }
 
 void ScrollbarPlus::SetLargeChange(int32_t step) {
-    Assign(largeChange_, std::max(step, 1));
+    Replace(largeChange_, std::max(step, 1), Changed);
 }
 
 void ScrollbarPlus::SetOrientation(vorlane::Orientation orientation) {
-    if (!Assign(orientation_, orientation)) return;
+    if (!Replace(orientation_, orientation, Changed)) return;
     Move(Left(), Top(), Height(), Width());
 }
 

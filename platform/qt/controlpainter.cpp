@@ -12,6 +12,9 @@
 #include "platform/usercontrol.h"
 
 #include <iterator>
+#include <memory>
+#include <utility>
+#include <vector>
 
 #include <QPainter>
 #include <QPixmap>
@@ -31,6 +34,25 @@ QPixmap SharedReplayOf(const Surface& surface, QSize size, double scale, const P
         return pixels;
     });
 }
+
+// Where the controls on a surface leave it bare.
+class BareGround : public SurfaceImage {
+public:
+    BareGround(const QRect& area, std::vector<QRect> covered) : area_(area), covered_(std::move(covered)) {
+        QRegion bare(area);
+        for (const QRect& rect : covered_) bare -= rect;
+        Bare = bare;
+    }
+    bool IsOf(const QRect& area, const std::vector<QRect>& covered) const {
+        return area == area_ && covered == covered_;
+    }
+
+    QRegion Bare;
+
+private:
+    QRect area_;
+    std::vector<QRect> covered_;
+};
 
 }  // namespace
 
@@ -56,7 +78,7 @@ void ControlPainter::PaintAll(const UserControl& control, const QRect& area, Rep
     origin_ = inside.topLeft();
     painter_.setClipRect(damaged_);
     if (control.Surface().Commands().empty()) {
-        PaintGround(control);
+        PaintGround(control, inside);
     } else {
         PaintSurface(control.Surface(), inside.size(), replays);
     }
@@ -66,17 +88,20 @@ void ControlPainter::PaintAll(const UserControl& control, const QRect& area, Rep
     }
 }
 
-// Where no control covers it: the slides of a sheet cover nearly all of its ground.
-void ControlPainter::PaintGround(const UserControl& control) {
+// Where no control covers it: the slides of a sheet cover nearly all of its ground, and mostly stay where they are.
+void ControlPainter::PaintGround(const UserControl& control, const QRect& inside) {
     const Surface& surface = control.Surface();
-    surface.KeepImage(nullptr);
-    QRegion covered;
-    const auto& children = control.Children();
-    for (auto child = std::rbegin(children); child != std::rend(children); ++child) {
-        if ((*child)->Visible() && dynamic_cast<const UserControl*>(&**child) != nullptr) covered += AreaOf(**child);
+    std::vector<QRect> covered;
+    for (const auto& child : control.Children()) {
+        if (child->Visible() && dynamic_cast<const UserControl*>(&*child) != nullptr) covered.push_back(AreaOf(*child));
+    }
+    auto ground = std::dynamic_pointer_cast<BareGround>(surface.Image());
+    if (!ground || !ground->IsOf(inside, covered)) {
+        ground = std::make_shared<BareGround>(inside, std::move(covered));
+        surface.KeepImage(ground);
     }
     const QColor color = ToQColor(surface.BackColor(), tools_.screen);
-    for (const QRect& rect : QRegion(damaged_) - covered) painter_.fillRect(rect, color);
+    for (const QRect& rect : ground->Bare& damaged_) painter_.fillRect(rect, color);
 }
 
 void ControlPainter::PaintSurface(const Surface& surface, QSize size, Replays replays) {

@@ -53,8 +53,8 @@ private:
     QRect AreaOf(const Control& control) const;
     // Everything of a control that is damaged. area: that of the control in the painter's device.
     void PaintAll(const UserControl& control, const QRect& area, Replays replays);
-    // Of a control whose surface has nothing on it.
-    void PaintGround(const UserControl& control);
+    // Of a control whose surface has nothing on it. inside: within its frame.
+    void PaintGround(const UserControl& control, const QRect& inside);
     void PaintSurface(const Surface& surface, QSize size, Replays replays);
 
     QPainter& painter_;

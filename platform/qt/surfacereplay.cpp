@@ -56,7 +56,7 @@ QRect OnDevice(const Extent& extent, double scale, const QImage& image) {
 
 const QImage& SurfaceReplay::Of(const Surface& surface, QSize size, double scale, const PaintTools& tools) {
     const Look look{size, scale, QGuiApplication::palette().cacheKey(), surface.BackColor()};
-    auto kept = std::static_pointer_cast<SurfaceReplay>(surface.Image());
+    auto kept = std::dynamic_pointer_cast<SurfaceReplay>(surface.Image());
     if (kept && kept->look_ == look && kept->revision_ == surface.Revision()) return kept->pixels_;
     if (!kept) {
         kept = std::make_shared<SurfaceReplay>();
