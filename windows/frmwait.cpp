@@ -122,7 +122,9 @@ bool FrmWait::Yield() {
 void FrmWait::MoveForm(const WinRect& r) {
     if (animating_) moved_ = r;
     if (animating_ || fromWhere_ == WaitPlace::None) return;
+    const int32_t width = ScaleWidth();
     TakeCaption(std::string(Fond().Caption()));
+    if (ScaleWidth() != width) SetWindowRgn(WholeRounded());  // another caption was set meanwhile
     Stand(fromWhere_, r, 0);
 }
 

@@ -293,6 +293,7 @@ TEST_F(WaitWindow, MovesToTheWidthOfACaptionThatWasChanged) {
     form.Fond().SetCaption("12345");
     form.MoveForm(kTarget);
     EXPECT_EQ(Place(), (WinRect{440, 200, 500, 240}));
+    EXPECT_EQ(State().Region, Region::CreateRoundRectRgn(0, 0, 60, 40, 15, 15)) << "none of it is cut";
 }
 
 TEST_F(WaitWindow, AClosedWindowDoesNotMove) {
