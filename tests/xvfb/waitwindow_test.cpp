@@ -21,13 +21,18 @@ using test::User;
 constexpr QRect kHere(200, 150, 600, 400);
 const QColor kGround(255, 0, 255);
 
+// How far a length stands from where it belongs on another one: at its start (0), in its middle (1), at its end (2).
+int Along(int which, int from, int length, int otherFrom, int otherLength) {
+    return from - otherFrom - (otherLength - length) * which / 2;
+}
+
 // A window in one colour with a line to type in, which counts what is pressed on it.
 class Typed final : public QWidget {
 public:
     Typed() {
         setGeometry(kHere);
         setPalette(kGround);
-        line.setGeometry(10, kHere.height() - 40, 200, 30);
+        line.setGeometry(10, kHere.height() / 4, 200, 30);  // under no place of the window
         show();
     }
     QLineEdit line{this};
@@ -76,7 +81,9 @@ TEST_P(WaitWindowUnderX, StandsRoundAndOpaqueAndLeavesKeysAndMouseToWhatLiesBene
     const WinRect rect{kHere.left(), kHere.top(), kHere.right() + 1, kHere.bottom() + 1};
     form.ShowAnimatedFrom("Tri en cours", GetParam(), rect, false);
     EXPECT_TRUE(User::Until([this] { return StandsCutOutAndOpaque(); }));
-    EXPECT_TRUE(kHere.contains(Place()));
+    const int key = static_cast<int>(GetParam()) - 1;  // as on a keypad
+    EXPECT_NEAR(Along(key % 3, Place().left(), Place().width(), kHere.left(), kHere.width()), 0, 1);
+    EXPECT_NEAR(Along(key / 3, Place().top(), Place().height(), kHere.top(), kHere.height()), 0, 1);
     EXPECT_FALSE(Widget().mask().contains(QPoint(0, 0)));
     // A pixel beside the text is of the panel's colours alone, not mixed with the ground.
     const QColor panel = Screen(Place()).pixelColor(8, Place().height() / 2);
@@ -96,7 +103,8 @@ TEST_P(WaitWindowUnderX, StandsRoundAndOpaqueAndLeavesKeysAndMouseToWhatLiesBene
 }
 
 INSTANTIATE_TEST_SUITE_P(Places, WaitWindowUnderX,
-                         testing::Values(WaitPlace::TopLeft, WaitPlace::Top, WaitPlace::Middle, WaitPlace::Bottom,
+                         testing::Values(WaitPlace::TopLeft, WaitPlace::Top, WaitPlace::TopRight, WaitPlace::Left,
+                                         WaitPlace::Middle, WaitPlace::Right, WaitPlace::BottomLeft, WaitPlace::Bottom,
                                          WaitPlace::BottomRight),
                          [](const auto& row) { return "At" + std::to_string(static_cast<int>(row.param)); });
 
