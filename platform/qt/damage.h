@@ -12,7 +12,7 @@ namespace vorlane {
 class Damage {
 public:
     // What is to be asked for now that part is damaged; nothing when it has been asked for already. What lies between
-    // many parts is painted with them.
+    // many parts is painted with them, unless it is much more than they are.
     std::optional<QRect> Add(const QRect& part);
     // Everything has been painted.
     void Clear() { parts_.clear(); }

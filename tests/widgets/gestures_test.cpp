@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPaintEvent>
+#include <QRegion>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -93,6 +95,41 @@ TEST_F(WidgetGestures, ABandSelectsWhatItTouches) {
     QTest::mouseRelease(Window(), Qt::LeftButton, {}, InSlide(1));
     EXPECT_FALSE(widget.sheet().SelRect.Visible());
     EXPECT_EQ(Selected(), "0 1");
+}
+
+// Hears what is painted of a widget.
+class Painted final : public QObject {
+public:
+    explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
+    QRegion region;
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) region |= static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+};
+
+// With a pixel around for each.
+QRegion EdgesOf(const QRect& band) {
+    return QRegion(band.adjusted(-1, -1, 1, 1)) - QRegion(band.adjusted(2, 2, -2, -2));
+}
+
+TEST_F(WidgetGestures, AMoveOfTheBandPaintsItsEdgesAndTheSlidesThatChangeAlone) {
+    QTest::mousePress(Window(), Qt::LeftButton, {}, {2, 2});
+    const auto moveTo = [this](int x, int y) {
+        Painted painted(widget);
+        QTest::mouseMove(Window(), {x, y});
+        QCoreApplication::processEvents();
+        return painted.region;
+    };
+    moveTo(200, 110);
+    EXPECT_EQ(moveTo(210, 112), EdgesOf({2, 2, 198, 108}) | EdgesOf({2, 2, 208, 110}));
+    EXPECT_EQ(Selected(), "0 1");
+    const QRect third = widget.DiapoRect(2).toAlignedRect().adjusted(-1, -1, 1, 1);
+    EXPECT_EQ(moveTo(350, 112), EdgesOf({2, 2, 208, 110}) | EdgesOf({2, 2, 348, 110}) | third);
+    EXPECT_EQ(Selected(), "0 1 2");
+    QTest::mouseRelease(Window(), Qt::LeftButton, {}, {350, 112});
 }
 
 TEST_F(WidgetGestures, AClickOnTheGroundTakesTheSelectionAndIsTold) {

@@ -15,10 +15,16 @@ TEST(DamageTest, APartIsAskedForOnce) {
 
 TEST(DamageTest, ManyPartsAreAskedForTogether) {
     Damage damage;
-    for (int i = 0; i < 4; ++i) EXPECT_EQ(damage.Add({10 * i, 0, 5, 5}), QRect(10 * i, 0, 5, 5));
-    EXPECT_EQ(damage.Add({0, 90, 5, 5}), QRect(0, 0, 35, 95));
-    EXPECT_EQ(damage.Add({20, 50, 5, 5}), std::nullopt);
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(damage.Add({10 * i, 0, 8, 5}), QRect(10 * i, 0, 8, 5));
+    EXPECT_EQ(damage.Add({0, 5, 38, 5}), QRect(0, 0, 38, 10));
+    EXPECT_EQ(damage.Add({20, 6, 5, 3}), std::nullopt);
     EXPECT_EQ(damage.Add({100, 50, 5, 5}), QRect(100, 50, 5, 5));
+}
+
+TEST(DamageTest, PartsThatLieFarApartStayParts) {
+    Damage damage;
+    for (int i = 0; i < 24; ++i) EXPECT_EQ(damage.Add({0, 10 * i, 100, 1}), QRect(0, 10 * i, 100, 1)) << i;
+    EXPECT_EQ(damage.Add({0, 240, 100, 1}), QRect(0, 0, 100, 241)) << "unless they are too many";
 }
 
 TEST(DamageTest, WhatHasBeenPaintedIsAskedForAgain) {
