@@ -288,7 +288,9 @@ TEST_F(DragTest, CountingTellsFilesAndTheFilesOfFolders) {
     RealFile("album/b.jpg");
     const std::string file = RealFile("c.jpg");
     const DataObject files = Files({file, folder.WithSeparator() + "album", "/nowhere", file + "|9"});
+    const int32_t yields = desktop.clock.Yields();
     EXPECT_EQ(sheet->CountObject(&files), 4);
+    EXPECT_EQ(desktop.clock.Yields(), yields) << "in one go";
     const DataObject text = Text(file + "\r\n" + folder.WithSeparator() + "album\r\n\r\n" + file);
     EXPECT_EQ(sheet->CountObject(&text), 3);
     const DataObject nothing;
