@@ -9,9 +9,14 @@ namespace vorlane {
 
 namespace {
 
+// A sum with it has no room for fractions: it comes out rounded, halves to even.
+constexpr double kNoFractions = 0x1.8p52;
+
+// Most numbers of a recording pass here, so it takes no call.
 template <class Integer>
 Integer Converted(double value) {
-    const double rounded = Round(value);
+    if (!(std::abs(value) < kNoFractions / 2)) throw failures::Overflow();
+    const double rounded = (value + kNoFractions) - kNoFractions;
     if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max())) {
         throw failures::Overflow();
     }
