@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
 #include <system_error>
 
 #if defined(__linux__)
@@ -16,33 +15,6 @@
 namespace vorlane::files {
 
 namespace fs = std::filesystem;
-
-namespace {
-
-bool Occupied(const fs::path& path) {
-    std::error_code error;
-    return fs::exists(fs::symlink_status(path, error));
-}
-
-// Renames where the system can't refuse to overwrite by itself: looks first. Gives the system's error, 0 for none.
-int RenameChecked(const fs::path& from, const fs::path& to) {
-    if (Occupied(to)) return EEXIST;
-    std::error_code error;
-    fs::rename(from, to, error);
-    return error.value();
-}
-
-// Gives the system's error, 0 for none.
-int RenameWithoutOverwriting(const fs::path& from, const fs::path& to) {
-#if defined(__linux__) && defined(RENAME_NOREPLACE)
-    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
-    const bool unknown = errno == EINVAL || errno == ENOSYS;  // by the file system, or by the kernel
-    if (!unknown) return errno;
-#endif
-    return RenameChecked(from, to);
-}
-
-}  // namespace
 
 fs::path ToPath(std::string_view path) {
     return {std::u8string(path.begin(), path.end())};
@@ -91,21 +63,5 @@ Dates DatesOf(std::string_view path) {
 }
 
 #endif
-
-void Rename(std::string_view from, std::string_view to) {
-    const fs::path source = ToPath(from);
-    const int error = RenameWithoutOverwriting(source, ToPath(to));
-    switch (error) {
-        case 0:
-            return;
-        case EEXIST:
-            throw failures::FileExists(error);
-        case ENOENT:
-        case ENOTDIR:
-            throw Occupied(source) ? failures::PathNotFound(error) : failures::FileNotFound(error);
-        default:
-            throw failures::AccessDenied(error);
-    }
-}
 
 }  // namespace vorlane::files

@@ -1,0 +1,20 @@
+// Ways to give a file another name without overwriting what is there, the safest first. Not every file system knows
+// them all.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+namespace vorlane::files {
+
+// The system's error, 0 for none; nothing when the file system doesn't know the way, and nothing has happened.
+using RenameAnswer = std::optional<int>;
+
+// In one step, which fails when something is at the new name.
+RenameAnswer RenameAtOnce(const std::filesystem::path& from, const std::filesystem::path& to);
+// By a second name, which fails when something is there; then the first one goes. Not for folders.
+RenameAnswer RenameByLink(const std::filesystem::path& from, const std::filesystem::path& to);
+// Looks first. What comes to be at the new name behind that look is overwritten.
+RenameAnswer RenameByLooking(const std::filesystem::path& from, const std::filesystem::path& to);
+
+}  // namespace vorlane::files
