@@ -1,6 +1,7 @@
 // What the user does to a show, and the way back.
 #include "editor/show.h"
 #include "editor/sortdata.h"
+#include "widgets/filerename.h"
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@
 #include <unordered_map>
 #include <utility>
 
-#include <QFile>
 #include <QFileInfo>
 #include <QUndoCommand>
 
@@ -229,7 +229,7 @@ void Show::ForgetIfLost() {
 
 // Nothing is ever replaced.
 void Show::RenameBack(const QString& from, const QString& to) {
-    if (QFileInfo::exists(to) || !QFile::rename(from, to)) {
+    if (!RenameFile(from, to)) {
         lost_ = true;
         Q_EMIT renameFailed(from, to);
         return;

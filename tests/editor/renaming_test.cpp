@@ -207,6 +207,29 @@ TEST_F(RenamingTest, UndoReplacesNoFileAndThenNothingCanBeUndone) {
     EXPECT_TRUE(window_->slides().isEdited());
 }
 
+TEST_F(RenamingTest, UndoGivesALinkItsNameBackThatLeadsNowhereAnyMore) {
+    test::PictureFolder other;
+    const QString picture = other.WritePicture("picture.jpg");
+    ASSERT_TRUE(QFile::link(picture, pictures_.Path("alder.jpg")));
+    ASSERT_TRUE(Open(Folder()));
+    Rename(0, "zelkova");
+    ASSERT_TRUE(QFile::remove(picture));
+    Undo();
+    EXPECT_EQ(QFileInfo(pictures_.Path("alder.jpg")).symLinkTarget(), picture);
+    EXPECT_FALSE(QFileInfo(pictures_.Path("zelkova.jpg")).isSymLink());
+    EXPECT_EQ(Letters(), "a");
+}
+
+TEST_F(RenamingTest, UndoWritesThroughNoLinkThatHasTheOldName) {
+    ASSERT_TRUE(OpenTrees("abc"));
+    Rename(1, "zelkova");
+    ASSERT_TRUE(QFile::link(pictures_.Path("nowhere"), pictures_.Path("birch.jpg")));
+    Undo();
+    EXPECT_TRUE(Exists("zelkova.jpg"));
+    EXPECT_FALSE(Exists("nowhere"));
+    EXPECT_TRUE(QFileInfo(pictures_.Path("birch.jpg")).isSymLink());
+}
+
 TEST_F(RenamingTest, WhatWasMovedBeforeComesBackUnderItsOldName) {
     window_->slides().setOrder({SortBy::Hand, false});
     ASSERT_TRUE(OpenTrees("abc"));
