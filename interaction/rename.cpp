@@ -109,34 +109,37 @@ void Vorlane::EndEdit() {
 }
 
 void Vorlane::EndEdit(bool& cancel, MsgBoxObject* msgBox) {
-    const std::optional<int16_t> slot = NumberIn(Txt.Tag());
-    if (!slot || !Txt.Visible() || inEndEdit_) return;
-    const WithinBlock ending(inEndEdit_);
-    if (Txt.Text().empty()) return CloseEdit("", "", true);
-    if (*slot < 0 || *slot >= Diapo.Count()) return;
-    if (cancel) return CloseEdit("", "", true);
-    const int32_t item = Diapo.Item(*slot)->Value();
-    if (item < 0) return CloseEdit("", "", true);
-    const std::string oldPath = ItemFullPath(item);
-    const std::string oldName = NameIn(oldPath);
-    const std::string typed = Txt.Text();
-    if (typed == oldName) return HideEdit();
-    const std::string newPath = ReplacedAll(oldPath, oldName, typed);
-    const auto rename = [&] {
-        CheckNewName(typed, newPath, oldPath);
-        if (IsTaken(newPath, oldPath)) {
-            TellTaken(newPath, oldPath, cancel, msgBox);
-            return false;
-        }
-        RenameFile(item, oldPath, newPath, *slot);
-        return true;
+    const auto end = [&] {
+        const std::optional<int16_t> slot = NumberIn(Txt.Tag());
+        if (!slot || !Txt.Visible() || inEndEdit_) return;
+        const WithinBlock ending(inEndEdit_);
+        if (Txt.Text().empty()) return CloseEdit("", "", true);
+        if (*slot < 0 || *slot >= Diapo.Count()) return;
+        if (cancel) return CloseEdit("", "", true);
+        const int32_t item = Diapo.Item(*slot)->Value();
+        if (item < 0 || Bound().AsListBox() == nullptr) return CloseEdit("", "", true);
+        const std::string oldPath = ItemFullPath(item);
+        const std::string oldName = NameIn(oldPath);
+        const std::string typed = Txt.Text();
+        if (typed == oldName) return HideEdit();
+        const std::string newPath = ReplacedAll(oldPath, oldName, typed);
+        const auto rename = [&] {
+            CheckNewName(typed, newPath, oldPath);
+            if (IsTaken(newPath, oldPath)) {
+                TellTaken(newPath, oldPath, cancel, msgBox);
+                return false;
+            }
+            RenameFile(item, oldPath, newPath, *slot);
+            return true;
+        };
+        const auto tell = [&](const Failure& failure) {
+            Desktop().dialogs.MsgBox(CannotRename(oldName, typed, failure.Number), kErrorIcon, kRenameTitle);
+        };
+        if (!Trap(pending_, rename, tell, false)) return Txt.SetFocus();
+        if (sort_.SortedSens != SortSensType::ssNone) Sort();
+        CloseEdit(newPath, oldPath, false);
     };
-    const auto tell = [&](const Failure& failure) {
-        Desktop().dialogs.MsgBox(CannotRename(oldName, typed, failure.Number), kErrorIcon, kRenameTitle);
-    };
-    if (!Trap(pending_, rename, tell, false)) return Txt.SetFocus();
-    if (sort_.SortedSens != SortSensType::ssNone) Sort();
-    CloseEdit(newPath, oldPath, false);
+    GuardVoid(end, "EndEdit", cancel);
 }
 
 // The host may replace the text; that it wants no message is no matter.
@@ -163,6 +166,7 @@ void Vorlane::RenameFile(int32_t item, const std::string& oldPath, const std::st
     }
 }
 
+// Both follow the new name, or neither does.
 void Vorlane::RenameDiapo(int32_t listIndex, const std::string& oldName, const std::string& newName,
                           int16_t diapoIndex) {
     ListBox* list = Bound().AsListBox();
@@ -173,12 +177,26 @@ void Vorlane::RenameDiapo(int32_t listIndex, const std::string& oldName, const s
     const auto part = [&](const std::string& path) { return sameExtension ? NameIn(path) : Trelmic6::FileName(path); };
     const int16_t slot = diapoIndex < 0 ? SlotFromListIndex(listIndex) : diapoIndex;
     const auto slide = slot < 0 ? nullptr : Diapo.Item(slot);
-    list->SetList(listIndex, ReplacedAll(list->List(listIndex), part(oldName), part(newName)));
-    if (slide) slide->SetImageFullPath(eDiapoLight::KnownPath(newName));
+    const std::string item = list->List(listIndex);
+    const std::string shown = slide ? slide->ImageFullPath() : "";
+    try {
+        list->SetList(listIndex, ReplacedAll(item, part(oldName), part(newName)));
+        if (slide) slide->SetImageFullPath(eDiapoLight::KnownPath(newName));
+    } catch (...) {
+        Attempt([&] { list->SetList(listIndex, item); });
+        if (slide) Attempt([&] { slide->SetImageFullPath(shown); });
+        throw;
+    }
 }
 
+// The box goes also when a handler fails.
 void Vorlane::CloseEdit(const std::string& newPath, const std::string& oldPath, bool canceled) {
-    Events.AfterEdit(newPath, oldPath, canceled);
+    try {
+        Events.AfterEdit(newPath, oldPath, canceled);
+    } catch (...) {
+        HideEdit();
+        throw;
+    }
     HideEdit();
 }
 

@@ -2,6 +2,7 @@
 #include "interaction/msgboxobject.h"
 #include "tests/interaction/gesturefixture.h"
 #include "tests/platform/temporaryfolder.h"
+#include "tests/sheet/vectorlistbox.h"
 
 #include <fstream>
 
@@ -406,6 +407,54 @@ TEST_F(RenameTest, AHandlerThatFailsIsToldLikeAFailedRename) {
     ExpectNothingRenamed("Yack");
 }
 
+TEST_F(RenameTest, WhenTheSlideCannotFollowFileItemAndSlideAreAsTheyWere) {
+    const std::string item = sheet->Liste()->List(0);
+    Type("Aube");
+    sheet->Diapo.Item(0)->LblTop.Changed.connect([] { throw failures::InvalidCall(); });
+    Enter();
+    EXPECT_EQ(Messages(), Failed("Aube", 5));
+    ExpectNothingRenamed("Aube");
+    EXPECT_FALSE(Exists(Path("Aube.jpg")));
+    EXPECT_EQ(sheet->Liste()->List(0), item);
+    EXPECT_EQ(sheet->Diapo.Item(0)->LblTop.Caption(), "Zebre.jpg");
+}
+
+TEST_F(RenameTest, WhenTheItemCannotFollowFileItemAndSlideAreAsTheyWere) {
+    VectorListBox list(500);
+    sheet->InitListe(ListeModeType::lmList, &list);
+    sheet->Add(Path("Zebre.jpg"), "Zebre", 500);
+    sheet->StartLecture();
+    const std::string item = list.List(0);
+    Type("Aube");
+    list.failsBehindWrites = true;
+    Enter();
+    EXPECT_EQ(Messages(), Failed("Aube", 5));
+    ExpectNothingRenamed("Aube");
+    EXPECT_FALSE(Exists(Path("Aube.jpg")));
+    EXPECT_EQ(list.List(0), item);
+    list.failsBehindWrites = false;
+    Enter();
+    EXPECT_TRUE(Exists(Path("Aube.jpg")));
+    EXPECT_EQ(sheet->ImageFullPath(0), Path("Aube.jpg"));
+    sheet->InitListe(ListeModeType::lmList);
+}
+
+TEST_F(RenameTest, TheBoxGoesAlsoWhenAHandlerOfTheEndFails) {
+    sheet->Events.AfterEdit.connect(
+        [](const std::string&, const std::string&, bool) { throw failures::InvalidCall(); });
+    Type("Aube");
+    sheet->EndEdit();
+    EXPECT_EQ(Heard(), "host AfterEdit [Aube.jpg] [Zebre.jpg]\nhost Error 5 Vorlane EndEdit DpCnt=3 - 0\n");
+    EXPECT_FALSE(sheet->Txt.Visible());
+    EXPECT_EQ(sheet->Txt.Tag(), "");
+    EXPECT_TRUE(Exists(Path("Aube.jpg")));
+    Type("Bise");
+    bool cancel = true;
+    sheet->EndEdit(cancel);
+    EXPECT_EQ(Heard(), "host AfterEdit [] [] canceled\nhost Error 5 Vorlane EndEdit DpCnt=3 - -1\n");
+    EXPECT_FALSE(sheet->Txt.Visible());
+}
+
 // --- RenameDiapo ---
 
 TEST_F(RenameTest, RenameDiapoChangesItemAndSlideAndTouchesNoFile) {
@@ -435,6 +484,19 @@ TEST_F(RenameTest, AnEditOfASlideWhoseItemHasGoneIsCanceled) {
     EXPECT_THAT(Heard(), testing::StartsWith("host AfterEdit [] [] canceled\n"));
     EXPECT_FALSE(sheet->Txt.Visible());
     EXPECT_TRUE(Exists(Path("Zebre.jpg")));
+}
+
+TEST_F(RenameTest, AnEditIsCanceledOnceAFileListIsBound) {
+    Type("Aube");
+    sheet->FileInterne.Read(folder.Path(), "*.*");
+    sheet->InitListe(ListeModeType::lmFileList);
+    sheet->StartLecture();
+    ASSERT_EQ(sheet->Diapo.Item(0)->ImageFullPath(), Path("Xylo.jpg"));
+    Heard();
+    sheet->EndEdit();
+    EXPECT_EQ(Heard(), "host AfterEdit [] [] canceled\n");
+    EXPECT_FALSE(sheet->Txt.Visible());
+    EXPECT_TRUE(Exists(Path("Xylo.jpg")));
 }
 
 }  // namespace

@@ -53,7 +53,10 @@ public:
         items_.erase(items_.begin() + index);
     }
     void Clear() override { items_.clear(); }
-    void SetList(int32_t index, std::string_view text) override { At(index).text = text; }
+    void SetList(int32_t index, std::string_view text) override {
+        At(index).text = text;
+        if (failsBehindWrites) throw failures::InvalidCall();
+    }
     int32_t ItemData(int32_t index) const override { return At(index).data; }
     void SetItemData(int32_t index, int32_t data) override { At(index).data = data; }
     int32_t FindItemData(int32_t data) const override {
@@ -72,6 +75,7 @@ public:
     bool sorted = false;  // says that it keeps itself in order; it does not
     bool dead = false;    // can't tell whether it does
     bool mute = false;    // can't tell which items are selected
+    bool failsBehindWrites = false;
 
 private:
     struct Item {
