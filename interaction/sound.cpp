@@ -134,11 +134,16 @@ void Vorlane::ShowPlaying(int16_t slot, int32_t listIndex) {
 
 // --- The poll ---
 
+// What is played while an end is told has its own end told, too.
 void Vorlane::SoundTick() {
     const auto tick = [&] {
+        const sheet::Sound before = sound_;
         const bool music = StillPlays(false);
         const bool comment = StillPlays(true);
-        if (!music && !comment) TimerSon.SetEnabled(false);
+        const auto renewed = [&](bool channel) {
+            return sound_.Of(channel).Failed || sound_.Of(channel).Alias != before.Of(channel).Alias;
+        };
+        if (!music && !comment && !renewed(false) && !renewed(true)) TimerSon.SetEnabled(false);
     };
     GuardVoid(tick, "TimerSon_Timer");
 }

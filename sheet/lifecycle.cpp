@@ -1,5 +1,6 @@
 // The sheet from its making to its end.
 #include "platform/boxing.h"
+#include "platform/sounds.h"
 #include "sheet/vorlane.h"
 
 #include <vector>
@@ -61,9 +62,12 @@ Vorlane::Vorlane(const vorlane::Desktop& desktop, const vorlane::Ambient& ambien
     TimerUnload.Tick.connect([this] { Attempt([this] { UnloadTick(); }); });
 }
 
-// Nobody lets the bar of a sheet go that is no more.
+// Nobody lets the bar of a sheet go that is no more, or stops its sounds.
 Vorlane::~Vorlane() {
     CloseFollowWindow();
+    for (const bool comment : {false, true}) {
+        Attempt([&] { Desktop().sounds.Stop(sound_.Of(comment).Alias); });
+    }
     Terminate();
 }
 

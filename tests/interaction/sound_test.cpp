@@ -29,7 +29,10 @@ protected:
                 std::to_string(canal));
         });
         events.ClickText.connect([this](int16_t index) { Say("ClickText " + std::to_string(index)); });
-        events.SoundEnded.connect([this](int32_t canal) { Say("SoundEnded " + std::to_string(canal)); });
+        events.SoundEnded.connect([this](int32_t canal) {
+            Say("SoundEnded " + std::to_string(canal));
+            if (onSoundEnded) std::exchange(onSoundEnded, nullptr)();
+        });
         Show(20);
     }
 
@@ -37,6 +40,13 @@ protected:
     std::string Happened() { return desktop.trace.Take({"sounds", "sound"}); }
     void ClickMusic(int16_t slot) { sheet->Diapo.Item(slot)->BtPlay.Input.Click(); }
     void ClickComment(int16_t slot) { sheet->Diapo.Item(slot)->BtComment.Input.Click(); }
+    // A button of a slide on which something runs stops it, so the music is over, and not closed yet, as it begins.
+    void PlayCommentBehindMusic(int16_t slot) {
+        ClickMusic(slot);
+        desktop.sounds.End("son1");
+        ClickComment(slot);
+        Happened();
+    }
     std::string Music(int16_t slot) { return headless::NameOf(sheet->Diapo.Item(slot)->BtPlayPicture()); }
     std::string Comment(int16_t slot) { return headless::NameOf(sheet->Diapo.Item(slot)->BtCommentPicture()); }
 
@@ -44,6 +54,7 @@ protected:
     std::string ownAlias;
     bool plays = true;
     std::function<void()> onClickPlay;
+    std::function<void()> onSoundEnded;  // the next one
 };
 
 TEST_F(SoundTest, AClickPlaysWhatTheHostOffersAndTurnsTheButton) {
@@ -145,6 +156,52 @@ TEST_F(SoundTest, MusicAndCommentOfOneSlidePlayTogether) {
     EXPECT_FALSE(sheet->TimerSon.Enabled());
 }
 
+TEST_F(SoundTest, StopSoundOfTheMusicLeavesTheCommentToItsEnd) {
+    PlayCommentBehindMusic(2);
+    sheet->StopSound(0);
+    EXPECT_EQ(Happened(), "sound stop son1\n");
+    EXPECT_EQ(Music(2), "play");
+    EXPECT_EQ(Comment(2), "stop");
+    desktop.clock.Advance(2000);
+    EXPECT_EQ(Happened(), "sound stop son2\nsounds SoundEnded 12\n");
+    EXPECT_EQ(Comment(2), "play-comment");
+    EXPECT_FALSE(sheet->TimerSon.Enabled());
+}
+
+TEST_F(SoundTest, WhatIsPlayedWhileAnEndIsToldHasItsOwnEndTold) {
+    onSoundEnded = [this] { ClickMusic(3); };
+    ClickMusic(2);
+    desktop.clock.Advance(2000);
+    EXPECT_EQ(Music(3), "stop");
+    EXPECT_TRUE(sheet->TimerSon.Enabled());
+    Happened();
+    desktop.clock.Advance(2000);
+    EXPECT_EQ(Happened(), "sound stop son2\nsounds SoundEnded 11\n");
+    EXPECT_EQ(Music(3), "play");
+    EXPECT_FALSE(sheet->TimerSon.Enabled());
+}
+
+TEST_F(SoundTest, WhatCannotBePlayedWhileAnEndIsToldEndsAtTheNextTick) {
+    onSoundEnded = [this] {
+        desktop.sounds.FailPlaying(true);
+        ClickMusic(3);
+    };
+    ClickMusic(2);
+    desktop.clock.Advance(2000);
+    EXPECT_EQ(Music(3), "stop");
+    Happened();
+    desktop.clock.Advance(1000);
+    EXPECT_EQ(Happened(), "sounds SoundEnded 11\n");
+    EXPECT_EQ(Music(3), "play");
+    EXPECT_FALSE(sheet->TimerSon.Enabled());
+}
+
+TEST_F(SoundTest, WhatPlaysStopsWithTheSheet) {
+    PlayCommentBehindMusic(2);
+    sheet.reset();
+    EXPECT_EQ(Happened(), "sound stop son1\nsound stop son2\n");
+}
+
 TEST_F(SoundTest, StopSoundOfOneChannelLeavesTheTimer) {
     ClickMusic(2);
     sheet->StopSound(0);
@@ -178,6 +235,26 @@ TEST_F(SoundTest, ASlideThatComesBackIntoSightShowsThatItPlays) {
     sheet->VScroll.SetValue(0);
     EXPECT_EQ(Music(0), "stop");
     sheet->StopSound();
+    EXPECT_EQ(Music(0), "play");
+}
+
+TEST_F(SoundTest, ASlideThatComesBackShowsOnWhichOfItsChannelsItPlays) {
+    desktop.sounds.Add("/s/a.mp3", 60);
+    PlayCommentBehindMusic(0);
+    sheet->VScroll.SetValue(9);
+    EXPECT_EQ(Comment(0), "play-comment");
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(Music(0), "play");
+    EXPECT_EQ(Comment(0), "stop");
+    EXPECT_EQ(Comment(1), "play-comment");
+    sheet->StopSound();
+}
+
+TEST_F(SoundTest, ASlideThatComesBackBehindTheEndShowsNothingOfIt) {
+    ClickMusic(0);
+    sheet->VScroll.SetValue(9);
+    desktop.clock.Advance(2000);
+    sheet->VScroll.SetValue(0);
     EXPECT_EQ(Music(0), "play");
 }
 
