@@ -130,6 +130,29 @@ TEST_F(ZoomServiceTest, TheInfoButtonShowsWhatTheHostTellsForAsLongAsItIsHeld) {
     EXPECT_EQ(desktop.windows.OpenWindows(), 1);
 }
 
+// Black on the system's ground for infos, at once, for half a minute at most.
+TEST_F(ZoomServiceTest, TheBalloonIsMadeWithItsValues) {
+    Tell("Photo", "60 x 40|JPEG", 3);
+    PressInfo(1);
+    const std::string ground = std::to_string(desktop.screen.SysColor(24));
+    EXPECT_EQ(
+        Tips(),
+        "tooltip init\n"
+        "tooltip 2 create style=67 over 1\n"
+        "tooltip 2 top\n"
+        "tooltip 2 1028 0 {size=44 flags=16 window=1 id=0 rect=0,0,345,180 text=[60 x 40\\nJPEG\u00A0\u00A0\u00A0]}\n"
+        "tooltip 2 1056 3 [Photo]\n"
+        "tooltip 2 1044 0 0\n"
+        "tooltip 2 1043 " +
+            ground +
+            " 0\n"
+            "tooltip 2 1027 3 0\n"
+            "tooltip 2 1027 2 30000\n"
+            "tooltip 2 1025 -1 0\n");
+    ReleaseInfo(1);
+    EXPECT_THAT(Tips(), testing::StartsWith("tooltip 2 1025 0 0\n"));
+}
+
 TEST_F(ZoomServiceTest, AHostThatGivesNoTextGetsNoBalloon) {
     Tell("", "", 2);
     PressInfo(0);
