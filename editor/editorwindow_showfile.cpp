@@ -179,10 +179,7 @@ void EditorWindow::Recover(const QString& file) {
 }
 
 void EditorWindow::KeepRecovered() {
-    const QString file = std::exchange(recovered_, {});
-    if (file.isEmpty()) return;
-    keeper_->touch();
-    if (keeper_->keep().isEmpty()) keeper_->recovery().drop(file);
+    if (!recovered_.isEmpty()) keeper_->takeUp(std::exchange(recovered_, {}));
 }
 
 }  // namespace vorlane::editor

@@ -32,6 +32,7 @@ bool ShowKeeper::isModified() const {
 void ShowKeeper::begin(const QString& path) {
     path_ = path;
     touched_ = abandoned_ = false;
+    takenUp_.clear();
     Changed();
 }
 
@@ -59,7 +60,19 @@ QString ShowKeeper::keep() {
         return {};
     }
     show->origin = path_;
-    return recovery_->keep(*show);
+    const QString failure = recovery_->keep(*show);
+    if (failure.isEmpty()) DropTakenUp();
+    return failure;
+}
+
+void ShowKeeper::takeUp(const QString& file) {
+    takenUp_ = file;
+    touch();
+    keep();
+}
+
+void ShowKeeper::DropTakenUp() {
+    if (!takenUp_.isEmpty()) recovery_->drop(std::exchange(takenUp_, {}));
 }
 
 void ShowKeeper::abandon() {
@@ -73,6 +86,7 @@ void ShowKeeper::Changed() {
     } else {
         pause_.stop();
         recovery_->forget();
+        DropTakenUp();
     }
     Q_EMIT modifiedChanged();
 }

@@ -41,6 +41,9 @@ public:
     QString save(const QString& path);
     // Keeps it for recovery at once, or later when it is being read. Gives a sentence for the user when that fails.
     QString keep();
+    // It is what an abandoned file holds, and kept at once. The file goes as soon as that has succeeded, or what it
+    // holds is saved or not wanted.
+    void takeUp(const QString& file);
     // What isn't saved is not wanted.
     void abandon();
 
@@ -50,6 +53,7 @@ Q_SIGNALS:
 
 private:
     void Changed();
+    void DropTakenUp();
 
     Show& show_;
     Present present_;
@@ -57,6 +61,7 @@ private:
     QString path_;
     bool touched_ = false;
     bool abandoned_ = false;
+    QString takenUp_;  // an abandoned file that is still needed; empty: none
     QTimer pause_{this};
 };
 

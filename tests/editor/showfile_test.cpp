@@ -373,5 +373,40 @@ TEST_F(ShowFileTest, AShowThatIsBeingReadIsNeitherSavedNorKept) {
     EXPECT_TRUE(keeper.isModified());
 }
 
+TEST_F(ShowFileTest, WhatIsTakenUpStaysInItsFileUntilItIsKept) {
+    const QString left = Leave("left", "cab", 1);
+    std::optional<SavedShow> present;
+    ShowKeeper keeper(window_->slides(), [&] { return present; });
+    keeper.setRecoveryFolder(RecoveryFolder());
+    keeper.takeUp(left);
+    EXPECT_TRUE(keeper.isModified());
+    EXPECT_EQ(Kept(), QStringList("left.vorlane"));
+    present = OfPictures("cab");
+    EXPECT_EQ(keeper.keep(), "");
+    EXPECT_FALSE(QFile::exists(left));
+    ASSERT_EQ(Kept().size(), 1);
+    EXPECT_EQ(LoadShow(RecoveryFolder() + "/" + Kept().first()).show->pictures, present->pictures);
+}
+
+TEST_F(ShowFileTest, WhatIsTakenUpAndSavedBeforeItIsKeptIsNotOfferedAgain) {
+    const QString left = Leave("left", "cab", 1);
+    std::optional<SavedShow> present;
+    ShowKeeper keeper(window_->slides(), [&] { return present; });
+    keeper.setRecoveryFolder(RecoveryFolder());
+    keeper.takeUp(left);
+    present = OfPictures("cab");
+    ASSERT_EQ(keeper.save(files_.filePath("q.vorlane")), "");
+    EXPECT_TRUE(Kept().isEmpty());
+}
+
+TEST_F(ShowFileTest, WhatIsTakenUpOutlivesAnotherShowThatComesBeforeItIsKept) {
+    const QString left = Leave("left", "cab", 1);
+    ShowKeeper keeper(window_->slides(), [] { return std::optional<SavedShow>(); });
+    keeper.setRecoveryFolder(RecoveryFolder());
+    keeper.takeUp(left);
+    keeper.begin({});
+    EXPECT_TRUE(QFile::exists(left));
+}
+
 }  // namespace
 }  // namespace vorlane::editor
