@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPointer>
 
 namespace vorlane::editor {
 
@@ -32,7 +33,9 @@ QString CommentRecorder::start(const QString& path) {
         return tr("Impossible d'enregistrer « %1 » : %2").arg(QDir::toNativeSeparators(path), file->failure());
     file_ = std::move(file);
     microphone_ = std::move(microphone);
-    const auto end = [this] {
+    // What is under way when its recording stops may come in the middle of the next one.
+    const auto end = [this, recording = QPointer(microphone_.get())] {
+        if (!recording) return;
         ended_ = true;
         Q_EMIT broken();
     };

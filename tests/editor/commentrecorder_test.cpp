@@ -99,6 +99,26 @@ TEST_F(CommentRecorderTest, AMicrophoneThatGoesIsTold) {
     EXPECT_EQ(recording.failure, "Le commentaire est incomplet : le microphone ne répond plus");
 }
 
+TEST_F(CommentRecorderTest, AMicrophoneThatGoesAsItsRecordingStopsDoesNotBreakTheNextOne) {
+    ASSERT_EQ(recorder_.start(Path()), "");
+    EXPECT_TRUE(microphone_->Hear(1));
+    microphone_->Break();
+    EXPECT_EQ(recorder_.stop().failure, "");
+    ASSERT_EQ(recorder_.start(folder_.filePath("b.wav")), "");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(broken_, 0);
+    EXPECT_TRUE(microphone_->Hear(1));
+    EXPECT_EQ(recorder_.stop().failure, "");
+}
+
+TEST_F(CommentRecorderTest, AMicrophoneThatGoesBehindItsRecordingIsNotTold) {
+    ASSERT_EQ(recorder_.start(Path()), "");
+    microphone_->Break();
+    recorder_.stop();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(broken_, 0);
+}
+
 TEST_F(CommentRecorderTest, TheNamesOfCommentsAreCountedOn) {
     const QString first = CommentRecorder::freeName(folder_.path(), "Commentaire");
     EXPECT_EQ(first, folder_.filePath("Commentaire 1.wav"));
