@@ -34,6 +34,7 @@ static_assert(Same(WaitPlace::BottomRight, vorlane::WaitPlace::BottomRight));
 static_assert(Same(SoundTrouble::Missing, vorlane::SoundTrouble::Missing));
 static_assert(Same(SoundTrouble::Gone, vorlane::SoundTrouble::Gone));
 static_assert(Same(SoundTrouble::NoDevice, vorlane::SoundTrouble::NoDevice));
+static_assert(Same(SoundTrouble::Unreadable, vorlane::SoundTrouble::Unreadable));
 
 }  // namespace
 

@@ -72,6 +72,7 @@ enum class SoundTrouble {
     Unplayable = 1,  // it is damaged, or no sound
     Gone = 2,        // the file has gone while it plays; it is heard as far as the system still gives it
     NoDevice = 3,    // there is nothing to hear it on: it plays silently, or ends if the device has gone
+    Unreadable = 4,  // the file may not be read
 };
 Q_ENUM_NS(SoundTrouble)
 

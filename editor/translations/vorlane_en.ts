@@ -792,6 +792,10 @@
         <source>Aucun périphérique audio&#xa0;: «&#xa0;%1&#xa0;» ne s&apos;entend pas</source>
         <translation>No audio device: “%1” can&apos;t be heard</translation>
     </message>
+    <message>
+        <source>Le son «&#xa0;%1&#xa0;» est illisible</source>
+        <translation>The sound “%1” can&apos;t be read</translation>
+    </message>
 </context>
 <context>
     <name>vorlane::editor::VolumePanel</name>

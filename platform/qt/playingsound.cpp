@@ -6,6 +6,7 @@
 
 #include <QAudioDevice>
 #include <QAudioOutput>
+#include <QFile>
 #include <QFileInfo>
 #include <QMediaDevices>
 #include <QMediaPlayer>
@@ -20,6 +21,8 @@ PlayingSound::PlayingSound(const QString& path, const SoundManner& manner, QObje
         EndBy(SoundTrouble::Missing);
     } else if (!file.isFile()) {
         EndBy(SoundTrouble::Unplayable);
+    } else if (!QFile(path_).open(QIODevice::ReadOnly)) {
+        EndBy(SoundTrouble::Unreadable);
     } else {
         Start(manner);
     }

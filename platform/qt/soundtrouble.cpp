@@ -17,6 +17,8 @@ const char* Sentence(SoundTrouble trouble) {
             return QT_TRANSLATE_NOOP("vorlane::SoundTrouble", "Le fichier « %1 » a disparu pendant la lecture");
         case SoundTrouble::NoDevice:
             return QT_TRANSLATE_NOOP("vorlane::SoundTrouble", "Aucun périphérique audio : « %1 » ne s'entend pas");
+        case SoundTrouble::Unreadable:
+            return QT_TRANSLATE_NOOP("vorlane::SoundTrouble", "Le son « %1 » est illisible");
     }
     return "";
 }

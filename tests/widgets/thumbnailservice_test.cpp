@@ -1,12 +1,12 @@
 #include "widgets/thumbnailservice.h"
 
+#include "tests/platform/plainuser.h"
 #include "tests/widgets/thumbnailsupport.h"
 
 #include <atomic>
 #include <gtest/gtest.h>
 #include <stdexcept>
 #include <thread>
-#include <unistd.h>
 
 #include <QThread>
 
@@ -17,16 +17,6 @@ using test::WaitFor;
 using State = ThumbnailService::State;
 
 namespace {
-
-// Nobody in particular for a while, since the superuser may read everything.
-class PlainUser {
-public:
-    PlainUser() { EXPECT_EQ(super_ ? seteuid(65534) : 0, 0); }
-    ~PlainUser() { EXPECT_EQ(super_ ? seteuid(0) : 0, 0); }
-
-private:
-    const bool super_ = geteuid() == 0;
-};
 
 class ThumbnailServiceTest : public testing::Test {
 protected:

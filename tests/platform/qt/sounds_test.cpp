@@ -1,5 +1,6 @@
 // Sounds that are played from real files, in real time, with or without a device to hear them on.
 #include "platform/qt/qtsounds.h"
+#include "tests/platform/plainuser.h"
 #include "tests/platform/qt/soundfiles.h"
 
 #include <cstdio>
@@ -137,6 +138,18 @@ TEST_F(QtSoundsTest, WhatIsNoSoundIsToldOnceAndStopsNothingElse) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !Plays(next); }, kLimit));
     EXPECT_EQ(told, std::vector{SoundTrouble::Unplayable});
     EXPECT_TRUE(Plays(other));
+}
+
+TEST_F(QtSoundsTest, AFileThatMayNotBeReadIsToldApart) {
+    const PlainUser user;
+    test::SoundFiles own;
+    const QString file = own.WriteWave("closed.wav", 60);
+    ASSERT_TRUE(QFile::setPermissions(file, {}));
+    const std::string alias = Play(file);
+    EXPECT_FALSE(Plays(alias));
+    EXPECT_TRUE(WaitForTrouble());
+    EXPECT_EQ(told, std::vector{SoundTrouble::Unreadable});
+    EXPECT_EQ(SoundTroubleText(told.front(), file), QString::fromUtf8("Le son « closed.wav » est illisible"));
 }
 
 TEST_F(QtSoundsTest, AFolderIsNoSound) {
