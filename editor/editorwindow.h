@@ -74,6 +74,8 @@ public:
     // Whether all that was asked for is read and all slides show what they should.
     bool isSettled() const;
 
+    // Milliseconds that the window may be busy at a time with adding what is read; with 0 it adds a handful.
+    void setSliceTime(int milliseconds) { sliceTime_ = milliseconds; }
     // What opens a picture's file; gives false where nothing does. At first it is the system's usual program.
     using PictureOpener = std::function<bool(const QString& path)>;
     void setPictureOpener(PictureOpener opener) { opener_ = std::move(opener); }
@@ -252,6 +254,7 @@ private:
     int deferred_ = 0;      // lots that were added and wait for the show to finish its work
     bool complete_ = true;  // all of the folder that was asked for last is on the list, or none of it will be
     QTimer slices_;
+    int sliceTime_ = 8;
     QTimer noticeEnd_;
     QElapsedTimer sinceShown_;
 };

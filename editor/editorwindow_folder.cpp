@@ -22,7 +22,6 @@ namespace vorlane::editor {
 
 namespace {
 
-constexpr qint64 kSlice = 8;        // milliseconds that the window may be busy with adding at a time
 constexpr qint64 kShowAgain = 400;  // milliseconds after which the bar is given what came meanwhile
 constexpr size_t kHandful = 64;
 
@@ -138,7 +137,7 @@ void EditorWindow::TakeSlice() {
             missing_ += item.missing ? 1 : 0;
         }
         read_ += static_cast<int>(items.size());
-    } while (!items.empty() && slice.elapsed() < kSlice);
+    } while (!items.empty() && slice.elapsed() < sliceTime_);
     const bool all = !reader_.isRunning();
     if (items.empty()) slices_.stop();
     if (all || !sinceShown_.isValid() || sinceShown_.elapsed() >= kShowAgain) ShowSheet();

@@ -2,6 +2,7 @@
 
 #include "editor/languages.h"
 #include "editor/navigator.h"
+#include "editor/show.h"
 #include "editor/slidesize.h"
 #include "tests/editor/windowfixture.h"
 #include "tests/platform/qt/barhand.h"
@@ -22,6 +23,18 @@ namespace {
 class EditorWindowTest : public WindowFixture {
 protected:
     QScrollBar& Bar() { return *window_->sheet().findChild<QScrollBar*>(); }
+    // Files of a folder that is read no further than to its first handful, until GoOn().
+    bool OpenFirstOf(int files) {
+        for (int i = 0; i < files; ++i) pictures_.Write(QStringLiteral("p%1.jpg").arg(i), {});
+        window_->slides().setOrder({SortBy::Hand, false});
+        window_->setSliceTime(0);
+        const auto hold = [this] { window_->slides().beginMove(); };
+        QObject::connect(&window_->sheet(), &VorlaneWidget::OnDisplayStart, window_.get(), hold,
+                         Qt::SingleShotConnection);
+        window_->openFolder(Folder());
+        return WaitFor([this] { return window_->count() > 0; }) && window_->count() < files;
+    }
+    void GoOn() { window_->slides().endMove(); }
 };
 
 }  // namespace
@@ -178,12 +191,11 @@ TEST_F(EditorWindowTest, AFolderThatFailsEndsTheReadingOfTheFirst) {
 }
 
 TEST_F(EditorWindowTest, AManyFileFolderComesInSlicesAndCanBeScrolledMeanwhile) {
-    for (int i = 0; i < 5000; ++i) pictures_.Write(QStringLiteral("p%1.jpg").arg(i), {});
-    window_->openFolder(Folder());
-    ASSERT_TRUE(WaitFor([this] { return window_->count() > 0; }));
+    ASSERT_TRUE(OpenFirstOf(5000));
     EXPECT_GT(window_->sheet().CountAffiche(), 1);
     window_->sheet().sheet().VScroll.SetValue(20);
     const std::string top = Slide(0).ImageName();
+    GoOn();
     ASSERT_TRUE(Settle());
     EXPECT_EQ(window_->sheet().Count(), 5000);
     EXPECT_EQ(Slide(0).ImageName(), top);
@@ -191,9 +203,8 @@ TEST_F(EditorWindowTest, AManyFileFolderComesInSlicesAndCanBeScrolledMeanwhile) 
 }
 
 TEST_F(EditorWindowTest, TheThumbStaysInTheHandWhileAFolderIsRead) {
-    for (int i = 0; i < 5000; ++i) pictures_.Write(QStringLiteral("p%1.jpg").arg(i), {});
-    window_->openFolder(Folder());
-    ASSERT_TRUE(WaitFor([this] { return window_->count() > 0 && Bar().isVisible() && Bar().maximum() > 0; }));
+    ASSERT_TRUE(OpenFirstOf(5000));
+    ASSERT_TRUE(WaitFor([this] { return Bar().isVisible() && Bar().maximum() > 0; }));
     test::BarHand hand(Bar());
     hand.PressThumb();
     hand.Move({0, 100});
@@ -201,6 +212,7 @@ TEST_F(EditorWindowTest, TheThumbStaysInTheHandWhileAFolderIsRead) {
     const int longest = Bar().maximum();
     ASSERT_GT(held, 0);
     QSignalSpy asked(&window_->sheet(), &VorlaneWidget::OnGetThumbPath);
+    GoOn();
     ASSERT_TRUE(Settle());
     ASSERT_GT(Bar().maximum(), longest);
     EXPECT_EQ(Bar().sliderPosition(), held);
