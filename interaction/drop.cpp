@@ -4,6 +4,7 @@
 #include "platform/draggedfile.h"
 #include "platform/numbers.h"
 #include "platform/trelmic6.h"
+#include "platform/withinblock.h"
 #include "sheet/itemtext.h"
 #include "sheet/vorlane.h"
 
@@ -81,8 +82,7 @@ void Vorlane::TakeDrop(const DragEvent& drop) {
         if (list == nullptr) return Events.OLEDragError();
         const bool moves = own && offersFiles && sort_.SortedSens == SortSensType::ssNone;
         const std::vector<DraggedFile> files = FilesOf(drop.Data);
-        const int32_t within = std::min(place, list->ListCount());
-        const int32_t added = moves ? MoveFiles(*list, files, within) : AddFiles(*list, files, within);
+        const int32_t added = moves ? MoveFiles(*list, files, place) : AddFiles(*list, files, place);
         if (!own) Events.AfterDropAdd(added);
     } else if (!own) {
         Events.AfterDropAdd(0);
@@ -107,7 +107,10 @@ int32_t Vorlane::MoveFiles(ListBox& list, const std::vector<DraggedFile>& files,
     const int32_t count = list.ListCount();
     selection_.CurrentSlot = -1;
     drag_.Moved = true;
-    RemoveAllSelected();
+    {
+        const WithinBlock moving(drag_.Moving);
+        RemoveAllSelected();
+    }
     const auto gone = static_cast<size_t>(count - list.ListCount());
     const size_t first = files.size() == items.size() ? files.size() - gone : 0;
     std::exception_ptr failed;
@@ -118,9 +121,8 @@ int32_t Vorlane::MoveFiles(ListBox& list, const std::vector<DraggedFile>& files,
         } catch (...) {
             if (!failed) failed = std::current_exception();
         }
-        PutItem(list, texts[i], files[i].Key, next);
-        list.SetSelected(next, true);
-        ++next;
+        next = PutItem(list, texts[i], files[i].Key, next);
+        list.SetSelected(next++, true);
     }
     ShowMoved(before(top));
     if (failed) std::rethrow_exception(failed);
@@ -144,11 +146,13 @@ std::string Vorlane::TextOf(const DraggedFile& file) const {
     return ItemText(SortKey(file.Path, items_.StdSortArgs), file.Path);
 }
 
-// Puts an item into the list, in front of index or, with -1, where the list takes it; a key of -1 becomes its index.
-void Vorlane::PutItem(ListBox& list, const std::string& text, int32_t key, int32_t index) {
-    index >= 0 ? list.AddItem(text, index) : list.AddItem(text);
+// Puts an item into the list, in front of index or, with -1, where the list takes it; a key of -1 becomes its index. In
+// a list that a handler has shortened it goes to the end. Gives its index.
+int32_t Vorlane::PutItem(ListBox& list, const std::string& text, int32_t key, int32_t index) {
+    index >= 0 ? list.AddItem(text, std::min(index, list.ListCount())) : list.AddItem(text);
     const int32_t at = list.NewIndex();
     list.SetItemData(at, key == -1 ? at : key);
+    return at;
 }
 
 // Slide 0 shows the same item as before, unless it has moved itself.
@@ -170,7 +174,8 @@ int32_t Vorlane::AddFiles(ListBox& list, const std::vector<DraggedFile>& files, 
     try {
         for (const DraggedFile& file : files) {
             const bool isFile = Trelmic6::PathExists(file.Path, PathKind::File);
-            const int32_t more = isFile ? AddFile(list, file, place) : AddFolder(file.Path, place);
+            const int32_t more =
+                isFile ? AddFile(list, file, place) : AddFolder(file.Path, std::min(place, list.ListCount()));
             if (place >= 0) place += more;
             added += more;
         }

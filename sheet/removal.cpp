@@ -28,7 +28,7 @@ bool Vorlane::Stands(const ListBox& list, const Doomed& doomed) const {
 // Announces an item, unless a drag only moves the selection, and takes it out. Gives whether it has gone.
 bool Vorlane::TakeOut(ListBox& list, const Doomed& doomed, int16_t index) {
     if (!Stands(list, doomed)) return false;
-    const bool moves = index < 0 && internalDrag_ && drag_.Moved;
+    const bool moves = index < 0 && drag_.Moving;
     if (!moves) {
         int32_t key = list.ItemData(doomed.Index);
         Events.Removed(index, key);
@@ -149,7 +149,7 @@ void Vorlane::RemoveAllSelected() {
         const int32_t fills = pass_.Fills;
         const int64_t left = int64_t{list->ListCount()} - static_cast<int64_t>(items.size());
         const bool complete = TakeOutAll(*list, items);
-        if (internalDrag_ && drag_.Moved) return;  // the drop shows the list
+        if (drag_.Moving) return;  // the drop shows the list
         InitVScroll(false);
         const bool cleared = before.Top >= 0 && First().Value() < 0;
         const bool undisturbed = complete && fills == pass_.Fills && ListCount() == left;

@@ -110,6 +110,7 @@ struct Drag {
     bool Own = false;            // it has started on a slide here
     bool Cancel = false;         // the host keeps the drag off the sheet
     bool BusyShifting = false;   // a row is opening
+    bool Moving = false;         // a drop is taking out the items that it moves
     bool Moved = false;          // the drag from here has moved its items
     int32_t Counted = -1;        // how many files it brings from outside; -1 until that is asked for
     uint32_t Ends = 0;           // how many drags have ended: tells whoever let the message loop run

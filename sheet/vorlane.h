@@ -654,7 +654,7 @@ private:
     std::vector<std::string> MovedTexts(const ListBox& list, const std::vector<int32_t>& items,
                                         const std::vector<DraggedFile>& files) const;
     std::string TextOf(const DraggedFile& file) const;
-    void PutItem(ListBox& list, const std::string& text, int32_t key, int32_t index);
+    int32_t PutItem(ListBox& list, const std::string& text, int32_t key, int32_t index);
     void ShowMoved(int32_t movedAbove);
     int32_t AddFiles(ListBox& list, const std::vector<DraggedFile>& files, int32_t place);
     int32_t AddFile(ListBox& list, DraggedFile file, int32_t place);

@@ -180,6 +180,20 @@ TEST_F(DragTest, TheHostCanRefuseOneFileAlone) {
     EXPECT_THAT(Told(), HasSubstr("AfterDropAdd 1\n"));
 }
 
+TEST_F(DragTest, AHostThatShortensTheListAtAFileGetsTheRestAtItsEnd) {
+    ShowDraggable(6);
+    std::filesystem::create_directories(folder.WithSeparator() + "album");
+    RealFile("album/b.jpg");
+    onNewFile = [this](const std::string& name, int32_t&, bool&) {
+        if (name.ends_with("x.jpg")) sheet->Remove(0);
+    };
+    UserDrag drag(desktop, Files({RealFile("x.jpg"), folder.WithSeparator() + "album", RealFile("y.jpg")}));
+    DropOn(drag, 5, 0.8F);
+    EXPECT_EQ(Names(), "001 002 003 004 005 x b y");
+    EXPECT_THAT(Told(), Not(HasSubstr("Error")));
+    ExpectSlidesAgreeWithList();
+}
+
 TEST_F(DragTest, FilesThatAreMissingOrFitNoPatternAreSkippedSilently) {
     ShowDraggable(1);
     sheet->SetPattern("*.jpg");

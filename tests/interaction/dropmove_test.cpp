@@ -171,6 +171,34 @@ TEST_F(DragTest, AHostThatFailsInTheMiddleOfAMoveLosesNoItem) {
     ExpectSlidesAgreeWithList();
 }
 
+TEST_F(DragTest, AHostThatClearsTheListInTheMiddleOfAMoveLosesNoMovedItem) {
+    ShowDraggable(7);
+    Click(0);
+    Click(2, headless::kCtrl);
+    bool clears = true;
+    onSortChanged = [&] {
+        if (std::exchange(clears, false)) sheet->Clear();
+    };
+    DragSlide(2, [&](UserDrag& drag) { DropOn(drag, 5, 0.2F); });
+    EXPECT_EQ(Order(), "0 2");
+    EXPECT_EQ(SelectedItems(), "0 1");
+    EXPECT_THAT(Told(), testing::Not(HasSubstr("Error")));
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(DragTest, AHostThatRemovesTheMovedItemsBehindTheDropIsToldOfThemAndShownTheRest) {
+    ShowDraggable(7);
+    sheet->Events.OLEDragDrop.connect(
+        [this](DataObject&, int32_t&, int16_t, int16_t, float, float) { sheet->RemoveAllSelected(); });
+    std::vector<int32_t> removed;
+    sheet->Events.Removed.connect([&](int16_t, int32_t& key) { removed.push_back(key); });
+    DragSlide(1, [&](UserDrag& drag) { DropOn(drag, 4, 0.2F); });
+    EXPECT_EQ(Order(), "0 2 3 4 5 6");
+    EXPECT_THAT(removed, testing::ElementsAre(1001));
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5");
+    ExpectSlidesAgreeWithList();
+}
+
 TEST_F(DragTest, TwoSheetsGiveSlidesToEachOtherWithTheirKeys) {
     ShowDraggable(3);
     headless::Window other{desktop, {900, 0, 1245, 180}};
