@@ -57,15 +57,17 @@ QStringList InfoLines(const QString& path, const QLocale& locale) {
     const QFileInfo file(path);
     if (!file.isFile()) return {};
     QStringList lines;
-    if (FileKindOf(path) == FileKind::Picture) {
+    const bool isPicture = FileKindOf(path) == FileKind::Picture;
+    if (isPicture) {
         const QSize size = PictureSize(path);
         lines += size.isValid() ? QCoreApplication::translate("InfoBalloon", "%1 × %2 pixels")
                                       .arg(locale.toString(size.width()), locale.toString(size.height()))
                                 : QCoreApplication::translate("InfoBalloon", "Image illisible");
     }
     lines += FileSizeText(file.size(), locale);
-    lines += QCoreApplication::translate("InfoBalloon", "Modifiée le %1")
-                 .arg(locale.toString(file.lastModified(), QLocale::ShortFormat));
+    const QString modified = isPicture ? QCoreApplication::translate("InfoBalloon", "Modifiée le %1")
+                                       : QCoreApplication::translate("InfoBalloon", "Modifié le %1");
+    lines += modified.arg(locale.toString(file.lastModified(), QLocale::ShortFormat));
     return lines + CameraLines(CameraDataOf(path), locale);
 }
 

@@ -12,13 +12,14 @@ constexpr size_t kLongestName = 255;  // bytes
 
 // The names that stand for devices, in small letters.
 bool IsDevice(std::string_view name) {
-    constexpr std::string_view plain[] = {"con", "prn", "aux", "nul"};
+    constexpr std::string_view plain[] = {"con", "prn", "aux", "nul", "conin$", "conout$"};
     constexpr std::string_view numbered[] = {"com", "lpt"};
-    const auto is = [&](std::string_view device) { return name == device; };
-    const auto begins = [&](std::string_view device) { return name.substr(0, 3) == device; };
-    if (std::any_of(std::begin(plain), std::end(plain), is)) return true;
-    const bool hasNumber = name.size() == 4 && name[3] >= '1' && name[3] <= '9';
-    return hasNumber && std::any_of(std::begin(numbered), std::end(numbered), begins);
+    constexpr std::string_view numbers[] = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "¹", "²", "³"};
+    const auto among = [](const auto& names, std::string_view one) {
+        return std::find(std::begin(names), std::end(names), one) != std::end(names);
+    };
+    if (among(plain, name)) return true;
+    return name.size() > 3 && among(numbered, name.substr(0, 3)) && among(numbers, name.substr(3));
 }
 
 bool IsAllowed(char unit) {

@@ -32,7 +32,7 @@ void Vorlane::ConnectGround() {
 void Vorlane::GroundMouseDown(int16_t button, int16_t shift, float x, float y) {
     const auto press = [&] {
         if (button == kLeft && Bound().SelCount() > 0 && !CtrlDown() && !ShiftDown()) SelectedClear();
-        KeepEdit();
+        EndEdit();
         mouse_.LastButton = button;
         if (button == kLeft && selection_.SelectionMultiple) StartBand(x, y);
         Events.MouseDown(button, shift, ToContainer(x), ToContainer(y));

@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "platform/trelmic6.h"
 #include "platform/withinblock.h"
+#include "sheet/itemtext.h"
 #include "sheet/vorlane.h"
 
 #include <charconv>
@@ -57,6 +58,18 @@ std::string CannotRename(const std::string& oldName, const std::string& typed, i
            std::to_string(number);
 }
 
+// The text of an item whose file has another name. What stands behind a point is a name's extension where both have it,
+// as a file without one may get a point; otherwise the path takes the new name whole.
+std::string Renamed(const std::string& item, const std::string& oldName, const std::string& newName) {
+    const auto extension = [](const std::string& path) { return Trelmic6::FilePart(path, PathPart::Extension); };
+    const std::string from = NameIn(oldName);
+    const std::string to = NameIn(newName);
+    if (extension(oldName) == extension(newName)) return ReplacedAll(item, from, to);
+    const std::string_view path = ItemFileName(item);
+    const std::string_view data = std::string_view(item).substr(0, item.size() - path.size());
+    return ReplacedAll(data, from, to) + ReplacedAll(path, Trelmic6::FileName(oldName), Trelmic6::FileName(newName));
+}
+
 }  // namespace
 
 void Vorlane::ConnectEdit() {
@@ -95,12 +108,7 @@ void Vorlane::StartEdit(int16_t index) {
 
 void Vorlane::DropEdit() {
     bool cancel = true;
-    if (Txt.Visible()) EndEdit(cancel);
-}
-
-void Vorlane::KeepEdit() {
-    bool cancel = false;
-    if (Txt.Visible()) EndEdit(cancel);
+    EndEdit(cancel);
 }
 
 void Vorlane::EndEdit() {
@@ -159,28 +167,33 @@ void Vorlane::TellTaken(const std::string& newPath, const std::string& oldPath, 
 void Vorlane::RenameFile(int32_t item, const std::string& oldPath, const std::string& newPath, int16_t slot) {
     files::Rename(oldPath, newPath);
     try {
-        RenameDiapo(item, oldPath, newPath, slot);
+        FollowRename(item, oldPath, newPath, slot);
     } catch (...) {
         Attempt([&] { files::Rename(newPath, oldPath); });
         throw;
     }
 }
 
-// Both follow the new name, or neither does.
-void Vorlane::RenameDiapo(int32_t listIndex, const std::string& oldName, const std::string& newName,
+bool Vorlane::RenameDiapo(int32_t listIndex, const std::string& oldName, const std::string& newName,
                           int16_t diapoIndex) {
+    const auto rename = [&] {
+        FollowRename(listIndex, oldName, newName, diapoIndex);
+        return true;
+    };
+    return Guard(false, rename, "RenameDiapo", listIndex, oldName, newName, diapoIndex);
+}
+
+// Both follow the new name, or neither does.
+void Vorlane::FollowRename(int32_t listIndex, const std::string& oldName, const std::string& newName,
+                           int16_t diapoIndex) {
     ListBox* list = Bound().AsListBox();
     if (list == nullptr) return;
-    // What stands behind a point is a name's extension where both have it, as a file without one may get a point.
-    const bool sameExtension =
-        Trelmic6::FilePart(oldName, PathPart::Extension) == Trelmic6::FilePart(newName, PathPart::Extension);
-    const auto part = [&](const std::string& path) { return sameExtension ? NameIn(path) : Trelmic6::FileName(path); };
     const int16_t slot = diapoIndex < 0 ? SlotFromListIndex(listIndex) : diapoIndex;
     const auto slide = slot < 0 ? nullptr : Diapo.Item(slot);
     const std::string item = list->List(listIndex);
     const std::string shown = slide ? slide->ImageFullPath() : "";
     try {
-        list->SetList(listIndex, ReplacedAll(item, part(oldName), part(newName)));
+        list->SetList(listIndex, Renamed(item, oldName, newName));
         if (slide) slide->SetImageFullPath(eDiapoLight::KnownPath(newName));
     } catch (...) {
         Attempt([&] { list->SetList(listIndex, item); });

@@ -29,6 +29,7 @@ WinRect Vorlane::GridOnScreen() const {
 void Vorlane::WaitShow(const std::string& newCaption, WaitPlace fromWhere, bool withoutEffect) {
     const auto show = [&] {
         window_.WaitOpen = true;
+        ++window_.WaitShows;
         SharedFrmWait(Desktop()).ShowAnimatedFrom(newCaption, fromWhere, GridOnScreen(), withoutEffect);
     };
     GuardVoid(show, "WaitShow", newCaption, static_cast<int32_t>(fromWhere), withoutEffect);
@@ -45,8 +46,9 @@ void Vorlane::SetWaitCaption(const std::string& caption) {
 
 void Vorlane::WaitClose(bool withoutEffect) {
     const auto close = [&] {
+        const uint32_t shows = window_.WaitShows;
         SharedFrmWait(Desktop()).CloseWindow(withoutEffect);
-        window_.WaitOpen = false;
+        if (window_.WaitShows == shows) window_.WaitOpen = false;  // else it was shown again while it closed
     };
     GuardVoid(close, "WaitClose", withoutEffect);
 }

@@ -22,8 +22,20 @@ bool Occupied(const fs::path& path) {
     return fs::exists(fs::symlink_status(path, error));
 }
 
+// Makes an empty folder or file, in one step that fails when something is there. Gives the system's error.
+int Occupy(const fs::path& path, bool folder) {
+    if (folder) {
+        std::error_code error;
+        return fs::create_directory(path, error) ? 0 : error ? error.value() : EEXIST;
+    }
+    std::FILE* const file = std::fopen(path.string().c_str(), "wx");
+    if (file == nullptr) return errno;
+    std::fclose(file);
+    return 0;
+}
+
 int RenameWithoutOverwriting(const fs::path& from, const fs::path& to) {
-    for (const auto way : {RenameAtOnce, RenameByLink, RenameByLooking}) {
+    for (const auto way : {RenameAtOnce, RenameByLink, RenameOverPlaceholder}) {
         if (const RenameAnswer answer = way(from, to)) return *answer;
     }
     return ENOSYS;
@@ -55,10 +67,13 @@ RenameAnswer RenameByLink([[maybe_unused]] const fs::path& from, [[maybe_unused]
     return {};
 }
 
-RenameAnswer RenameByLooking(const fs::path& from, const fs::path& to) {
-    if (Occupied(to)) return EEXIST;
+RenameAnswer RenameOverPlaceholder(const fs::path& from, const fs::path& to) {
+    if (!Occupied(from)) return ENOENT;
     std::error_code error;
+    if (const int refused = Occupy(to, fs::is_directory(fs::symlink_status(from, error)))) return refused;
     fs::rename(from, to, error);
+    std::error_code stays;
+    if (error) fs::remove(to, stays);
     return error.value();
 }
 

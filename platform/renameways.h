@@ -14,7 +14,7 @@ using RenameAnswer = std::optional<int>;
 RenameAnswer RenameAtOnce(const std::filesystem::path& from, const std::filesystem::path& to);
 // By a second name, which fails when something is there; then the first one goes. Not for folders.
 RenameAnswer RenameByLink(const std::filesystem::path& from, const std::filesystem::path& to);
-// Looks first. What comes to be at the new name behind that look is overwritten.
-RenameAnswer RenameByLooking(const std::filesystem::path& from, const std::filesystem::path& to);
+// Over an empty file or folder of its own, which takes the new name first, and fails when something is there.
+RenameAnswer RenameOverPlaceholder(const std::filesystem::path& from, const std::filesystem::path& to);
 
 }  // namespace vorlane::files

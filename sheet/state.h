@@ -130,6 +130,7 @@ struct Sorting {
 struct Window {
     bool Subclassed = false;  // the messages of the sheet's window are attached
     bool WaitOpen = false;    // the wait window is open, as WaitShow and WaitClose have left it
+    uint32_t WaitShows = 0;   // calls of WaitShow
 };
 
 // What was played last on a channel.

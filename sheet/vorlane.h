@@ -194,8 +194,9 @@ public:
     // handlers of RenameError have left in it. Nothing happens while no box is open.
     void EndEdit(bool& cancel, MsgBoxObject* msgBox = nullptr);
     void EndEdit();
-    // Gives an item and its slide (-1: the one that shows it) another file. Touches no file.
-    void RenameDiapo(int32_t listIndex, const std::string& oldName, const std::string& newName,
+    // Gives an item of a ListBox and its slide (-1: the one that shows it) another file. Touches no file. False when it
+    // failed; then both are as they were.
+    bool RenameDiapo(int32_t listIndex, const std::string& oldName, const std::string& newName,
                      int16_t diapoIndex = -1);
 
     // --- Wait window ---
@@ -558,8 +559,8 @@ private:
     // interaction/rename.cpp
     void ConnectEdit();
     void DropEdit();
-    void KeepEdit();
     void TellTaken(const std::string& newPath, const std::string& oldPath, bool& cancel, MsgBoxObject* msgBox);
+    void FollowRename(int32_t listIndex, const std::string& oldName, const std::string& newName, int16_t diapoIndex);
     void RenameFile(int32_t item, const std::string& oldPath, const std::string& newPath, int16_t slot);
     void CloseEdit(const std::string& newPath, const std::string& oldPath, bool canceled);
     void HideEdit();

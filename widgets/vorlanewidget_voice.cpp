@@ -90,9 +90,12 @@ bool VorlaneWidget::EndEdit(bool cancel, MsgBoxObject* msgBox) {
 }
 
 void VorlaneWidget::RenameDiapo(int listIndex, const QString& oldName, const QString& newName, int diapoIndex) {
-    Do("RenameDiapo", [&] { sheet_.RenameDiapo(listIndex, ToText(oldName), ToText(newName), ToInt16(diapoIndex)); });
-    if (listIndex >= 0 && listIndex < sheet_.Liste()->ListCount())
+    Do("RenameDiapo", [&] {
+        const bool renamed = sheet_.RenameDiapo(listIndex, ToText(oldName), ToText(newName), ToInt16(diapoIndex));
+        const ListControl* list = sheet_.Liste();
+        if (!renamed || list == nullptr || listIndex < 0 || listIndex >= list->ListCount()) return;
         AccessibleSheet::TellName(*this, ImageFullPath(listIndex));
+    });
 }
 
 void VorlaneWidget::ConnectEdit() {

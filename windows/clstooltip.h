@@ -40,7 +40,7 @@ public:
     int32_t HoverTime() const { return hoverTime_; }
     int32_t Icon() const { return icon_; }
     int32_t PopupTime() const { return popupTime_; }
-    // -1 when there is no window.
+    // -1 before Create, and when it was given a style or an icon that makes no window.
     int32_t Style() const { return style_; }
     // Of the first Create of this object.
     std::string InitialText() const { return initialText_.value_or(""); }

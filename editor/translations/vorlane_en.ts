@@ -752,6 +752,10 @@
         <translation>Unreadable picture</translation>
     </message>
     <message>
+        <source>Modifié le %1</source>
+        <translation>Changed %1</translation>
+    </message>
+    <message>
         <source>Modifiée le %1</source>
         <translation>Changed %1</translation>
     </message>

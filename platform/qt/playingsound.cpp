@@ -91,6 +91,7 @@ void PlayingSound::FollowDevice() {
     if (!playing_) return;
     const QAudioDevice device = QMediaDevices::defaultAudioOutput();
     if (device.isNull()) return Tell(SoundTrouble::NoDevice);
+    heard_ = true;
     output_->setDevice(device);
 }
 

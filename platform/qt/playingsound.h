@@ -61,7 +61,7 @@ private:
     QFileSystemWatcher files_;
     qint64 from_ = 0;  // where it has still to be taken to
     bool repeats_ = false;
-    bool heard_ = false;  // there was a device at the start
+    bool heard_ = false;  // there was a device, at the start or later
     bool playing_ = true;
     bool stopped_ = false;
     std::set<SoundTrouble> told_;

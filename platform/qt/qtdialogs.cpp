@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 
 namespace vorlane {
 
@@ -26,10 +27,13 @@ QMessageBox::Icon IconOf(int32_t style) {
 
 }  // namespace
 
+// The window that the box belongs to may go while it is open, and takes the box along.
 void QtDialogs::MsgBox(std::string_view text, int32_t style, std::string_view caption) {
-    QMessageBox box(IconOf(style), Text(caption), Text(text), QMessageBox::Ok, QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    const QPointer<QMessageBox> box(
+        new QMessageBox(IconOf(style), Text(caption), Text(text), QMessageBox::Ok, QApplication::activeWindow()));
+    box->setTextFormat(Qt::PlainText);
+    box->exec();
+    delete box;
 }
 
 }  // namespace vorlane

@@ -31,7 +31,8 @@ TEST(FileNameTest, CharactersThatTheBoxRefusesAreRefusedInPastedTextToo) {
 }
 
 TEST(FileNameTest, NamesOfDevicesAreReserved) {
-    for (const char* name : {"con", "NUL", "Com1", "lpt9", "aux.old", "aux .old", "PRN.a.b"}) {
+    for (const char* name :
+         {"con", "NUL", "Com1", "lpt9", "aux.old", "aux .old", "PRN.a.b", "conin$", "CONOUT$.txt", "COM¹", "lpt³.x"}) {
         EXPECT_FALSE(IsNameForFile(name)) << name;
     }
 }

@@ -197,6 +197,17 @@ TEST_F(RenameTest, AFileWithoutExtensionMayGetAPoint) {
     EXPECT_EQ(sheet->Diapo.Item(3)->ImageFullPath(), Path("Ville.2024"));
 }
 
+TEST_F(RenameTest, TheSortDataFollowANameOfAnotherExtension) {
+    const std::string path = folder.File("Wagon");
+    desktop.pictures.Add(path, 60, 40);
+    sheet->Add(path, "Wagon", 600);
+    sheet->StartLecture();
+    Type("Wagon 2.jpg", 3);
+    Enter();
+    EXPECT_EQ(sheet->ImageFullPath(3), Path("Wagon 2.jpg"));
+    EXPECT_EQ(sheet->Liste()->List(3), "Wagon 2" + std::string(1, kSepSortWithData) + Path("Wagon 2.jpg"));
+}
+
 TEST_F(RenameTest, ANameLeftUnchangedClosesTheBoxWithoutAnEvent) {
     Type("Zebre");
     Enter();
@@ -472,8 +483,9 @@ TEST_F(RenameTest, RenameDiapoOfAnItemThatNoSlideShowsChangesTheItemAlone) {
 }
 
 TEST_F(RenameTest, RenameDiapoOfASlideThatIsNotThereChangesNothing) {
-    EXPECT_THROW(sheet->RenameDiapo(1, Path("Yack.jpg"), Path("Aube.jpg"), 99), Failure);
+    EXPECT_FALSE(sheet->RenameDiapo(1, Path("Yack.jpg"), Path("Aube.jpg"), 99));
     EXPECT_EQ(sheet->ImageFullPath(1), Path("Yack.jpg"));
+    EXPECT_THAT(Heard(), testing::HasSubstr("RenameDiapo"));
 }
 
 TEST_F(RenameTest, AnEditOfASlideWhoseItemHasGoneIsCanceled) {

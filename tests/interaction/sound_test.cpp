@@ -213,6 +213,16 @@ TEST_F(SoundTest, StopSoundOfOneChannelLeavesTheTimer) {
     EXPECT_FALSE(sheet->TimerSon.Enabled());
 }
 
+TEST_F(SoundTest, StopSoundOfTheCommentLeavesTheMusic) {
+    PlayCommentBehindMusic(2);
+    Happened();
+    sheet->StopSound(1);
+    EXPECT_EQ(Happened(), "sound stop son2\n");
+    EXPECT_EQ(Music(2), "stop");
+    EXPECT_TRUE(sheet->TimerSon.Enabled());
+    sheet->StopSound();
+}
+
 TEST_F(SoundTest, TheEndOfASoundWhoseSlideHasScrolledAwayIsToldOnce) {
     desktop.sounds.Add("/s/long.mp3", 10);
     ClickMusic(0);
@@ -221,9 +231,11 @@ TEST_F(SoundTest, TheEndOfASoundWhoseSlideHasScrolledAwayIsToldOnce) {
     ClickComment(0);
     desktop.sounds.Add("/s/a.mp3", 2);
     sheet->VScroll.SetValue(6);
+    for (int16_t slot = 0; slot < 3; ++slot) sheet->BtState(slot, 0, true);
     Happened();
     desktop.clock.Advance(3000);
     EXPECT_EQ(Happened(), "sound stop son1\nsounds SoundEnded 11\n");
+    for (int16_t slot = 0; slot < 3; ++slot) EXPECT_EQ(Music(slot), "stop") << slot;  // no button is touched
     sheet->StopSound();
 }
 

@@ -47,11 +47,34 @@ TEST_F(WaitWindowTest, WithoutABarItHasAllOfTheSheet) {
     sheet->WaitClose(true);
 }
 
-TEST_F(WaitWindowTest, ClosingWithoutAnOpenWindowIsHarmless) {
+TEST_F(WaitWindowTest, ACloseOfAWindowThatAnotherOpenedClosesItAllTheSame) {
     Show(3);
-    sheet->WaitClose();
+    Form().ShowAnimatedFrom("other", WaitPlace::Middle, {0, 0, 400, 300}, true);
+    ASSERT_FALSE(sheet->IsWaitOpen());
+    sheet->WaitClose(true);
+    EXPECT_FALSE(Form().Visible());
     EXPECT_FALSE(sheet->IsWaitOpen());
-    EXPECT_EQ(Heard(), "");
+}
+
+TEST_F(WaitWindowTest, ACloseBehindThatOfAnotherEndsTheSheetsOwnToo) {
+    Show(3);
+    sheet->WaitShow("wait", WaitPlace::Middle, true);
+    Form().CloseWindow(true);
+    ASSERT_TRUE(sheet->IsWaitOpen());
+    sheet->WaitClose(true);
+    EXPECT_FALSE(sheet->IsWaitOpen());
+    EXPECT_EQ(Heard({"host"}), "");
+}
+
+TEST_F(WaitWindowTest, AWindowThatIsShownAgainWhileItClosesIsOpen) {
+    Show(3);
+    sheet->WaitShow("wait", WaitPlace::TopLeft, true);
+    desktop.clock.AtYield(2, [&] { sheet->WaitShow("again", WaitPlace::TopLeft, true); });
+    sheet->WaitClose(false);
+    EXPECT_TRUE(Form().Visible());
+    EXPECT_TRUE(sheet->IsWaitOpen());
+    sheet->WaitClose(true);
+    EXPECT_FALSE(sheet->IsWaitOpen());
 }
 
 // --- Following the window ---

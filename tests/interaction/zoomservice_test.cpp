@@ -99,12 +99,6 @@ TEST_F(ZoomServiceTest, TheTextOfAnOpenWaitWindowIsPaintedAtOnce) {
     sheet->WaitClose(true);
 }
 
-TEST_F(ZoomServiceTest, ACloseWithoutAnOpenWindowIsHarmless) {
-    sheet->WaitClose(false);
-    EXPECT_FALSE(sheet->IsWaitOpen());
-    EXPECT_EQ(desktop.forms.OpenForms(), 0);
-}
-
 TEST_F(ZoomServiceTest, AZoomLeavesWhetherTheSheetsWaitWindowIsOpen) {
     desktop.films.Add(File(0), 60, 40);
     sheet->WaitShow("Patience", WaitPlace::Middle, true);

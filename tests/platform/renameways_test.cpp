@@ -22,7 +22,7 @@ protected:
 
 // On a file system that knows all of them.
 INSTANTIATE_TEST_SUITE_P(All, RenameWay,
-                         testing::Values(files::RenameAtOnce, files::RenameByLink, files::RenameByLooking));
+                         testing::Values(files::RenameAtOnce, files::RenameByLink, files::RenameOverPlaceholder));
 
 TEST_P(RenameWay, GivesAFileAnotherName) {
     folder.File("a.jpg", "content");
@@ -88,6 +88,26 @@ TEST(RenameRace, InOneStepNothingIsLost) {
 
 TEST(RenameRace, ByASecondNameNothingIsLost) {
     ExpectNothingLost(files::RenameByLink);
+}
+
+TEST(RenameRace, OverAPlaceholderNothingIsLost) {
+    ExpectNothingLost(files::RenameOverPlaceholder);
+}
+
+TEST(RenameOverPlaceholder, KnowsFolders) {
+    const TemporaryFolder folder;
+    folder.Folder("a");
+    folder.File("a/inside", "content");
+    EXPECT_EQ(files::RenameOverPlaceholder(folder.At("a"), folder.At("b")), 0);
+    EXPECT_EQ(folder.Read("b/inside"), "content");
+    EXPECT_FALSE(files::IsFolder(folder.At("a")));
+}
+
+TEST(RenameOverPlaceholder, LeavesNoneBehindAFailure) {
+    const TemporaryFolder folder;
+    EXPECT_NE(files::RenameOverPlaceholder(folder.Folder("a"), folder.At("a/inside")), 0);
+    EXPECT_TRUE(files::IsFolder(folder.At("a")));
+    EXPECT_TRUE(std::filesystem::is_empty(folder.At("a")));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace vorlane {
@@ -196,6 +197,16 @@ TEST_F(Announcements, AnotherNameOfASlideIsTold) {
     EXPECT_FALSE(Heard().contains("name Venise.png")) << "it has kept its name";
     widget.RenameDiapo(3, folder.filePath("003.png"), folder.filePath("Rome.png"));
     EXPECT_EQ(Heard(), QStringList({"name Rome.png"}));
+}
+
+TEST_F(Announcements, ARenamingThatFailsIsNotTold) {
+    QSignalSpy errors(&widget, &VorlaneWidget::OnError);
+    widget.RenameDiapo(3, folder.filePath("003.png"), folder.filePath("Rome.png"), 99);
+    EXPECT_EQ(errors.size(), 1);
+    EXPECT_EQ(Heard(), QStringList());
+    widget.sheet().Terminate();
+    widget.RenameDiapo(0, folder.filePath("000.png"), folder.filePath("Rome.png"));
+    EXPECT_EQ(Heard(), QStringList());
 }
 
 TEST_F(Announcements, AnotherCaptionOfASlideIsTold) {
