@@ -26,6 +26,7 @@ std::string eDiapoLight::KnownPath(const std::string& path) {
 
 void eDiapoLight::PictureByString(const std::string& path, vorlane::Picture thumb, bool) {
     const std::string file = KnownPath(path);
+    ++image_.Files;
     Trap(
         pending_,
         [&] {
@@ -46,7 +47,9 @@ void eDiapoLight::ShowNoFile() {
     if (!settings_.ShowDiapoTools) BtPlay.SetVisible(false);
 }
 
+// A handler that gives the slide another file has the last word.
 void eDiapoLight::ShowFile(const std::string& path, const vorlane::Picture& thumb) {
+    const auto newest = [this, number = image_.Files] { return number == image_.Files; };
     Img.SetTag(path);
     const WithinBlock given(image_.HasGivenThumb, thumb.Type() > 0);
     const bool toolsRow = Trelmic6::FileKind(path) == 0 && settings_.ShowDiapoTools;
@@ -57,12 +60,15 @@ void eDiapoLight::ShowFile(const std::string& path, const vorlane::Picture& thum
     SetButtonPicture(BtComment, DiapoPictureIndex::PicBtComment, media_.InvalidComm);
     BtTexte.SetVisible(media_.Texte);
     SetButtonPicture(BtTexte, DiapoPictureIndex::PicBtText, false);
-    if (const std::optional<vorlane::Picture> picture = LoadFilePicture(path, thumb)) {
+    if (!newest()) return;
+    const std::optional<vorlane::Picture> picture = LoadFilePicture(path, thumb);
+    if (!newest()) return;
+    if (picture) {
         SetPicture(*picture);
     } else {
         SetPicture(std::nullopt);
     }
-    LblTop.SetCaption(Trelmic6::FilePart(path, PathPart::FileName));
+    if (newest()) LblTop.SetCaption(Trelmic6::FilePart(path, PathPart::FileName));
 }
 
 // Nothing for a kind of file that the slide does not know.

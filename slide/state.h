@@ -67,6 +67,7 @@ struct ImageState {
     WinRect Area;                // the picture area of the last layout
     bool IsSubstitute = false;   // the picture stands for the file, it is not the file's own
     bool HasGivenThumb = false;  // the picture comes from a thumbnail that the caller had
+    uint32_t Files = 0;          // counts the files that the slide was given
 };
 
 struct Place {

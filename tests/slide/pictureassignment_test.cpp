@@ -275,6 +275,44 @@ TEST_F(PictureTest, AHostThatFailsInItsAnswerFailsPictureByString) {
     EXPECT_EQ(slide.LblTop.Caption(), "");
 }
 
+TEST_F(PictureTest, AnotherFileGivenInTheReportOfABadOneStays) {
+    OwnAnswers();
+    desktop.pictures.Add("/good.jpg", 20, 20);
+    slide.Events.InvalidPicture.connect([&](const std::string&) { slide.PictureByString("/good.jpg"); });
+    slide.PictureByString("/bad.jpg");
+    EXPECT_EQ(Shown(), "/good.jpg");
+    EXPECT_EQ(slide.LblTop.Caption(), "good.jpg");
+    EXPECT_EQ(slide.ImageFullPath(), "/good.jpg");
+}
+
+TEST_F(PictureTest, ASlideThatIsClearedInTheReportOfABadFileStaysClear) {
+    OwnAnswers();
+    slide.Events.InvalidPicture.connect([&](const std::string&) { slide.PictureByString(""); });
+    slide.PictureByString("/bad.jpg");
+    EXPECT_EQ(Shown(), "");
+    EXPECT_EQ(slide.LblTop.Caption(), "");
+}
+
+TEST_F(PictureTest, AnotherFileGivenWhileAButtonAsksForItsPictureStays) {
+    desktop.pictures.Add("/good.jpg", 20, 20);
+    slide.SetHaveTexte(true);
+    slide.Events.SetPicture.connect([&, asked = false](DiapoPictureIndex, Picture&, bool) mutable {
+        if (!std::exchange(asked, true)) slide.PictureByString("/good.jpg");
+    });
+    desktop.trace.Clear();
+    slide.PictureByString("/other.jpg");
+    EXPECT_EQ(desktop.trace.Take({"load"}), "load /good.jpg\n");
+    EXPECT_EQ(Shown(), "/good.jpg");
+}
+
+TEST_F(PictureTest, AnotherFileGivenWhenAnAssignmentHasFailedKeepsItsName) {
+    desktop.pictures.Add("/good.jpg", 20, 20);
+    desktop.pictures.Add("/flat.jpg", 0, 500);  // can't be fitted
+    slide.Events.InvalidPicture.connect([&](const std::string&) { slide.PictureByString("/good.jpg"); });
+    slide.PictureByString("/flat.jpg");
+    EXPECT_EQ(slide.LblTop.Caption(), "good.jpg");
+}
+
 TEST_F(PictureTest, AHostThatFailsInTheReportOfABadFileFailsPictureByString) {
     slide.Events.InvalidPicture.connect([](const std::string&) { throw failures::InvalidCall(); });
     slide.PictureByString("/bad.jpg");
