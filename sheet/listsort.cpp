@@ -86,12 +86,16 @@ void WriteItem(ListBox& list, const Item& item) {
     if (item.Data) Attempt([&] { list.SetItemData(list.NewIndex(), *item.Data); });
 }
 
+// A list that can't be emptied is left as it is.
 int32_t SortAnyList(ListBox& list, int32_t count, bool ascending, const KeyPlace& place, int32_t anchor) {
     const std::vector<Item> items = ReadItems(list, count);
     ListKeys keys(place, items.size());
     for (const Item& item : items) keys.Add(item.Text);
     const SortedOrder order = Order(keys, ascending, anchor);
     Attempt([&] { list.Clear(); });
+    bool refuses = false;
+    Attempt([&] { refuses = list.ListCount() == count; });
+    if (refuses) return anchor;
     for (const int32_t row : order.Rows) WriteItem(list, items[static_cast<size_t>(row)]);
     return order.Anchor;
 }

@@ -23,7 +23,8 @@ SortedOrder SortOrder(std::span<const std::string_view> texts, bool ascending, c
 
 // Sorts list on a criterion of the sort data that stands in front of separator, and follows the anchor. A list of less
 // than two items is not touched; any other is emptied and refilled, so that no item is the current one. Failures are
-// ignored one by one: what the list can't tell of an item counts as an empty text, as not selected, as key 0.
+// ignored one by one: what the list can't tell of an item counts as an empty text, as not selected, as key 0. One that
+// can't be emptied keeps its order.
 void SortList(ListBox& list, bool ascending, uint8_t criterion, std::string_view separator, int32_t& anchor);
 
 }  // namespace vorlane

@@ -21,6 +21,8 @@ public:
     std::set<int32_t> Unreadable;    // items that tell nothing
     std::set<std::string> Unwanted;  // texts that can't be added
     bool AddsAtFront = false;
+    enum class Clearing : uint8_t { Works, Fails, FailsHalfway };
+    Clearing ClearsHow = Clearing::Works;
     bool Dead = false;  // not even the count is known
 
     int32_t ListCount() const override {
@@ -49,6 +51,8 @@ public:
     void RemoveItem(int32_t index) override { Items.erase(Items.begin() + index); }
     void Clear() override {
         ++Clears;
+        if (ClearsHow == Clearing::FailsHalfway) Items.resize(Items.size() / 2);
+        if (ClearsHow != Clearing::Works) throw failures::OutOfMemory();
         Items.clear();
         newIndex_ = -1;
     }

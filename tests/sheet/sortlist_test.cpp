@@ -143,6 +143,26 @@ TEST(SortList, AnItemThatAHostsListRefusesIsLeftOut) {
     EXPECT_EQ(anchor, 2);
 }
 
+TEST(SortList, AHostsListThatCannotBeEmptiedKeepsItsOrder) {
+    PlainList list;
+    const Rows rows{{"c\t", true, 10}, {"b\t", false, 20}, {"a\t", true, 30}};
+    Fill(list, rows);
+    list.ClearsHow = PlainList::Clearing::Fails;
+    int32_t anchor = 0;
+    SortList(list, true, 1, kData, anchor);
+    EXPECT_EQ(Items(list), rows);
+    EXPECT_EQ(anchor, 0);
+}
+
+TEST(SortList, AHostsListThatFailsWhileItIsEmptiedLosesNothing) {
+    PlainList list;
+    Fill(list, {{"c\t", true, 10}, {"b\t", false, 20}, {"a\t", true, 30}});
+    list.ClearsHow = PlainList::Clearing::FailsHalfway;
+    int32_t anchor = 0;
+    SortList(list, true, 1, kData, anchor);
+    EXPECT_EQ(Items(list), (Rows{{"c\t", true, 10}, {"a\t", true, 30}, {"b\t", false, 20}, {"c\t", true, 10}}));
+}
+
 TEST(SortList, AListThatFailsAltogetherIsNoFailure) {
     PlainList list;
     list.Dead = true;
