@@ -343,20 +343,51 @@ TEST_F(RelayoutTest, AThrowInsideALayoutEndsItSilentlyAndTheTimerTriesAgain) {
     EXPECT_EQ(sheet->Diapo.Count(), 12);
 }
 
-TEST_F(RelayoutTest, ATickInsideAResizeStopsOnlyWhatRunsForAnotherGrid) {
-    Show(40);
-    sheet->TimerResize.SetEnabled(true);
-    bool stopped = false;
-    onAdded = [&, done = false](int16_t index) mutable {
-        if (index != 2 || std::exchange(done, true)) return;
+// A tick of the timer while slide 2 is told to have been laid out, in the middle of a change of the slides' size.
+class TickTest : public RelayoutTest {
+protected:
+    void ChangeSizeWithTick(std::function<void()> before) {
+        Show(40);
+        sheet->TimerResize.SetEnabled(true);
+        onAdded = [this, before = std::move(before), done = false](int16_t index) mutable {
+            if (index != 2 || std::exchange(done, true)) return;
+            before();
+            desktop.clock.Sleep(5);
+            desktop.clock.DoEvents();
+            EXPECT_TRUE(sheet->TimerResize.Enabled()) << "the timer stays on";
+        };
+        sheet->SetDiapoHeight(70);
+        EXPECT_TRUE(sheet->TimerResize.Enabled());
+    }
+};
+
+TEST_F(TickTest, ATickInsideAResizeLetsALayoutForTheSameGridRun) {
+    ChangeSizeWithTick([] {});
+    EXPECT_THAT(Heard(),
+                testing::EndsWith("host Added 8 008.jpg\nhost DisplayEnd\nhost PropertyChanged DiapoHeight\n"));
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(TickTest, ATickInsideAResizeStopsALayoutWhoseGridNoLongerFits) {
+    ChangeSizeWithTick([this] { sheet->SetMargeDiapoMin(40); });
+    EXPECT_THAT(Heard(), testing::EndsWith("host Added 2 002.jpg\nhost PropertyChanged MargeDiapoMin\n"
+                                           "host PropertyChanged DiapoHeight\n"));
+    desktop.clock.Advance(1);
+    EXPECT_THAT(Heard(), testing::EndsWith("host Added 8 008.jpg\nhost DisplayEnd\n")) << "the next tick goes on";
+    EXPECT_FALSE(sheet->TimerResize.Enabled());
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(TickTest, ATickInsideAResizeTakesBackAStopOnceTheGridFitsAgain) {
+    ChangeSizeWithTick([this] {
+        sheet->SetMargeDiapoMin(40);
         desktop.clock.Sleep(5);
         desktop.clock.DoEvents();
-        stopped = true;
-    };
-    sheet->SetDiapoWidth(110);
-    EXPECT_TRUE(stopped);
-    EXPECT_THAT(Heard(), testing::HasSubstr("host DisplayEnd"));
-    ExpectSlidesAgreeWithList();
+        sheet->SetMargeDiapoMin(5);
+    });
+    EXPECT_THAT(Heard(),
+                testing::EndsWith("host Added 8 008.jpg\nhost DisplayEnd\nhost PropertyChanged DiapoHeight\n"));
 }
 
 // --- The size of the slides ---
