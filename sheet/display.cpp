@@ -77,8 +77,9 @@ int16_t Vorlane::PositionOn(int32_t listIndex) {
 void Vorlane::FillFrom(int32_t listIndex) {
     InitVScroll(false);
     bar_.JumpNext = true;
+    const int32_t fills = pass_.Fills;
     VScroll.SetValue(listIndex);
-    const bool moved = !std::exchange(bar_.JumpNext, false);
+    const bool moved = fills != pass_.Fills;
     if (moved) return;
     const int32_t start = VScroll.Value();
     if (StartLect(start, -1, -1)) bar_.ScrollValue = start;
@@ -94,10 +95,14 @@ int16_t Vorlane::FillFromTop() {
 
 // --- The pass ---
 
-// Fills read the live token and are never stopped by it; layouts keep a copy and are.
+// Fills read the live token and are never stopped by it; layouts keep a copy and are. What a fill that was stopped or
+// has failed leaves is nothing to copy looks from, until one of all slides comes to its end.
 bool Vorlane::StartLect(int32_t start, int16_t slot, int16_t count) {
-    pass_.LectToken = random_.Next();
-    return Lect(start, slot, count);
+    const float token = FreshToken();
+    const bool complete = Lect(start, slot, count);
+    const bool newest = token == pass_.LectToken;
+    if (newest) bar_.JumpNext = !complete || (bar_.JumpNext && count > -1);
+    return complete;
 }
 
 bool Vorlane::Lect(int32_t start, int16_t slot, int16_t count) {
@@ -159,7 +164,7 @@ bool Vorlane::FillSlots(Fill& fill) {
     return true;
 }
 
-// A newer pass that ran meanwhile may have put another item on the slide, which is then that pass's own.
+// A newer pass, or a layout, that ran meanwhile may have put another item on the slide, which then stays there.
 sheet::Filled Vorlane::FillSlot(const Fill& fill, int32_t listIndex) {
     const std::string name = ItemFullPath(listIndex);
     const int16_t cursor = fill.Cursor;
@@ -175,7 +180,8 @@ sheet::Filled Vorlane::FillSlot(const Fill& fill, int32_t listIndex) {
     }
     if (!Diapo.Loaded(cursor)) return Filled::Lost;
     const auto slide = Diapo.Item(cursor);
-    if (MayGoOn(fill)) slide->SetValue(listIndex);
+    const bool shows = slide->ImageFullPath() == eDiapoLight::KnownPath(name);
+    if (shows && MayGoOn(fill)) slide->SetValue(listIndex);
     ShowPlaying(cursor, listIndex);
     SweepByBand(*slide);
     return Filled::Yes;

@@ -25,6 +25,16 @@ bool Vorlane::Stands(const ListBox& list, const Doomed& doomed) const {
            Doomed::HashAt(list, doomed.Index) == doomed.TextHash;
 }
 
+// Slide 0 alone may be blank on a filled sheet, too, where a step back is to fill it.
+bool Vorlane::ShowsItems() const {
+    return First().Value() >= 0 || Diapo.Count() > 1;
+}
+
+// The list index that slide 0 shows, or is to show.
+int32_t Vorlane::TopItem() const {
+    return First().Value() >= 0 ? First().Value() : VScroll.Value();
+}
+
 // Announces an item, unless a drag only moves the selection, and takes it out. Gives whether it has gone.
 bool Vorlane::TakeOut(ListBox& list, const Doomed& doomed, int16_t index) {
     if (!Stands(list, doomed)) return false;
@@ -65,7 +75,7 @@ void Vorlane::Remove(int16_t index) {
         Renumber(item);
         if (closes && pass_.Running == 0 && CloseUp(index)) {
             RefillEnd(next);
-        } else if (First().Value() >= 0) {
+        } else if (ShowsItems()) {
             FillFrom(ToInt32(Min(VScroll.Value(), ListCount() - 1)));
         }
         ShowSelection();  // a yield may have changed it
@@ -143,7 +153,8 @@ void Vorlane::RemoveAllSelected() {
         ListBox* list = Bound().AsListBox();
         if (list == nullptr || list->SelCount() < 1) return;
         const int16_t slot = FirstSelected();
-        const View before{First().Value(), slot, Diapo.Item(slot)->Value()};
+        const View before{TopItem(), slot, Diapo.Item(slot)->Value()};
+        const bool filled = ShowsItems();
         std::vector<int32_t> items;
         if (!list->SelItems(items)) items.clear();
         const int32_t fills = pass_.Fills;
@@ -151,7 +162,7 @@ void Vorlane::RemoveAllSelected() {
         const bool complete = TakeOutAll(*list, items);
         if (drag_.Moving) return;  // the drop shows the list
         InitVScroll(false);
-        const bool cleared = before.Top >= 0 && First().Value() < 0;
+        const bool cleared = filled && !ShowsItems();
         const bool undisturbed = complete && fills == pass_.Fills && ListCount() == left;
         if (!cleared) ShowRest(before, items, undisturbed);
         Events.TLRefresh();
@@ -170,7 +181,7 @@ void Vorlane::ShowRest(const View& before, const std::vector<int32_t>& removed, 
         StartLect(start, before.Slot, -1);
         return;
     }
-    int32_t wanted = First().Value();
+    int32_t wanted = TopItem();
     if (undisturbed && before.Slot == 0) {
         wanted = start;
     } else if (undisturbed) {

@@ -63,9 +63,12 @@ void Vorlane::BarChanged(int32_t value) {
         }
         const bool complete = step && IsWholeRow(distance) ? Scroll(back ? 1 : 0) : Jump(value);
         const float token = pass_.LectToken;
+        bar_.JumpNext = true;  // should the host fail
         Events.Scroll(value, bar_.ScrollValue);
         const bool newest = token == pass_.LectToken;  // a handler has shown nothing else meanwhile
-        if (complete && newest) bar_.ScrollValue = value;
+        if (!newest) return;
+        bar_.JumpNext = !complete;
+        if (complete) bar_.ScrollValue = value;
     };
     GuardVoid(change, "VScroll_Change", value);
 }

@@ -514,6 +514,8 @@ private:
 
     // removal.cpp
     bool Stands(const ListBox& list, const Doomed& doomed) const;
+    bool ShowsItems() const;
+    int32_t TopItem() const;
     bool TakeOut(ListBox& list, const Doomed& doomed, int16_t index);
     void Renumber(int32_t removed);
     bool CloseUp(int16_t index);

@@ -352,6 +352,36 @@ TEST_F(ReentranceTest, AThrowInScrollLeavesTheOldPlace) {
     EXPECT_THAT(Heard(), testing::EndsWith("host Scroll 9 from 0\n"));
 }
 
+TEST_F(ReentranceTest, AScrollThatFailedIsTakenBackByTheBar) {
+    Show(40);
+    onAdded = OnceAt(2, [] { throw failures::TypeMismatch(); });
+    sheet->VScroll.SetValue(20);
+    EXPECT_EQ(Slides(), "20 21 22 3 4 5 6 7 8");
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+    EXPECT_THAT(Heard(), testing::EndsWith("host DisplayEnd\nhost Scroll 0 from 0\n"));
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ReentranceTest, AScrollWhoseEventFailedIsTakenBackByTheBar) {
+    Show(40);
+    onScroll = [](int32_t&) { throw failures::TypeMismatch(); };
+    sheet->VScroll.SetValue(20);
+    onScroll = {};
+    sheet->VScroll.SetValue(0);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(ReentranceTest, AFillThatFailedIsNoGroundForAStep) {
+    Show(40);
+    onAdded = OnceAt(2, [] { throw failures::TypeMismatch(); });
+    sheet->StartLecture("", 1020);
+    sheet->VScroll.SetValue(23);
+    EXPECT_EQ(Slides(), "23 24 25 26 27 28 29 30 31");
+    ExpectSlidesAgreeWithList();
+}
+
 // --- What hosts do to the slides ---
 
 TEST_F(ReentranceTest, ASlideThatAHandlerUnloadsStopsTheFillWithoutAnError) {

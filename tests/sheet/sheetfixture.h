@@ -92,7 +92,9 @@ protected:
             if (slide->Value() == -1) continue;
             EXPECT_EQ(slide->ImageFullPath(), sheet->ImageFullPath(slide->Value())) << "slide " << k;
             EXPECT_EQ(slide->Selected(), sheet->Liste()->Selected(slide->Value())) << "slide " << k;
-            EXPECT_EQ(headless::NameOf(slide->Picture()), slide->ImageFullPath()) << "slide " << k;
+            const bool readable = slide->ImageFullPath().find("/broken") == std::string::npos;
+            EXPECT_EQ(headless::NameOf(slide->Picture()), readable ? slide->ImageFullPath() : "file-substitute")
+                << "slide " << k;
         }
     }
 
