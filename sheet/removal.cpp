@@ -30,9 +30,9 @@ bool Vorlane::ShowsItems() const {
     return First().Value() >= 0 || Diapo.Count() > 1;
 }
 
-// The list index that slide 0 shows, or is to show.
+// The list index that slide 0 shows, or is to show when the fill that is under way comes to its end.
 int32_t Vorlane::TopItem() const {
-    return First().Value() >= 0 ? First().Value() : VScroll.Value();
+    return pass_.Running == 0 && First().Value() >= 0 ? First().Value() : VScroll.Value();
 }
 
 // Announces an item, unless a drag only moves the selection, and takes it out. Gives whether it has gone.
@@ -176,13 +176,14 @@ void Vorlane::RemoveAllSelected() {
 void Vorlane::ShowRest(const View& before, const std::vector<int32_t>& removed, bool undisturbed) {
     const int32_t start = removed.empty() ? 0 : removed.front();
     const int32_t lastFull = ListCount() - CountDiapo();
-    const bool inPlace = undisturbed && before.Slot > 0 && before.SlotItem == start && before.Top <= VScroll.Max();
+    const bool still = undisturbed && pass_.Running == 0;
+    const bool inPlace = still && before.Slot > 0 && before.SlotItem == start && before.Top <= VScroll.Max();
     if (inPlace && lastFull > 0) {
         StartLect(start, before.Slot, -1);
         return;
     }
     int32_t wanted = TopItem();
-    if (undisturbed && before.Slot == 0) {
+    if (still && before.Slot == 0) {
         wanted = start;
     } else if (undisturbed) {
         wanted -= static_cast<int32_t>(std::lower_bound(removed.begin(), removed.end(), wanted) - removed.begin());

@@ -119,7 +119,7 @@ protected:
         if (action == "remove") Remove(1);
         if (action == "remove behind") Remove(4);
         if (action == "remove selected") {
-            for (const int32_t item : {10, 14, 55}) sheet->Liste()->SetSelected(item, true);
+            for (const int32_t item : {10, 14, 55}) Select(item);
             sheet->RemoveAllSelected();
         }
         if (action == "restore") Restore();
@@ -135,6 +135,15 @@ protected:
         sheet->WriteProperties(bag);
         bag.SetValue("BorderSize", int64_t{2});
         sheet->Restart(bag);
+    }
+
+    // In the list and on the slides, wherever the pass is.
+    void Select(int32_t item) {
+        sheet->Liste()->SetSelected(item, true);
+        for (int32_t k = 0; k < sheet->Diapo.Count(); ++k) {
+            const auto slide = sheet->Diapo.Item(k);
+            if (slide->Value() == item) slide->SetSelected(true);
+        }
     }
 
     // A slide that shows no item has none to lose, which is told.

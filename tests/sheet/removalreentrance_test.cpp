@@ -253,6 +253,28 @@ TEST_F(RemovalTest, AScrollInRemovedOfASelectionIsKept) {
     ExpectSlidesAgreeWithList();
 }
 
+TEST_F(RemovalTest, ARemovalOfTheSelectionInTheMiddleOfAFillKeepsTheWayOfTheBar) {
+    for (const int32_t way : {9, 30}) {
+        SCOPED_TRACE(way);
+        Show(40);
+        ScrollTo(12);
+        Select({14, 16});
+        onDisplayStart = [this, done = false]() mutable {
+            if (!std::exchange(done, true)) sheet->RemoveAllSelected();
+        };
+        sheet->VScroll.SetValue(way);
+        onDisplayStart = {};
+        EXPECT_EQ(sheet->Count(), 38);
+        const int32_t top = way == 30 ? 28 : 9;  // where the same item stands now
+        EXPECT_EQ(sheet->Diapo.Item(0)->Value(), top) << Slides();
+        EXPECT_EQ(sheet->Diapo.Item(8)->Value(), top + 8) << Slides();
+        ExpectBarAtSlideZero();
+        ExpectSlidesAgreeWithList();
+        ExpectNoError();
+        sheet->Clear();
+    }
+}
+
 TEST_F(RemovalTest, AFillInFeedBackShowsTheListAsItIsThen) {
     Show(40);
     Select({2, 4});
