@@ -214,6 +214,18 @@ TEST_F(ScrollingTest, TheCurrentSlideMovesWithTheList) {
     ExpectSlidesAgreeWithList();
 }
 
+// Where a slide was current, another one that becomes so drops the selection first, whatever key is held.
+TEST_F(ScrollingTest, WhereNoSlideIsCurrentAWayBackMakesNoneCurrent) {
+    Show(40);
+    sheet->VScroll.SetValue(6);
+    sheet->LstInterne.SetSelected(30, true);
+    sheet->VScroll.SetValue(3);
+    desktop.keyboard.Set(17, true);  // Ctrl
+    sheet->SetCurrentDiapo(4);
+    EXPECT_EQ(sheet->CountSelected(), 2);
+    ExpectSlidesAgreeWithList();
+}
+
 TEST_F(ScrollingTest, SelectedSlidesKeepTheirColourWhenTheyMove) {
     Show(40);
     sheet->LstInterne.SetSelected(5, true);
