@@ -151,11 +151,12 @@ bool Vorlane::MayGoOn(const Placement& placement) const {
 
 sheet::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
     std::string name;
-    if (Diapo.Loaded(slot)) {
-        name = ItemShownBy(*Diapo.Item(slot)).value_or(Diapo.Item(slot)->ImageFullPath());
-    } else {
+    const bool missing = !Diapo.Loaded(slot);
+    if (missing) {
         const Placed made = MakeMissing(slot, name);
         if (made != Placed::Yes) return made;
+    } else {
+        name = ItemShownBy(*Diapo.Item(slot)).value_or(Diapo.Item(slot)->ImageFullPath());
     }
     const auto slide = Diapo.Item(slot);
     slide->SetCol(placement.X);
@@ -167,6 +168,7 @@ sheet::Placed Vorlane::PlaceSlot(int16_t slot, Placement& placement) {
         if (!SetDiapoImage(slot, name, -1)) throw failures::ControlNotLoaded();
     }
     slide->SetVisible(true);
+    if (missing) SweepByBand(*slide);
     placement.X += slide->Width() + grid_.MargeX;
     if ((slot + 1) % grid_.CountDiapoX == 0) {
         placement.Y += slide->Height() + grid_.MargeY;

@@ -488,6 +488,22 @@ TEST_F(RenameTest, RenameDiapoOfASlideThatIsNotThereChangesNothing) {
     EXPECT_THAT(Heard(), testing::HasSubstr("RenameDiapo"));
 }
 
+TEST_F(RenameTest, ASheetReadOnceMoreDuringAnEditRenamesTheSameItem) {
+    Type("Aube", 1);
+    PropertyBag bag;
+    sheet->WriteProperties(bag);
+    bag.SetValue("BorderSize", int64_t{2});
+    sheet->Restart(bag);
+    desktop.clock.Advance(200);
+    EXPECT_TRUE(sheet->Txt.Visible());
+    Enter();
+    EXPECT_TRUE(Exists(Path("Aube.jpg")));
+    EXPECT_EQ(sheet->ImageFullPath(1), Path("Aube.jpg"));
+    EXPECT_EQ(sheet->Diapo.Item(1)->ImageFullPath(), Path("Aube.jpg"));
+    EXPECT_FALSE(sheet->Txt.Visible());
+    EXPECT_EQ(Slides(), "0 1 2");
+}
+
 TEST_F(RenameTest, AnEditOfASlideWhoseItemHasGoneIsCanceled) {
     Type("Aube");
     sheet->Clear();
