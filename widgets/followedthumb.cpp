@@ -13,6 +13,13 @@ namespace {
 
 constexpr int kUncompressed = 100;  // written and read once
 
+// What the window shows in place of a broken file, so that it opens none.
+QImage Nothing() {
+    QImage dot(1, 1, QImage::Format_ARGB32);
+    dot.fill(Qt::transparent);
+    return dot;
+}
+
 }  // namespace
 
 FollowedThumb::FollowedThumb(Vorlane& sheet, ThumbnailService& service) : sheet_(sheet), service_(service) {
@@ -26,7 +33,7 @@ std::string FollowedThumb::FileFor(const QString& path, int size, const QImage& 
     const QString cached = service_.cachedFile(path, size);
     if (!cached.isEmpty()) return QFile::encodeName(cached).toStdString();
     const ThumbnailService::Answer answer = service_.request(path, size);
-    if (answer.state == ThumbnailService::State::Failed) return {};
+    if (answer.state == ThumbnailService::State::Failed) return Written(Nothing());
     awaited_ = path;
     return Written(answer.thumbnail.IsNull() ? tile : answer.thumbnail.image);
 }

@@ -23,8 +23,8 @@ public:
     // The sheet outlives this; nothing is asked of it once the service has gone.
     FollowedThumb(Vorlane& sheet, ThumbnailService& service);
 
-    // The file to show for the picture file under the thumb, in that size or a larger one, in pixels. Empty for one
-    // that is known to be broken, or when no file can be written.
+    // The file to show for the picture file under the thumb, in that size or a larger one, in pixels; one of nothing
+    // for a file that is known to be broken. Empty when no file can be written.
     std::string FileFor(const QString& path, int size, const QImage& tile);
 
     // Something else is under the thumb.

@@ -145,10 +145,13 @@ TEST_F(FollowedThumbTest, ABrokenFileLeavesTheWindowEmpty) {
     EXPECT_NE(Shown(), QColor(Qt::green));
     ASSERT_TRUE(Settle());
     EXPECT_EQ(Shown(), QColor(Qt::green));
-    hand_->Move({0, -1});
-    hand_->Move({0, 1});
+    std::string named;
+    host_.sheet().Events.GetThumbPath.connect([&](const std::string&, std::string& thumb) { named = thumb; });
+    hand_->Move({0, -30});
+    hand_->Move({0, 30});
     EXPECT_EQ(Shown(), QColor(Qt::green));
     EXPECT_EQ(reads_, 0);
+    EXPECT_TRUE(QFile::exists(QString::fromStdString(named))) << "the broken file is not even opened";
 }
 
 TEST_F(FollowedThumbTest, WhatTheHostNamesIsLeftAlone) {
