@@ -2,11 +2,20 @@
 #include "platform/failure.h"
 #include "platform/jsonscanner.h"
 
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace vorlane {
 
 namespace {
+
+// Infinite beyond what a float holds.
+float Single(double number) {
+    using Limits = std::numeric_limits<float>;
+    if (std::abs(number) <= Limits::max()) return static_cast<float>(number);
+    return number < 0 ? -Limits::infinity() : Limits::infinity();
+}
 
 class BagReader {
 public:
@@ -62,7 +71,7 @@ private:
             if (part == "name") {
                 font.Name = scanner_.Text();
             } else if (part == "size") {
-                font.Size = static_cast<float>(scanner_.Number().Real);
+                font.Size = Single(scanner_.Number().Real);
             } else {
                 StyleOf(font, part) = scanner_.Flag();
             }

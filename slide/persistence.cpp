@@ -1,6 +1,7 @@
 // The slide's persisted properties: one table for reading, writing and new slides.
 #include "platform/boxing.h"
 #include "slide/ediapolight.h"
+#include "slide/fontsize.h"
 
 #include <functional>
 #include <type_traits>
@@ -89,9 +90,9 @@ std::vector<eDiapoLight::PersistedProperty> eDiapoLight::MakePersistedProperties
         kept("Enabled", always(true), &This::Enabled,
              [](This& slide, bool enabled) { slide.Control::SetEnabled(enabled); }),
         kept("FontBottom", ambientFont, &This::FontBottom,
-             [](This& slide, const vorlane::Font& font) { slide.LblBottom.SetFont(font); }),
+             [](This& slide, const vorlane::Font& font) { slide.LblBottom.SetFont(WithUsableSize(font)); }),
         kept("FontImageName", ambientFont, &This::FontImageName,
-             [](This& slide, const vorlane::Font& font) { slide.LblTop.SetFont(font); }),
+             [](This& slide, const vorlane::Font& font) { slide.LblTop.SetFont(WithUsableSize(font)); }),
         foreColor,
         field("ImageMarge", &S::ImageMarge, 5, 5),
         kept("MouseIcon", always(vorlane::Picture{}), &This::MouseIcon, &This::SetMouseIcon),

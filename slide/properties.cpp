@@ -1,6 +1,7 @@
 // The slide's property surface.
 #include "platform/numbers.h"
 #include "slide/ediapolight.h"
+#include "slide/fontsize.h"
 
 #include <utility>
 
@@ -229,12 +230,12 @@ void eDiapoLight::SetCaptionBottomNbLig(int16_t lines) {
 }
 
 void eDiapoLight::SetFontBottom(const vorlane::Font& font) {
-    LblBottom.SetFont(font);
+    LblBottom.SetFont(WithUsableSize(font));
     PropertyChanged("FontBottom");
 }
 
 void eDiapoLight::SetFontImageName(const vorlane::Font& font) {
-    LblTop.SetFont(font);
+    LblTop.SetFont(WithUsableSize(font));
     PropertyChanged("FontImageName");
 }
 

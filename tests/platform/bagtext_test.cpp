@@ -67,6 +67,17 @@ TEST(BagText, AFontHasItsNameItsSizeAndItsStyles) {
     EXPECT_EQ(Again(all), BagValue(all));
 }
 
+TEST(BagText, AFontsSizeIsAnyNumber) {
+    const auto size = [](const std::string& number) {
+        return BagFromText("{\"key\": {\"font\": {\"size\": " + number + "}}}").ReadFont("key", {}).Size;
+    };
+    EXPECT_EQ(size("0"), 0);
+    EXPECT_EQ(size("-12.5"), -12.5F);
+    EXPECT_EQ(size("1e300"), std::numeric_limits<float>::infinity());
+    EXPECT_EQ(size("-1e300"), -std::numeric_limits<float>::infinity());
+    EXPECT_EQ(size("1e-300"), 0);
+}
+
 TEST(BagText, APictureIsATextOfTheHosts) {
     const Picture icon(PictureType::Bitmap, 8, 8, nullptr);
     const PictureTexts texts{[&](const Picture& picture) { return picture == icon ? "icon.png" : ""; },

@@ -141,6 +141,21 @@ TEST_F(LifecycleTest, ABadValueLeavesTheDefaultAndTheNextKeysAreRead) {
     EXPECT_EQ(sheet->MargeDiapoMin(), 12);
 }
 
+TEST_F(LifecycleTest, AFontOfNoSizeLeavesTheOneThatStandsOnAllSlides) {
+    PropertyBag bag;
+    bag.SetValue("LegendeFont", Font{"Serif", 0});
+    bag.SetValue("FontImageName", Font{"Serif", 12});
+    Start(bag);
+    AddItems(0, 1);
+    sheet->StartLecture();
+    for (int32_t k = 0; k < 2; ++k) {
+        EXPECT_EQ(sheet->Diapo.Item(k)->FontBottom(), window.Ambient().Font);
+        EXPECT_EQ(sheet->Diapo.Item(k)->FontImageName(), (Font{"Serif", 12}));
+    }
+    EXPECT_THROW(sheet->SetLegendeFont({"Serif", -1}), Failure);
+    EXPECT_EQ(sheet->LegendeFont(), window.Ambient().Font);
+}
+
 TEST_F(LifecycleTest, TheSelectionColourOfTheBagIsTheOneThatBlankSlidesGet) {
     PropertyBag bag;
     bag.SetValue("BackColorSelected", int64_t{0x101010});

@@ -178,7 +178,7 @@ TEST_F(LayoutTest, ABorderSizeThatOverflowsAByteLeavesNoGap) {
 }
 
 TEST_F(LayoutTest, AStatementThatFailsLeavesItsValueAndTheNextOnesRun) {
-    slide.SetFontImageName(Sized(1e30F));
+    slide.LblTop.SetFont(Sized(1e30F));
     slide.SetBorderStyle(DiapoBorderStyle::BorderNone);
     slide.SetBorderStyle(DiapoBorderStyle::FlatBackColor);
     EXPECT_EQ(Frame(), "Box 1,9 148,96");

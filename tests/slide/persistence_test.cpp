@@ -1,6 +1,8 @@
 #include "platform/failure.h"
 #include "slidetest.h"
 
+#include <cmath>
+#include <limits>
 #include <map>
 
 namespace vorlane::headless {
@@ -48,6 +50,23 @@ protected:
 
     static Values In(const PropertyBag& bag) { return {bag.Values().begin(), bag.Values().end()}; }
 };
+
+TEST_F(PersistenceTest, AFontOfAnImpossibleSizeIsPassedOver) {
+    slide.SetFontImageName({"Mono", 14});
+    for (const float size : {0.0F, -8.0F, 2161.0F, std::numeric_limits<float>::infinity(), std::nanf("")}) {
+        PropertyBag bag = FullBag();
+        bag.SetValue("FontImageName", Font{"Serif", size});
+        slide.ReadProperties(bag);
+        EXPECT_EQ(slide.FontImageName(), (Font{"Mono", 14})) << size;
+        EXPECT_EQ(slide.FontBottom(), (Font{"Serif", 12})) << "the other keys are read";
+        EXPECT_THROW(slide.SetFontBottom({"Mono", size}), Failure) << size;
+        EXPECT_EQ(slide.FontBottom(), (Font{"Serif", 12}));
+    }
+    PropertyBag largest;
+    largest.SetValue("FontBottom", Font{"Serif", 2160});
+    slide.ReadProperties(largest);
+    EXPECT_EQ(slide.FontBottom().Size, 2160);
+}
 
 TEST_F(PersistenceTest, TheKeysAreReadInTheirOrder) {
     std::string keys;

@@ -93,6 +93,56 @@ TEST_F(DiapoLightWidgetTest, ASavedSlideIsRestoredInAnotherWidget) {
     EXPECT_EQ(other.BorderSize(), 9);
 }
 
+TEST_F(DiapoLightWidgetTest, ADamagedTextChangesNothingAndIsReported) {
+    widget.SetBorderSize(9);
+    const QByteArray saved = widget.SaveProperties();
+    QSignalSpy failed(&widget, &DiapoLightWidget::OnError);
+    const QList<QByteArray> damaged = {"",
+                                       "[]",
+                                       "{\"BorderSize\": 3,",
+                                       "{\"BorderSize\": null}",
+                                       "{\"BorderSize\": 3, \"BorderSize\": 4}",
+                                       "{\"BorderSize\": 3, \"FontBottom\": {\"font\": {\"size\": \"big\"}}}"};
+    for (const QByteArray& text : damaged) EXPECT_FALSE(widget.RestoreProperties(text)) << text.toStdString();
+    EXPECT_EQ(widget.SaveProperties(), saved);
+    ASSERT_EQ(failed.count(), damaged.size());
+    for (const auto& told : failed) EXPECT_EQ(told.at(4).toString(), "DiapoLightWidget RestoreProperties");
+}
+
+TEST_F(DiapoLightWidgetTest, AValueThatTheSlideCannotHoldIsPassedOver) {
+    widget.SetBorderSize(9);
+    widget.SetFontBottom(QFont("DejaVu Sans", 11));
+    widget.SetFontImageName(QFont("DejaVu Sans", 12));
+    QSignalSpy failed(&widget, &DiapoLightWidget::OnError);
+    EXPECT_TRUE(widget.RestoreProperties(R"({"NoResize": "perhaps", "BorderSize": 300, "ShadowWidth": "wide",
+        "BackColor": {"font": {}}, "FontBottom": {"font": {"name": "Serif", "size": 0}}, "FontImageName": 14,
+        "MouseIcon": "none", "CaptionBottomNbLig": 40000, "ThumbnailSizeHigh": 2.5, "ImageMarge": -1, "Unknown": 1,
+        "ThumbnailSizeNormal": 77})"));
+    EXPECT_EQ(failed.count(), 0);
+    EXPECT_EQ(widget.BorderSize(), 9);
+    EXPECT_EQ(widget.ShadowWidth(), 5);
+    EXPECT_EQ(widget.FontBottom().pointSizeF(), 11);
+    EXPECT_EQ(widget.FontImageName().pointSizeF(), 12);
+    EXPECT_EQ(widget.CaptionBottomNbLig(), 2);
+    EXPECT_EQ(widget.ThumbnailSizeHigh(), 500);
+    EXPECT_EQ(widget.ImageMarge(), 5);
+    EXPECT_EQ(widget.ThumbnailSizeNormal(), 77) << "the last one is read all the same";
+    EXPECT_FALSE(widget.grab().isNull());
+}
+
+TEST_F(DiapoLightWidgetTest, FontSizesOfASavedTextAreBounded) {
+    widget.SetFontBottom(QFont("DejaVu Sans", 11));
+    for (const char* size : {"0", "-3", "2161", "1e30", "1e300"}) {
+        const QByteArray text = QByteArray(R"({"FontBottom": {"font": {"size": )") + size + "}}}";
+        EXPECT_TRUE(widget.RestoreProperties(text)) << size;
+        EXPECT_EQ(widget.FontBottom().pointSizeF(), 11) << size;
+    }
+    EXPECT_TRUE(widget.RestoreProperties(R"({"FontBottom": {"font": {"size": 2160}}, "NoResize": false})"));
+    EXPECT_EQ(widget.FontBottom().pointSizeF(), 2160);
+    widget.Refresh();
+    EXPECT_FALSE(widget.grab().isNull());
+}
+
 TEST_F(DiapoLightWidgetTest, ASlideSavedWhileItIsSelectedKeepsItsNormalGround) {
     widget.SetBackColor(QColor(1, 2, 3));
     widget.SetSelected(true);
