@@ -4,6 +4,7 @@
 #include "editor/showfile.h"
 #include "editor/slidedrags.h"
 #include "editor/stripmenu.h"
+#include "widgets/droppedfiles.h"
 #include "widgets/filekind.h"
 
 #include <algorithm>
@@ -23,7 +24,7 @@ void EditorWindow::ConnectDrags() {
 
 // The sheet takes what is dragged over it by itself; slides of its own have no other place here.
 void EditorWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (drags_->areDragged() || SlideDrags::PathsOf(*event->mimeData()).isEmpty()) return;
+    if (drags_->areDragged() || DroppedFiles(*event->mimeData()).isEmpty()) return;
     event->setDropAction(Qt::CopyAction);  // the files stay where they are
     event->accept();
     empty_->setDropping(true);
@@ -35,7 +36,7 @@ void EditorWindow::dragLeaveEvent(QDragLeaveEvent*) {
 
 void EditorWindow::dropEvent(QDropEvent* event) {
     empty_->setDropping(false);
-    const QStringList paths = SlideDrags::PathsOf(*event->mimeData());
+    const QStringList paths = DroppedFiles(*event->mimeData());
     if (paths.isEmpty()) return;
     event->setDropAction(Qt::CopyAction);
     event->accept();

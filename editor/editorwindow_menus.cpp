@@ -137,7 +137,7 @@ void EditorWindow::NameMenus() {
     menus_.selectAll->setText(tr("&Tout sélectionner"));
     menus_.show->setText(tr("&Ouvrir l'image"));
     menus_.rename->setText(tr("Re&nommer le fichier"));
-    menus_.remove->setText(tr("Re&tirer de la planche"));
+    menus_.remove->setText(tr("Retirer de &la planche"));
     menus_.moveBack->setText(tr("Déplacer vers le &début"));
     menus_.moveOn->setText(tr("Déplacer vers la &fin"));
     NameViewMenu();

@@ -49,6 +49,7 @@ Navigator::Navigator(VorlaneWidget& sheet, Show& show, QObject* parent)
     // The sheet tells no release that came while it was at work on the press.
     connect(&sheet, &VorlaneWidget::OnMouseDown, this, &Navigator::FollowMouse);
     connect(&sheet, &VorlaneWidget::OnMouseUp, this, &Navigator::FollowMouse);
+    connect(&sheet, &VorlaneWidget::OnAccessibleAction, this, [this](int slide) { mark(sheet_.Value(slide)); });
 }
 
 int Navigator::current() const {

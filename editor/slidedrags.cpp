@@ -2,12 +2,12 @@
 
 #include "editor/navigator.h"
 #include "editor/show.h"
+#include "widgets/droppedfiles.h"
 #include "widgets/vorlanewidget.h"
 
 #include <QDragEnterEvent>
 #include <QLocale>
 #include <QMimeData>
-#include <QUrl>
 
 namespace vorlane::editor {
 
@@ -42,14 +42,6 @@ SlideDrags::SlideDrags(VorlaneWidget& sheet, Show& show, Navigator& navigator, Q
     });
 }
 
-QStringList SlideDrags::PathsOf(const QMimeData& data) {
-    QStringList paths;
-    for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile()) paths.push_back(url.toLocalFile());
-    }
-    return paths;
-}
-
 bool SlideDrags::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Drop) on_ = navigator_.itemAt(static_cast<QDropEvent*>(event)->position());
     if (event->type() == QEvent::DragEnter) return Refuses(static_cast<QDragEnterEvent&>(*event));
@@ -57,7 +49,7 @@ bool SlideDrags::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool SlideDrags::Refuses(QDragEnterEvent& event) {
-    paths_ = dragged_ ? QStringList() : PathsOf(*event.mimeData());
+    paths_ = dragged_ ? QStringList() : DroppedFiles(*event.mimeData());
     if (dragged_ || !paths_.isEmpty()) return false;
     event.ignore();
     return true;

@@ -26,8 +26,6 @@ public:
     // All outlive this.
     SlideDrags(VorlaneWidget& sheet, Show& show, Navigator& navigator, QObject* parent = nullptr);
 
-    // The local files and folders that dragged data names.
-    static QStringList PathsOf(const QMimeData& data);
     // Whether the sheet's own slides are being dragged.
     bool areDragged() const { return dragged_; }
 

@@ -2,6 +2,7 @@
 
 #include "editor/colors.h"
 #include "editor/show.h"
+#include "widgets/droppedfiles.h"
 #include "widgets/filekind.h"
 #include "widgets/vorlanewidget.h"
 
@@ -10,7 +11,6 @@
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QPainter>
-#include <QUrl>
 
 namespace vorlane::editor {
 
@@ -24,9 +24,8 @@ constexpr double kRing = 2;
 
 QStringList SoundsOf(const QMimeData& data) {
     QStringList sounds;
-    for (const QUrl& url : data.urls()) {
-        const QString file = url.toLocalFile();
-        if (!file.isEmpty() && FileKindOf(file) == FileKind::Sound) sounds.push_back(file);
+    for (const QString& file : DroppedFiles(data)) {
+        if (FileKindOf(file) == FileKind::Sound) sounds.push_back(file);
     }
     return sounds;
 }

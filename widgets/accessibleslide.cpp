@@ -78,6 +78,7 @@ void AccessibleSlide::doAction(const QString& name) {
     if (!isValid() || !widget_->isEnabled()) return;
     Vorlane& sheet = widget_->sheet();
     const int16_t slot = ToInt16(slot_);
+    if (!actionNames().contains(name)) return;
     Attempt([&] {
         if (name == toggleAction()) {
             const bool selected = !sheet.Selected(slot);
@@ -85,11 +86,11 @@ void AccessibleSlide::doAction(const QString& name) {
             return sheet.SetSelected(slot, selected);
         }
         if (name == setFocusAction()) widget_->setFocus(Qt::OtherFocusReason);
-        if (name != pressAction() && name != setFocusAction()) return;
         sheet.SelectedClear();
         sheet.SetSelected(slot, true);
     });
     if (widget_) AccessibleSheet::TellSelection(*widget_);
+    if (widget_) Q_EMIT widget_->OnAccessibleAction(slot_);
 }
 
 }  // namespace vorlane

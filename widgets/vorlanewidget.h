@@ -396,6 +396,8 @@ Q_SIGNALS:
     void OnAfterEdit(const QString& newFileName, const QString& oldFileName, bool canceled);
     void OnRenameError(int errorType, const QString& newFileName, const QString& oldFileName, QString* errorMessage,
                        bool* cancelMessage);
+    // An assistive program has pressed a slide, focused it or changed whether it is selected.
+    void OnAccessibleAction(int index);
     // The info button is pressed: what does the balloon show? Without titre and texte there is none.
     void OnToolTipInfos(int index, const QString& fileName, QString* titre, QString* texte, int* icone);
     // Kept for hosts; nothing raises them.

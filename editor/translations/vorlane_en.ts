@@ -218,7 +218,7 @@
         <translation>&amp;Open Picture</translation>
     </message>
     <message>
-        <source>Re&amp;tirer de la planche</source>
+        <source>Retirer de &amp;la planche</source>
         <translation>&amp;Remove from Sheet</translation>
     </message>
     <message>

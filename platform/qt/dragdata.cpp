@@ -112,16 +112,6 @@ std::vector<std::string> FilesOfOwnForm(const QByteArray& list) {
     return files;
 }
 
-std::vector<std::string> FilesOfUriList(const QByteArray& list) {
-    std::vector<std::string> files;
-    ForEachLine(View(list), [&](std::string_view line) {
-        const auto path = PathOfAddress(line);
-        if (path) files.push_back(DraggedFileEntry(*path));
-        return true;
-    });
-    return files;
-}
-
 // The lines in front of the first empty one that can be files.
 std::string PathsOfText(const std::string& text) {
     std::string paths;
@@ -147,12 +137,22 @@ std::unique_ptr<QMimeData> MimeDataFrom(const DataObject& data) {
     return mime;
 }
 
+std::vector<std::string> LocalFilesOf(const QMimeData& mime) {
+    std::vector<std::string> paths;
+    const QByteArray list = mime.data(kUriList);
+    ForEachLine(View(list), [&](std::string_view line) {
+        if (auto path = PathOfAddress(line)) paths.push_back(std::move(*path));
+        return true;
+    });
+    return paths;
+}
+
 DataObject DataObjectFrom(const QMimeData& mime) {
     std::vector<std::string> files;
     if (mime.hasFormat(kOwn)) {
         files = FilesOfOwnForm(mime.data(kOwn));
     } else if (mime.hasFormat(kUriList)) {
-        files = FilesOfUriList(mime.data(kUriList));
+        for (const std::string& path : LocalFilesOf(mime)) files.push_back(DraggedFileEntry(path));
     }
     std::string text;
     if (mime.hasFormat(kPlainText)) text = PathsOfText(mime.text().toStdString());

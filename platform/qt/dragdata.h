@@ -10,6 +10,8 @@
 #include "platform/dataobject.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 class QMimeData;
 
@@ -19,5 +21,7 @@ inline constexpr char kOwnDragForm[] = "application/x-vorlane-files";
 
 std::unique_ptr<QMimeData> MimeDataFrom(const DataObject& data);
 DataObject DataObjectFrom(const QMimeData& mime);
+// The paths of the local files that text/uri-list names, in its order.
+std::vector<std::string> LocalFilesOf(const QMimeData& mime);
 
 }  // namespace vorlane

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QScreen>
@@ -193,6 +194,24 @@ TEST_F(NavigationTest, SpaceTakesTheCurrentSlideIntoTheSelectionAndOut) {
     Press(Qt::Key_Space);
     EXPECT_EQ(Selection(), std::vector{0});
     EXPECT_TRUE(window_->sheet().Selected(0));
+}
+
+TEST_F(NavigationTest, TheKeysGoOnFromTheSlideThatAnAssistiveProgramHasPressed) {
+    ASSERT_TRUE(OpenMany());
+    Press(Qt::Key_Home);
+    QAccessibleInterface* sheet = QAccessible::queryAccessibleInterface(&window_->sheet());
+    ASSERT_NE(sheet, nullptr);
+    for (const QString& action :
+         {QAccessibleActionInterface::pressAction(), QAccessibleActionInterface::setFocusAction(),
+          QAccessibleActionInterface::toggleAction()}) {
+        const int slide = Current() + 2;
+        sheet->child(slide)->actionInterface()->doAction(action);
+        EXPECT_EQ(Current(), slide) << action.toStdString();
+    }
+    Press(Qt::Key_Return);
+    EXPECT_EQ(opened_, QStringList({QFileInfo(window_->sheet().ImageFullPath(6)).fileName()}));
+    Press(Qt::Key_Right);
+    EXPECT_EQ(Current(), 7);
 }
 
 TEST_F(NavigationTest, EnterOpensThePicture) {

@@ -6,6 +6,7 @@
 #include "editor/showfile.h"
 #include "platform/qt/dragdata.h"
 #include "tests/editor/windowfixture.h"
+#include "widgets/droppedfiles.h"
 
 #include <functional>
 #include <memory>
@@ -90,6 +91,27 @@ protected:
     int allowed_ = -1;
 };
 
+// --- Files of other programs ---
+
+TEST_F(SlideDragsTest, AnAddressThatNamesThisComputerIsAFileOfIt) {
+    ASSERT_TRUE(ByHand("ab"));
+    const QString other = QFileInfo(Folder()).path() + "/c.png";
+    ASSERT_TRUE(QFile::copy(window_->sheet().ImageFullPath(0), other));
+    QMimeData data;
+    data.setData("text/uri-list", "file://localhost" + other.toUtf8() + "\r\n");
+    EXPECT_TRUE(DropOnSheet(data, In(1, 0.8), Qt::CopyAction) && Settle());
+    EXPECT_EQ(Letters(), "abc");
+    QFile::remove(other);
+}
+
+TEST_F(SlideDragsTest, AnAddressOfAnotherComputerIsRefused) {
+    ASSERT_TRUE(ByHand("ab"));
+    QMimeData data;
+    data.setData("text/uri-list", "file://elsewhere.example" + window_->sheet().ImageFullPath(0).toUtf8() + "\r\n");
+    EXPECT_FALSE(DropOnSheet(data, In(1, 0.8), Qt::CopyAction));
+    EXPECT_EQ(Letters(), "ab");
+}
+
 // --- Slides of the sheet ---
 
 TEST_F(SlideDragsTest, ADraggedSlideMovesWithAWayBack) {
@@ -148,7 +170,7 @@ TEST_F(SlideDragsTest, ASortKeepsTheSlidesAndTheStatusLineTellsWhy) {
 TEST_F(SlideDragsTest, OtherProgramsMayCopyTheFilesWhateverTheOrder) {
     ASSERT_TRUE(OpenPictures("abcd"));
     QStringList offered;
-    Drag(2, [&](const QMimeData& data) { offered = SlideDrags::PathsOf(data); });
+    Drag(2, [&](const QMimeData& data) { offered = DroppedFiles(data); });
     EXPECT_EQ(offered, QStringList{pictures_.Path("c.jpg")});
     EXPECT_EQ(allowed_ & 1, 1);
     EXPECT_EQ(Letters(), "abcd");

@@ -200,9 +200,9 @@ TEST_F(Announcements, AnotherNameOfASlideIsTold) {
 }
 
 TEST_F(Announcements, ARenamingThatFailsIsNotTold) {
-    QSignalSpy errors(&widget, &VorlaneWidget::OnError);
+    QSignalSpy failures(&widget, &VorlaneWidget::OnError);
     widget.RenameDiapo(3, folder.filePath("003.png"), folder.filePath("Rome.png"), 99);
-    EXPECT_EQ(errors.size(), 1);
+    EXPECT_EQ(failures.size(), 1);
     EXPECT_EQ(Heard(), QStringList());
     widget.sheet().Terminate();
     widget.RenameDiapo(0, folder.filePath("000.png"), folder.filePath("Rome.png"));
