@@ -88,7 +88,7 @@ void Vorlane::InitProperties() {
 // A value that can't be read leaves its property as it was. Slides of an earlier start go: they have the old design; a
 // sheet that showed some is laid out anew, and shows its selection in the new colours.
 void Vorlane::ReadProperties(const PropertyBag& bag) {
-    const bool filled = HasSlides() || First().Value() >= 0;
+    const bool filled = ShowsItems();
     layout_.Ready = false;
     Attempt([&] { First().SetSelected(false); });
     for (int32_t k = Diapo.UpperBound(); k > 0; --k) {

@@ -5,6 +5,7 @@
 #include "sheet/vorlane.h"
 
 #include <algorithm>
+#include <exception>
 #include <functional>
 
 namespace vorlane {
@@ -27,12 +28,17 @@ bool Vorlane::Stands(const ListBox& list, const Doomed& doomed) const {
 
 // Slide 0 alone may be blank on a filled sheet, too, where a step back is to fill it.
 bool Vorlane::ShowsItems() const {
-    return First().Value() >= 0 || Diapo.Count() > 1;
+    return First().Value() >= 0 || HasSlides();
+}
+
+// Whether slide 0 tells where the sheet stands, in the list as it is by now; else the bar does, as it was set.
+bool Vorlane::SlidesLead() const {
+    return pass_.Running == 0 && First().Value() >= 0;
 }
 
 // The list index that slide 0 shows, or is to show when the fill that is under way comes to its end.
 int32_t Vorlane::TopItem() const {
-    return pass_.Running == 0 && First().Value() >= 0 ? First().Value() : VScroll.Value();
+    return SlidesLead() ? First().Value() : VScroll.Value();
 }
 
 // Announces an item, unless a drag only moves the selection, and takes it out. Gives whether it has gone.
@@ -55,7 +61,9 @@ bool Vorlane::TakeOutAll(ListBox& list, const std::vector<int32_t>& items) {
     for (const int32_t item : items) doomed.push_back(Doomed::At(list, item));
     const auto total = static_cast<int32_t>(items.size());
     for (int32_t done = 1; done <= total; ++done) {
-        if (!TakeOut(list, doomed[static_cast<size_t>(total - done)], -1)) return false;
+        const Doomed& next = doomed[static_cast<size_t>(total - done)];
+        if (!TakeOut(list, next, -1)) return false;
+        Renumber(next.Index, -1);
         Events.TraitementFeedBack(done, total);
     }
     return true;
@@ -72,7 +80,7 @@ void Vorlane::Remove(int16_t index) {
         UnloadSurplus();  // the last slide has to be one of the grid
         const bool closes = Diapo.Loaded(index) && Diapo.Item(index)->Value() == item;
         const int32_t next = Last()->Value() + 1;
-        Renumber(item);
+        Renumber(item, item);
         if (closes && pass_.Running == 0 && CloseUp(index)) {
             RefillEnd(next);
         } else if (ShowsItems()) {
@@ -84,12 +92,16 @@ void Vorlane::Remove(int16_t index) {
     GuardVoid(remove, "Remove", index);
 }
 
-// The slides behind a removed item tell its new place at once, so that a handler finds none that names another item.
-void Vorlane::Renumber(int32_t removed) {
-    for (int32_t k = 0; k < Diapo.Count(); ++k) {
-        const auto slide = Diapo.Item(k);
-        if (slide->Value() > removed) slide->SetValue(slide->Value() - 1);
-    }
+// The slides behind a removed item tell its new place at once, and its own slide another value, so that a handler finds
+// none that names another item.
+void Vorlane::Renumber(int32_t removed, int32_t ofItsSlide) {
+    ForEachSlide([=](eDiapoLight& slide) {
+        if (slide.Value() == removed) {
+            slide.SetValue(ofItsSlide);
+        } else if (slide.Value() > removed) {
+            slide.SetValue(slide.Value() - 1);
+        }
+    });
 }
 
 // Moves the looks behind a slide up by one, with a yield after each; the last look then stands twice. Gives false when
@@ -159,20 +171,28 @@ void Vorlane::RemoveAllSelected() {
         if (!list->SelItems(items)) items.clear();
         const int32_t fills = pass_.Fills;
         const int64_t left = int64_t{list->ListCount()} - static_cast<int64_t>(items.size());
-        const bool complete = TakeOutAll(*list, items);
-        if (drag_.Moving) return;  // the drop shows the list
-        InitVScroll(false);
-        const bool cleared = filled && !ShowsItems();
-        const bool undisturbed = complete && fills == pass_.Fills && ListCount() == left;
-        if (!cleared) ShowRest(before, items, undisturbed);
-        Events.TLRefresh();
+        bool complete = false;
+        std::exception_ptr failed;
+        try {
+            complete = TakeOutAll(*list, items);
+        } catch (...) {
+            failed = std::current_exception();
+        }
+        if (!drag_.Moving) {  // else the drop shows the list
+            InitVScroll(false);
+            const bool cleared = filled && !ShowsItems();
+            const bool undisturbed = complete && fills == pass_.Fills && ListCount() == left;
+            if (!cleared) ShowRest(before, items, undisturbed);
+        }
+        if (failed) std::rethrow_exception(failed);
+        if (!drag_.Moving) Events.TLRefresh();
     };
     GuardVoid(remove, "RemoveAllSelected");
 }
 
 // Fills from the first selected slide on where nothing has gone before it; else all slides, from the first item that
-// has gone where that is at slide 0 or nowhere to be seen, else from the item that slide 0 shows. Handlers that have
-// changed the slides leave them where they then stand.
+// has gone (start) where that is at slide 0 or nowhere to be seen, else from the item that slide 0 shows. Handlers that
+// have changed the slides leave them where they then stand.
 void Vorlane::ShowRest(const View& before, const std::vector<int32_t>& removed, bool undisturbed) {
     const int32_t start = removed.empty() ? 0 : removed.front();
     const int32_t lastFull = ListCount() - CountDiapo();
@@ -185,7 +205,7 @@ void Vorlane::ShowRest(const View& before, const std::vector<int32_t>& removed, 
     int32_t wanted = TopItem();
     if (still && before.Slot == 0) {
         wanted = start;
-    } else if (undisturbed) {
+    } else if (undisturbed && !SlidesLead()) {
         wanted -= static_cast<int32_t>(std::lower_bound(removed.begin(), removed.end(), wanted) - removed.begin());
     }
     if (StartLect(ToInt32(Max(Min(wanted, lastFull), 0)), -1, -1)) AlignBar();

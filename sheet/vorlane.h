@@ -515,9 +515,10 @@ private:
     // removal.cpp
     bool Stands(const ListBox& list, const Doomed& doomed) const;
     bool ShowsItems() const;
+    bool SlidesLead() const;
     int32_t TopItem() const;
     bool TakeOut(ListBox& list, const Doomed& doomed, int16_t index);
-    void Renumber(int32_t removed);
+    void Renumber(int32_t removed, int32_t ofItsSlide);
     bool CloseUp(int16_t index);
     void RefillEnd(int32_t next);
     void PullRow();

@@ -248,7 +248,7 @@ TEST_F(RemovalTest, AScrollInRemovedOfASelectionIsKept) {
     onRemoved = Once([this] { sheet->VScroll.SetValue(20); });
     sheet->RemoveAllSelected();
     EXPECT_EQ(sheet->Count(), 38);
-    EXPECT_EQ(Slides(), "20 21 22 23 24 25 26 27 28");
+    EXPECT_EQ(Shown(), "20 21 22 23 24 25 26 27 28");
     ExpectBarAtSlideZero();
     ExpectSlidesAgreeWithList();
 }
@@ -328,8 +328,64 @@ TEST_F(RemovalTest, AThrowInRemovedOfASelectionLeavesTheListAsItIsThen) {
     };
     sheet->RemoveAllSelected();
     EXPECT_EQ(sheet->Count(), 39);
-    EXPECT_THAT(Heard(), testing::EndsWith("host Removed -1 key 1002\n"
-                                           "host Error 13 Vorlane RemoveAllSelected DpCnt=9\n"));
+    const std::string heard = Heard();
+    EXPECT_THAT(heard, testing::HasSubstr("host Removed -1 key 1002\nhost DisplayStart\n"));
+    EXPECT_THAT(heard, testing::EndsWith("host DisplayEnd\nhost Error 13 Vorlane RemoveAllSelected DpCnt=9\n"));
+    EXPECT_EQ(Shown(), "0 1 2 3 5 6 7 8 9");
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(RemovalTest, AThrowBehindTheItemOfSlideZeroLeavesTheSheetWhereTheBarStands) {
+    Show(40);
+    ScrollTo(12);
+    Select({12, 14});
+    onFeedBack = [](int32_t done) {
+        if (done == 2) throw failures::TypeMismatch();
+    };
+    sheet->RemoveAllSelected();
+    EXPECT_EQ(Shown(), "13 15 16 17 18 19 20 21 22");
+    ExpectBarAtSlideZero();
+    ExpectSlidesAgreeWithList();
+}
+
+TEST_F(RemovalTest, TheSlidesAgreeWithTheListAfterEachItemOfASelection) {
+    Show(40);
+    Select({0, 2, 4, 6, 20});
+    int32_t asked = 0;
+    const auto look = [&] {
+        ++asked;
+        ExpectSlidesAgreeWithList();
+    };
+    onRemoved = [&](int32_t&) { look(); };
+    onFeedBack = [&](int32_t) { look(); };
+    sheet->RemoveAllSelected();
+    EXPECT_EQ(asked, 10);
+    EXPECT_EQ(Shown(), "1 3 5 7 8 9 10 11 12");
+}
+
+TEST_F(RemovalTest, ARemovalInFeedBackTakesTheItemThatItsSlideShows) {
+    Show(40);
+    Select({2, 4, 6});
+    onFeedBack = [this](int32_t done) {
+        if (done == 1) sheet->Remove(7);
+    };
+    sheet->RemoveAllSelected();
+    EXPECT_EQ(sheet->Count(), 36);
+    EXPECT_EQ(Shown(), "0 1 3 5 8 9 10 11 12");
+    ExpectSlidesAgreeWithList();
+    ExpectNoError();
+}
+
+TEST_F(RemovalTest, ARemovalInFeedBackOfASlideWhoseItemHasGoneTakesNothing) {
+    Show(40);
+    Select({2, 4, 6});
+    onFeedBack = [this](int32_t done) {
+        if (done == 1) sheet->Remove(6);
+    };
+    sheet->RemoveAllSelected();
+    EXPECT_EQ(sheet->Count(), 37);
+    EXPECT_THAT(Heard(), testing::HasSubstr("Vorlane Remove DpCnt=9 - 6\n"));
+    ExpectSlidesAgreeWithList();
 }
 
 TEST_F(RemovalTest, TheSheetMayEndDuringARemoval) {
