@@ -86,11 +86,16 @@ void Vorlane::InitProperties() {
 }
 
 // A value that can't be read leaves its property as it was. Slides of an earlier start go: they have the old design; a
-// sheet that showed some is laid out anew, and shows its selection in the new colours.
+// sheet that showed some is laid out anew, and shows its selection in the new colours. One that has ended stays at
+// rest.
 void Vorlane::ReadProperties(const PropertyBag& bag) {
     const bool filled = ShowsItems();
     layout_.Ready = false;
-    Attempt([&] { First().SetSelected(false); });
+    const OLE_COLOR selection = DesignOfSelection();
+    Attempt([&] {
+        First().SetSelected(false);
+        First().SetBackColorSelected(selection);
+    });
     for (int32_t k = Diapo.UpperBound(); k > 0; --k) {
         if (Diapo.Loaded(k)) Diapo.Unload(k);
     }
@@ -98,7 +103,7 @@ void Vorlane::ReadProperties(const PropertyBag& bag) {
         Attempt([&] { property.Read(*this, bag); });
     }
     Begin();
-    if (!filled) return;
+    if (!filled || items_.Liste == nullptr) return;
     Attempt([&] { ShowSelection(); });
     TimerResize.SetEnabled(true);
 }
@@ -107,7 +112,7 @@ void Vorlane::Begin() {
     selection_.SelectedColor = First().BackColorSelected();
     if (Ambient().UserMode) {
         First().SetVisible(false);  // the template shows in a designer only
-        Subclass(true);
+        if (items_.Liste != nullptr) Subclass(true);
     }
     layout_.Ready = true;
 }
@@ -120,12 +125,20 @@ void Vorlane::WriteProperties(PropertyBag& bag) const {
 
 void Vorlane::WriteDesign(PropertyBag& bag) const {
     WriteProperties(bag);
-    const bool marked = First().Selected() && First().Value() == selection_.CurrentListIndex;
     for (const PersistedProperty& property : PersistedProperties()) {
         const auto put = [&](OLE_COLOR color) { bag.Write(property.Key, Boxed(color), property.Default(*this)); };
         if (property.Key == "BackColorDiapo") put(First().NormalGround());
-        if (property.Key == "BackColorSelected" && marked) put(selection_.SelectedColor);
+        if (property.Key == "BackColorSelected") put(DesignOfSelection());
     }
+}
+
+// The colour of selections without the mark, which slide 0 has for it while it is the current one. A host may have
+// given it another one since, or another mark.
+OLE_COLOR Vorlane::DesignOfSelection() const {
+    const OLE_COLOR shown = First().BackColorSelected();
+    const bool current = First().Selected() && First().Value() == selection_.CurrentListIndex;
+    const bool mark = shown == selection_.BackColorCurrent || shown == First().BackColor();
+    return current && mark ? selection_.SelectedColor : shown;
 }
 
 void Vorlane::Show() {

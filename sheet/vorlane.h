@@ -368,6 +368,7 @@ private:
 
     // lifecycle.cpp
     void Begin();
+    OLE_COLOR DesignOfSelection() const;
 
     // properties.cpp
     static std::vector<PersistedProperty> MakePersistedProperties();

@@ -325,7 +325,7 @@ public Q_SLOTS:
     void Clear();
     void Refresh();
     // Starts the sheet with its present properties, as a saved one starts: what it takes over once at its start, as the
-    // ground of selected slides, it takes over as it is now. Its slides want filling then.
+    // ground of selected slides, it takes over as it is now. Shows its items and its selection as before.
     void StartAgain();
     // Ends the sheet's work: it has no list, no timers and no messages then. Harmless when called again.
     void Terminate();

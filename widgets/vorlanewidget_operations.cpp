@@ -190,7 +190,7 @@ void VorlaneWidget::Refresh() {
 void VorlaneWidget::StartAgain() {
     Do("StartAgain", [&] {
         PropertyBag bag;
-        sheet_.WriteProperties(bag);
+        sheet_.WriteDesign(bag);
         sheet_.ReadProperties(bag);
     });
 }

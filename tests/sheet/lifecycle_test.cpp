@@ -189,6 +189,29 @@ TEST_F(LifecycleTest, ADesignKeepsAHostsColourThatEqualsTheMark) {
     EXPECT_EQ(design.ReadColor("BackColorSelected", 0), sheet->BackColorCurrent());
 }
 
+TEST_F(LifecycleTest, ADesignKeepsAColourThatTheHostGaveWhileTheFirstSlideWasTheCurrentOne) {
+    Show(9);
+    window.Click(50, 40);
+    sheet->SetBackColorSelected(0x101010);
+    PropertyBag design;
+    sheet->WriteDesign(design);
+    EXPECT_EQ(design.ReadColor("BackColorSelected", 0), 0x101010U);
+}
+
+TEST_F(LifecycleTest, ADesignHasNoMarkThatTheHostHasChangedSince) {
+    Show(9);
+    window.Click(50, 40);
+    sheet->SetBackColorCurrent(0x202020);
+    PropertyBag design;
+    sheet->WriteDesign(design);
+    EXPECT_FALSE(design.Value("BackColorSelected"));
+    sheet->SetBackColorCurrent(8249597);
+    sheet->SetBackColorDiapo(0x303030);
+    PropertyBag other;
+    sheet->WriteDesign(other);
+    EXPECT_FALSE(other.Value("BackColorSelected"));
+}
+
 TEST_F(LifecycleTest, ADesignSavedWhileTheFirstSlideIsTheCurrentOneHasTheLoadedColourOfSelections) {
     PropertyBag bag;
     bag.SetValue("BackColorSelected", int64_t{0x101010});
@@ -246,6 +269,23 @@ TEST_F(LifecycleTest, ASheetReadOnceMoreShowsItsSelectionInTheNewColours) {
     EXPECT_EQ(sheet->CurrentDiapo(), -1);
 }
 
+TEST_F(LifecycleTest, ABadColourOfSelectionsLeavesTheOldOneAlsoUnderTheMark) {
+    PropertyBag bag;
+    bag.SetValue("BackColorSelected", int64_t{0x101010});
+    Start(bag);
+    AddItems(0, 8);
+    for (const int32_t item : {1, 2}) sheet->Liste()->SetSelected(item, true);
+    sheet->StartLecture();
+    sheet->SetSelected(0, true);
+    ASSERT_EQ(sheet->CurrentDiapo(), 0);
+    ASSERT_EQ(sheet->CountSelected(), 3);
+    bag.SetValue("BackColorSelected", std::string("wide"));
+    sheet->Restart(bag);
+    desktop.clock.Advance(200);
+    EXPECT_EQ(sheet->Diapo.Item(0)->BackColor(), sheet->BackColorCurrent());
+    EXPECT_EQ(sheet->Diapo.Item(1)->BackColor(), 0x101010U);
+}
+
 TEST_F(LifecycleTest, ASheetReadOnceMoreIsLaidOutAnewAlsoWhereNothingElseAsksForIt) {
     Show(9);
     PropertyBag bag;
@@ -283,6 +323,19 @@ TEST_F(LifecycleTest, EndingTwiceIsHarmless) {
     EXPECT_EQ(sheet->Liste(), nullptr);
     sheet->Terminate();
     sheet.reset();
+}
+
+TEST_F(LifecycleTest, ASheetReadOnceMoreBehindItsEndStaysAtRest) {
+    Show(9);
+    sheet->Terminate();
+    PropertyBag bag;
+    bag.SetValue("Marges", int64_t{9});
+    sheet->Restart(bag);
+    desktop.clock.Advance(50);
+    EXPECT_EQ(sheet->Marges(), 9);
+    EXPECT_EQ(desktop.clock.RunningTimers(), 0);
+    EXPECT_EQ(desktop.windows.AttachedMessages(), 0);
+    EXPECT_EQ(Heard(), "");
 }
 
 TEST_F(LifecycleTest, AnEndedSheetReportsThatItHasNoList) {

@@ -63,6 +63,16 @@ TEST_F(VorlaneWidgetTest, WhatIsSelectedChangesNothingOfWhatIsSaved) {
     EXPECT_EQ(widget.SaveProperties(), saved);
 }
 
+TEST_F(VorlaneWidgetTest, AStartAnewUnderASelectionKeepsTheColours) {
+    AddPictures(3);
+    Show();
+    widget.StartLecture();
+    widget.SetCurrentDiapo(0);
+    const QByteArray saved = widget.SaveProperties();
+    widget.StartAgain();
+    EXPECT_EQ(widget.SaveProperties(), saved);
+}
+
 TEST_F(VorlaneWidgetTest, WhatASavedTextLeavesOutGetsItsDefault) {
     widget.SetMarges(33);
     EXPECT_TRUE(widget.RestoreProperties("{}"));
