@@ -16,4 +16,18 @@ std::vector<std::unique_ptr<QWidget>> MakePeers(UserControl& control, ControlHos
     return peers;
 }
 
+std::vector<ScopedConnection> FollowEnabled(Control& model, QWidget& peer) {
+    const auto follow = [&model, &peer] {
+        bool enabled = true;
+        for (const Control* outer = &model; outer != nullptr; outer = outer->Container()) enabled &= outer->Enabled();
+        peer.setEnabled(enabled);
+    };
+    std::vector<ScopedConnection> connections;
+    for (Control* outer = &model; outer != nullptr; outer = outer->Container()) {
+        connections.push_back(outer->Changed.connect(follow));
+    }
+    follow();
+    return connections;
+}
+
 }  // namespace vorlane

@@ -3,6 +3,7 @@
 #include "platform/failure.h"
 #include "platform/qt/controlhost.h"
 #include "platform/qt/keys.h"
+#include "platform/qt/peers.h"
 #include "platform/scale.h"
 
 #include <utility>
@@ -37,6 +38,7 @@ ScrollBarPeer::ScrollBarPeer(ScrollbarPlus& model, ControlHost& host) : QScrollB
     setTracking(false);
     setContextMenuPolicy(Qt::NoContextMenu);
     changed_ = model_.Changed.connect([this] { Follow(); });
+    enabled_ = FollowEnabled(model_, *this);
     connect(this, &QScrollBar::sliderMoved, this, [this] {
         if (!following_) DragThumb();
     });
@@ -62,7 +64,6 @@ void ScrollBarPeer::Follow() {
     setSingleStep(model_.SmallChange());
     setPageStep(model_.LargeChange());
     isSliderDown() ? setSliderPosition(thumb) : setValue(model_.Value());
-    setEnabled(model_.Enabled());
     const Box box = model_.BoundsInRoot();
     setGeometry(QRectF(box.Left, box.Top, box.Width, box.Height).toRect());
     setVisible(model_.Visible());
@@ -78,6 +79,7 @@ void ScrollBarPeer::DragThumb() {
 void ScrollBarPeer::mousePressEvent(QMouseEvent* event) {
     held_ |= event->button();
     Tell(model_.Input.MouseDown, *event);
+    if (!held_.testFlag(event->button())) return;  // a handler has taken the bar out of the hand
     const int before = sliderPosition();
     QScrollBar::mousePressEvent(event);
     if (isSliderDown() && sliderPosition() != before) DragThumb();
@@ -85,13 +87,31 @@ void ScrollBarPeer::mousePressEvent(QMouseEvent* event) {
 
 void ScrollBarPeer::mouseReleaseEvent(QMouseEvent* event) {
     QScrollBar::mouseReleaseEvent(event);
+    if (!held_.testFlag(event->button())) return;
     held_ &= ~Qt::MouseButtons(event->button());
     Tell(model_.Input.MouseUp, *event);
 }
 
-// A bar that goes out of sight under the user's hand hears of no release any more.
-void ScrollBarPeer::hideEvent(QHideEvent* event) {
-    QScrollBar::hideEvent(event);
+// --- The end of a press without a release ---
+
+bool ScrollBarPeer::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked) LetGo();
+    return QScrollBar::event(event);
+}
+
+void ScrollBarPeer::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) LetGo();
+    QScrollBar::changeEvent(event);
+}
+
+void ScrollBarPeer::hideEvent(QHideEvent*) {
+    LetGo();
+}
+
+// A bar that goes out of sight, is disabled or stands behind a dialog hears of no release any more. Its value stays.
+void ScrollBarPeer::LetGo() {
+    QHideEvent hidden;  // lets the style's part of the bar go
+    QScrollBar::hideEvent(&hidden);
     dragged_ = false;
     setSliderDown(false);
     const Qt::MouseButtons held = std::exchange(held_, {});

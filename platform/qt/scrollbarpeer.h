@@ -4,6 +4,8 @@
 
 #include "platform/scrollbarplus.h"
 
+#include <vector>
+
 #include <QScrollBar>
 
 namespace vorlane {
@@ -17,6 +19,8 @@ public:
     ScrollBarPeer(ScrollbarPlus& model, ControlHost& host);
 
 protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -27,10 +31,12 @@ protected:
 private:
     void Follow();
     void DragThumb();
+    void LetGo();
     QRect ThumbAt(int position) const;
 
     ScrollbarPlus& model_;
     ScopedConnection changed_;
+    std::vector<ScopedConnection> enabled_;
     bool following_ = false;
     Qt::MouseButtons held_;  // those that went down on the bar and are not up again
     bool dragged_ = false;   // the user has moved the thumb and not let go of it

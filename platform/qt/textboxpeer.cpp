@@ -3,6 +3,7 @@
 #include "platform/failure.h"
 #include "platform/qt/colors.h"
 #include "platform/qt/controlhost.h"
+#include "platform/qt/peers.h"
 
 #include <QKeyEvent>
 #include <QPointer>
@@ -28,6 +29,7 @@ int Units(const QString& text, int32_t characters) {
 
 TextBoxPeer::TextBoxPeer(TextBox& model, ControlHost& host) : QLineEdit(&host), model_(model), host_(host) {
     changed_ = model_.Changed.connect([this] { Follow(); });
+    enabled_ = FollowEnabled(model_, *this);
     focusRequested_ = model_.FocusRequested.connect([this] { setFocus(Qt::OtherFocusReason); });
     connect(this, &QLineEdit::textEdited, this, [this] { Report(); });
     connect(this, &QLineEdit::selectionChanged, this, [this] { Report(); });
@@ -42,7 +44,6 @@ void TextBoxPeer::Follow() {
     if (wanted != text()) setText(wanted);
     FollowSelection();
     setFont(ToQFont(model_.Font()));
-    setEnabled(model_.Enabled());
     const Box box = model_.BoundsInRoot();
     setGeometry(QRectF(box.Left, box.Top, box.Width, box.Height).toRect());
     if (!model_.Visible() && hasFocus()) host_.setFocus(Qt::OtherFocusReason);

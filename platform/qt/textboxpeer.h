@@ -3,6 +3,8 @@
 
 #include "platform/textbox.h"
 
+#include <vector>
+
 #include <QLineEdit>
 
 namespace vorlane {
@@ -29,6 +31,7 @@ private:
     TextBox& model_;
     ControlHost& host_;
     ScopedConnection changed_;
+    std::vector<ScopedConnection> enabled_;
     ScopedConnection focusRequested_;
     bool busy_ = false;  // following the model, or reporting to it
 };

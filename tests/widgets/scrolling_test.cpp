@@ -6,6 +6,8 @@
 #include "windows/frmscroll.h"
 
 #include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
 #include <QPointer>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -111,6 +113,89 @@ TEST_F(ScrollingTest, ADraggedThumbIsFollowedByAWindowAndScrollsWhenItIsLetGo) {
     EXPECT_EQ(Shown(0), ColorOf(under));
     EXPECT_EQ(told, QStringList({"down 1 at 0", QString("up 1 at %1").arg(under)}));
     EXPECT_EQ(errors, "");
+}
+
+// --- Where the user can't work on the sheet ---
+
+TEST_F(ScrollingTest, TheBarOfADisabledSheetStandsStill) {
+    QSignalSpy pressed(&widget, &VorlaneWidget::OnScrollMouseDown);
+    widget.SetEnabled(false);
+    hand.PressThumb();
+    hand.Move({0, 60});
+    EXPECT_EQ(FormOnScreen(), nullptr);
+    hand.Release();
+    EXPECT_EQ(Bar().value(), 0);
+    EXPECT_EQ(pressed.count(), 0);
+    widget.SetEnabled(true);
+    hand.PressThumb();
+    hand.Move({0, 60});
+    hand.Release();
+    EXPECT_GT(Bar().value(), 0);
+    EXPECT_EQ(pressed.count(), 1);
+}
+
+TEST_F(ScrollingTest, TheBoxOverANameOfADisabledSheetTakesNoText) {
+    widget.StartEdit(0);
+    auto& box = *widget.findChild<QLineEdit*>();
+    ASSERT_TRUE(box.isVisible());
+    widget.SetEnabled(false);
+    EXPECT_FALSE(box.isEnabled());
+    widget.SetEnabled(true);
+    EXPECT_TRUE(box.isEnabled());
+}
+
+class LetGoTest : public ScrollingTest {
+protected:
+    // The user drags the thumb, and something takes the bar out of the hand.
+    template <class Take>
+    void TakeAway(Take&& take) {
+        QSignalSpy released(&widget, &VorlaneWidget::OnScrollMouseUp);
+        hand.PressThumb();
+        hand.Move({0, 60});
+        ASSERT_NE(FormOnScreen(), nullptr);
+        take();
+        EXPECT_EQ(FormOnScreen(), nullptr);
+        EXPECT_EQ(released.count(), 1);
+        EXPECT_FALSE(Bar().isSliderDown());
+        EXPECT_EQ(Bar().sliderPosition(), 0);
+        EXPECT_EQ(Shown(0), ColorOf(0)) << "the list stands still";
+    }
+    void ExpectNothingInTheHand() {
+        QSignalSpy released(&widget, &VorlaneWidget::OnScrollMouseUp);
+        hand.Move({0, 10});
+        hand.Release();
+        EXPECT_EQ(FormOnScreen(), nullptr);
+        EXPECT_EQ(Bar().sliderPosition(), 0);
+        EXPECT_EQ(widget.sheet().VScroll.Value(), 0);
+        EXPECT_EQ(released.count(), 0);
+    }
+};
+
+TEST_F(LetGoTest, ADisabledWidgetLetsGoOfTheThumb) {
+    TakeAway([&] { widget.setEnabled(false); });
+    widget.setEnabled(true);
+    ExpectNothingInTheHand();
+}
+
+TEST_F(LetGoTest, ADisabledSheetLetsGoOfTheThumb) {
+    TakeAway([&] { widget.SetEnabled(false); });
+    widget.SetEnabled(true);
+    ExpectNothingInTheHand();
+}
+
+TEST_F(LetGoTest, ADialogThatBlocksTheWindowLetsGoOfTheThumb) {
+    QDialog dialog(&widget);
+    TakeAway([&] { dialog.open(); });
+    dialog.close();
+    ExpectNothingInTheHand();
+}
+
+TEST_F(LetGoTest, APressThatDisablesTheSheetHoldsNothing) {
+    QObject::connect(&widget, &VorlaneWidget::OnScrollMouseDown, &widget, [&] { widget.setEnabled(false); });
+    hand.PressThumb();
+    EXPECT_FALSE(Bar().isSliderDown());
+    widget.setEnabled(true);
+    ExpectNothingInTheHand();
 }
 
 TEST_F(ScrollingTest, AReceiverMayNameAThumbnailForTheFollowWindow) {
