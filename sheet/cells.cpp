@@ -28,6 +28,17 @@ int16_t Vorlane::ComputeCountY() const {
     return grid::CountThatFit(grid_.Area.AreaHeight, First().Height(), grid_.MargeDiapoMin);
 }
 
+// Fails where slides of that size make no grid.
+void Vorlane::RequireGrid(double width, double height) const {
+    grid::Frame frame = Frame();
+    frame.SlideWidth = static_cast<float>(width);
+    frame.SlideHeight = static_cast<float>(height);
+    const grid::Area area = grid::ComputeArea(frame, grid_.Marges);
+    const bool row = bar_.ScrollDirection == ScrollDirectionType::sdHorizontal;
+    const int16_t rows = row ? int16_t{1} : grid::CountThatFit(area.AreaHeight, frame.SlideHeight, grid_.MargeDiapoMin);
+    grid::PoolSize(grid::CountThatFit(area.AreaWidth, frame.SlideWidth, grid_.MargeDiapoMin), rows);
+}
+
 int16_t Vorlane::RowLength() const {
     return bar_.ScrollDirection == ScrollDirectionType::sdVertical ? grid_.CountDiapoX : grid_.CountDiapoY;
 }
@@ -68,16 +79,12 @@ int16_t Vorlane::DiapoHeight(bool withInterval) const {
 
 void Vorlane::SetDiapoWidth(int16_t width) {
     if (width == First().Width()) return;
-    First().SetWidth(width);
-    DiapoSizeChange(true, width, ToInt16(width * kHeightByWidth));
-    PropertyChanged("DiapoWidth");
+    if (ChangeSlideSize(true, width, ToInt16(width * kHeightByWidth))) PropertyChanged("DiapoWidth");
 }
 
 void Vorlane::SetDiapoHeight(int16_t height) {
     if (height == First().Height()) return;
-    First().SetHeight(height);
-    DiapoSizeChange(true, ToInt16(First().Width()), height);
-    PropertyChanged("DiapoHeight");
+    if (ChangeSlideSize(true, ToInt16(First().Width()), height)) PropertyChanged("DiapoHeight");
 }
 
 }  // namespace vorlane

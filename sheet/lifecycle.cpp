@@ -99,8 +99,15 @@ void Vorlane::ReadProperties(const PropertyBag& bag) {
     for (int32_t k = Diapo.UpperBound(); k > 0; --k) {
         if (Diapo.Loaded(k)) Diapo.Unload(k);
     }
+    const float width = First().Width();
+    const float height = First().Height();
+    const int16_t gap = grid_.MargeDiapoMin;
     for (const PersistedProperty& property : PersistedProperties()) {
         Attempt([&] { property.Read(*this, bag); });
+    }
+    if (!Attempt([&] { RequireGrid(First().Width(), First().Height()); })) {
+        First().Move(First().Left(), First().Top(), width, height);
+        grid_.MargeDiapoMin = gap;
     }
     Begin();
     if (!filled || items_.Liste == nullptr) return;

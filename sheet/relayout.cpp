@@ -69,11 +69,17 @@ void Vorlane::UnloadSurplus() {
 }
 
 void Vorlane::DiapoSizeChange(bool dimAll, int16_t newWidth, int16_t newHeight) {
+    ChangeSlideSize(dimAll, newWidth, newHeight);
+}
+
+// A size that makes no grid changes nothing. Gives whether the slides have the new one.
+bool Vorlane::ChangeSlideSize(bool dimAll, int16_t newWidth, int16_t newHeight) {
     const auto change = [&] {
+        RequireGrid(newWidth, newHeight);
         if (!First().Visible() || !dimAll) {
             First().Move(First().Left(), First().Top(), newWidth, newHeight);
             Resize();
-            return;
+            return true;
         }
         layout_.Resizing = true;
         First().SetWidth(newWidth);
@@ -83,9 +89,11 @@ void Vorlane::DiapoSizeChange(bool dimAll, int16_t newWidth, int16_t newHeight) 
         if (CountDiapo() < Diapo.Count()) HideFrom(0);
         InitVScroll(false);
         if (PlaceDiapos(CountDiapo(), FreshToken(), newWidth, newHeight)) TimerUnload.SetEnabled(true);
+        return true;
     };
-    GuardVoid(change, "DiapoSizeChange", dimAll, newWidth, newHeight);
+    const bool changed = Guard(false, change, "DiapoSizeChange", dimAll, newWidth, newHeight);
     layout_.Resizing = false;
+    return changed;
 }
 
 void Vorlane::HideFrom(int32_t first) {

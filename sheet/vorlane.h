@@ -410,6 +410,7 @@ private:
     void ComputeArea();
     int16_t ComputeCountX() const;
     int16_t ComputeCountY() const;
+    void RequireGrid(double width, double height) const;
     int16_t RowLength() const;  // slides in one scroll step
     int16_t RowCount() const;
     grid::Spread SpreadCells(double slideWidth, double slideHeight);
@@ -670,6 +671,7 @@ private:
     void Resized() override { Resize(); }
     void Resize();
     bool HasSlides() const;
+    bool ChangeSlideSize(bool dimAll, int16_t newWidth, int16_t newHeight);
     float FreshToken();
     bool PlaceDiapos(int16_t wanted, float token, int16_t newWidth, int16_t newHeight);
     void HideFrom(int32_t first);

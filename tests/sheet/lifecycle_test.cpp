@@ -286,6 +286,26 @@ TEST_F(LifecycleTest, ABadColourOfSelectionsLeavesTheOldOneAlsoUnderTheMark) {
     EXPECT_EQ(sheet->Diapo.Item(1)->BackColor(), 0x101010U);
 }
 
+TEST_F(LifecycleTest, ASizeOfSlidesThatMakesNoGridIsPassedOverWithItsGap) {
+    Show(9);
+    PropertyBag bag;
+    bag.SetValue("DiapoWidth", int64_t{-7});
+    bag.SetValue("MargeDiapoMin", int64_t{7});
+    bag.SetValue("Marges", int64_t{9});
+    sheet->Restart(bag);
+    desktop.clock.Advance(200);
+    EXPECT_EQ(sheet->DiapoWidth(), 100);
+    EXPECT_EQ(sheet->DiapoHeight(), 75);
+    EXPECT_EQ(sheet->MargeDiapoMin(), 5);
+    EXPECT_EQ(sheet->Marges(), 9);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+    bag.SetValue("DiapoWidth", int64_t{1});
+    bag.SetValue("DiapoHeight", int64_t{1});
+    bag.SetValue("MargeDiapoMin", int64_t{0});
+    sheet->Restart(bag);
+    EXPECT_EQ(sheet->DiapoWidth(), 100) << "of slides that small there would be too many";
+}
+
 TEST_F(LifecycleTest, ASheetReadOnceMoreIsLaidOutAnewAlsoWhereNothingElseAsksForIt) {
     Show(9);
     PropertyBag bag;

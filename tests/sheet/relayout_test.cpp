@@ -461,6 +461,32 @@ TEST_F(RelayoutTest, AFailingSizeChangeIsReported) {
     EXPECT_THAT(Heard(), testing::HasSubstr("host Error 11 Vorlane DiapoSizeChange DpCnt=9 - -1 - 60 - 40\n"));
 }
 
+TEST_F(RelayoutTest, ASizeThatMakesNoGridIsAFailureAndChangesNothing) {
+    Show(9);
+    const std::string places = Place(0) + " " + Place(4);
+    sheet->SetDiapoWidth(-5);
+    sheet->SetDiapoHeight(-5);
+    EXPECT_EQ(Heard(),
+              "host Error 11 Vorlane DiapoSizeChange DpCnt=9 - -1 - -5 - -4\n"
+              "host Error 11 Vorlane DiapoSizeChange DpCnt=9 - -1 - 100 - -5\n");
+    sheet->SetMargeDiapoMin(0);
+    Heard();
+    sheet->SetDiapoWidth(1);
+    EXPECT_EQ(Heard(), "host Error 6 Vorlane DiapoSizeChange DpCnt=9 - -1 - 1 - 1\n");
+    EXPECT_EQ(sheet->DiapoWidth(), 100);
+    EXPECT_EQ(sheet->DiapoHeight(), 75);
+    EXPECT_EQ(Place(0) + " " + Place(4), places);
+    EXPECT_EQ(Slides(), "0 1 2 3 4 5 6 7 8");
+}
+
+TEST_F(RelayoutTest, ASizeThatMakesNoGridChangesNothingOfAnEmptySheet) {
+    Start();
+    sheet->SetDiapoWidth(-5);
+    EXPECT_EQ(Heard(), "host Error 11 Vorlane DiapoSizeChange DpCnt=1 - -1 - -5 - -4\n");
+    EXPECT_EQ(sheet->DiapoWidth(), 100);
+    EXPECT_EQ(sheet->CountDiapo(), 9);
+}
+
 // --- In a designer ---
 
 TEST_F(RelayoutTest, ADesignerShowsSampleSlides) {

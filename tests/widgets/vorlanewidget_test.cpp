@@ -73,6 +73,13 @@ TEST_F(VorlaneWidgetTest, AStartAnewUnderASelectionKeepsTheColours) {
     EXPECT_EQ(widget.SaveProperties(), saved);
 }
 
+TEST_F(VorlaneWidgetTest, ASizeOfSlidesThatMakesNoGridIsPassedOver) {
+    EXPECT_TRUE(widget.RestoreProperties("{\"DiapoWidth\": -5, \"Marges\": 9}"));
+    EXPECT_EQ(widget.Marges(), 9);
+    EXPECT_EQ(widget.DiapoWidth(), 120);
+    EXPECT_EQ(errors, "");
+}
+
 TEST_F(VorlaneWidgetTest, WhatASavedTextLeavesOutGetsItsDefault) {
     widget.SetMarges(33);
     EXPECT_TRUE(widget.RestoreProperties("{}"));
