@@ -6,7 +6,6 @@
 #include "widgets/vorlanewidget.h"
 
 #include <QAction>
-#include <QStyle>
 
 namespace vorlane::editor {
 
@@ -32,8 +31,8 @@ void EditorWindow::SetSideways(bool sideways) {
 // Sideways there is one row: the sheet is no higher than that, and lies in the middle.
 void EditorWindow::FitRow() {
     const bool sideways = sheet_->ScrollDirection() == ui::ScrollDirection::sdHorizontal;
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int row = slidesize::Of(status_->slideWidth()).height() + 2 * sheet_->Marges() + bar;
+    const int slide = slidesize::Of(status_->slideWidth()).height();
+    const int row = slide + 2 * sheet_->Marges() + VorlaneWidget::BarThickness();
     sheet_->setMaximumHeight(sideways ? row : QWIDGETSIZE_MAX);
 }
 

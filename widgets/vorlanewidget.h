@@ -248,6 +248,8 @@ public:
     int CountDiapoX() const;
     int CountDiapoY() const;
     int CountAffiche() const;
+    // Of the scroll bar, in pixels, whether it is in sight or not.
+    static int BarThickness();
     // The text under the name of a slide. It goes with the slide's item while rows are scrolled; a slide that takes
     // another item keeps it until the host, told by OnAdded, sets it anew.
     QString CaptionBottom(int index) const;

@@ -116,6 +116,10 @@ int VorlaneWidget::CountAffiche() const {
     return Ask("CountAffiche", 0, [&] { return sheet_.CountAffiché(); });
 }
 
+int VorlaneWidget::BarThickness() {
+    return ToInt32(ScrollbarPlus::kThickness);
+}
+
 QString VorlaneWidget::CaptionBottom(int index) const {
     return Ask("CaptionBottom", QString(), [&] { return FromText(sheet_.Diapo.Item(index)->CaptionBottom()); });
 }

@@ -9,6 +9,7 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QScreen>
+#include <QScrollBar>
 #include <QWindow>
 
 namespace vorlane::editor {
@@ -166,6 +167,9 @@ TEST_F(NavigationTest, SidewaysTheRowLiesInTheMiddleOfTheWindow) {
     EXPECT_TRUE(test::WaitFor([&] { return offset() <= 2; }));
     EXPECT_LT(window_->sheet().height(), height);
     EXPECT_LE(window_->sheet().DiapoRect(0).bottom(), window_->sheet().height());
+    const int bar = window_->sheet().findChild<QScrollBar*>()->height();
+    const int margins = 2 * window_->sheet().Marges();
+    EXPECT_EQ(window_->sheet().height(), window_->sheet().DiapoHeight() + margins + bar);
     window_->status().setSlideWidth(320);
     ASSERT_TRUE(Settle());
     EXPECT_LE(window_->sheet().DiapoRect(0).bottom(), window_->sheet().height());
