@@ -6,10 +6,13 @@
 #include "sheet/vorlane.h"
 #include "windows/frmdrag.h"
 
+#include <algorithm>
+
 namespace vorlane {
 
 void Vorlane::StartBand(float x, float y) {
     band_.Active = true;
+    band_.Before = SelectedTableau();
     SelRect.Move(x, y, 1, 1);
     band_.StartX = ToInt32(x);
     band_.StartY = ToInt32(y);
@@ -44,8 +47,9 @@ void Vorlane::SweepSlide(eDiapoLight& slide) {
     const bool hit = grid::BandTouches(band_.Rect, {slide.Col(), slide.Lig(), slide.Width(), slide.Height()});
     if (hit == slide.SelectedTmp()) return;
     slide.SetSelectedTmp(hit);
-    Select(slide, GroundOf(slide.Value()), !slide.Selected());
-    SelectItem(slide.Value(), slide.Selected());
+    const bool before = std::binary_search(band_.Before.begin(), band_.Before.end(), slide.Value());
+    Select(slide, GroundOf(slide.Value()), hit != before);
+    SelectItem(slide.Value(), hit != before);
 }
 
 // --- Scrolling by the band ---
@@ -61,7 +65,8 @@ bool Vorlane::ScrollByBand(float x, float y) {
     const WithinBlock busy(band_.AutoScrolling);
     Attempt([&] { MoveAnchor(side); });
     UpdateBand(x, y, true);
-    Attempt([&] { SelectAtSide(side); });
+    if (band_.Active) Attempt([&] { SelectAtSide(side); });
+    if (!band_.Active) return true;
     const bool back = side == BandSide::Left || side == BandSide::Top;
     const int64_t step = back ? -VScroll.SmallChange() : VScroll.SmallChange();
     Attempt([&] { VScroll.SetValue(ToInt32(Min(VScroll.Max(), VScroll.Value() + step))); });
@@ -91,7 +96,9 @@ void Vorlane::SelectAtSide(BandSide side) {
         const bool passed = slide->Left() + slide->Width() <= ImgDrag.Left() && k < slides - 1;
         SweepAtSide(ToInt16(k + 1), !passed);
     } else if (side == BandSide::Top) {
-        if (First().Top() >= ImgDrag.Top() + ImgDrag.Height()) SelectedClear();
+        if (First().Top() < ImgDrag.Top() + ImgDrag.Height()) return;
+        band_.Before.clear();
+        SelectedClear();
     } else if (grid_.CountDiapoX == 1) {
         const int16_t k = beyond(CountDiapo());
         const auto slide = Diapo.Item(k);

@@ -69,6 +69,7 @@ void Vorlane::SlideMouseDown(int16_t index, int16_t button, int16_t shift, float
     Attempt([&] { PressOn(index, button, x, y); });
     Desktop().clock.DoEvents();
     Attempt([&] { RaiseFrom(*slide, Events.MouseDown, button, shift, x, y); });
+    DisarmUnlessHeld();
 }
 
 // A press on a selected slide without a key leaves the selection: with the right button altogether, with the left one
@@ -146,6 +147,7 @@ void Vorlane::Toggle(int16_t index) {
 void Vorlane::SlideMouseMove(int16_t index, int16_t button, int16_t shift, float x, float y) {
     if (mouse_.InMouseDown) return;
     const auto slide = Diapo.Item(index);
+    DisarmUnlessHeld();
     Attempt([&] { HoverOn(index); });
     UpdateBand(slide->Left() + x, slide->Top() + y, false);  // the slide's twips, taken for pixels as they are
     if (StartsDrag(x, y)) Attempt([&] { StartDrag(*slide, x, y); });
@@ -166,9 +168,14 @@ void Vorlane::Arm(float x, float y) {
     mouse_.DownY = ToInt32(y);
 }
 
+// A release that came in while the press was being handled, or on a slide that has gone since, was not heard.
+void Vorlane::DisarmUnlessHeld() {
+    if (!Desktop().keyboard.KeyIsDown(kLeft)) mouse_.DragArmed = false;
+}
+
 bool Vorlane::StartsDrag(float x, float y) const {
     if (!mouse_.DragArmed || internalDrag_ || oleDragMode_ != kAutomaticDrag) return false;
-    if (CtrlDown() || ShiftDown() || !Desktop().keyboard.KeyIsDown(kLeft)) return false;
+    if (CtrlDown() || ShiftDown()) return false;
     const float way = std::abs(static_cast<float>(mouse_.DownX) - x) + std::abs(static_cast<float>(mouse_.DownY) - y);
     return way > kDragWay;
 }

@@ -1,6 +1,9 @@
 // The mouse on the sheet's bare ground, and the keyboard.
 #include "platform/numbers.h"
+#include "platform/withinblock.h"
 #include "sheet/vorlane.h"
+
+#include <utility>
 
 namespace vorlane {
 
@@ -16,31 +19,50 @@ constexpr int16_t kRowBack = '!';
 }  // namespace
 
 void Vorlane::ConnectGround() {
-    Input.MouseDown.connect(
-        [this](int16_t button, int16_t shift, float x, float y) { GroundMouseDown(button, shift, x, y); });
+    Input.MouseDown.connect([this](int16_t button, int16_t shift, float x, float y) {
+        InTurn([=, this] { GroundMouseDown(button, shift, x, y); });
+    });
     Input.MouseMove.connect(
         [this](int16_t button, int16_t shift, float x, float y) { GroundMouseMove(button, shift, x, y); });
-    Input.MouseUp.connect(
-        [this](int16_t button, int16_t shift, float x, float y) { GroundMouseUp(button, shift, x, y); });
-    Input.Click.connect([this] { Events.BackgroundClick(mouse_.LastButton); });
-    Input.DblClick.connect([this] { Events.BackgroundDblClick(mouse_.LastButton); });
+    Input.MouseUp.connect([this](int16_t button, int16_t shift, float x, float y) {
+        if (button == kLeft) mouse_.LetGo = true;
+        InTurn([=, this] { GroundMouseUp(button, shift, x, y); });
+    });
+    Input.Click.connect([this] { InTurn([this] { Events.BackgroundClick(mouse_.LastButton); }); });
+    Input.DblClick.connect([this] { InTurn([this] { Events.BackgroundDblClick(mouse_.LastButton); }); });
     Input.KeyDown.connect([this](int16_t& code, int16_t shift) { KeyDown(code, shift); });
     Input.KeyPress.connect([this](int16_t& ascii) { KeyPress(ascii); });
     Input.KeyUp.connect([this](int16_t& code, int16_t shift) { KeyUp(code, shift); });
 }
 
+// What comes in at the yields of a press waits until the host has heard of the press.
+void Vorlane::InTurn(std::function<void()> act) {
+    if (mouse_.InGroundDown) return mouse_.InTurn.push_back(std::move(act));
+    act();
+}
+
 void Vorlane::GroundMouseDown(int16_t button, int16_t shift, float x, float y) {
+    mouse_.LetGo = false;
     const auto press = [&] {
-        if (button == kLeft && Bound().SelCount() > 0 && !CtrlDown() && !ShiftDown()) SelectedClear();
-        EndEdit();
+        {
+            const WithinBlock busy(mouse_.InGroundDown);
+            if (button == kLeft && Bound().SelCount() > 0 && !CtrlDown() && !ShiftDown()) SelectedClear();
+            EndEdit();
+        }
         mouse_.LastButton = button;
-        if (button == kLeft && selection_.SelectionMultiple) StartBand(x, y);
+        if (button == kLeft && selection_.SelectionMultiple && !mouse_.LetGo) StartBand(x, y);
         Events.MouseDown(button, shift, ToContainer(x), ToContainer(y));
     };
     GuardVoid(press, "UserControl_MouseDown", button, shift, x, y);
+    while (!mouse_.InTurn.empty()) {
+        const auto next = std::move(mouse_.InTurn.front());
+        mouse_.InTurn.pop_front();
+        Attempt(next);
+    }
 }
 
 void Vorlane::GroundMouseMove(int16_t button, int16_t shift, float x, float y) {
+    if (mouse_.InGroundDown) return;
     if (mouse_.HoverSlot != -1) {
         Attempt([&] { Events.MouseExit(mouse_.HoverSlot); });
         mouse_.HoverSlot = -1;

@@ -9,7 +9,10 @@
 #include "sheet/types.h"
 
 #include <cstdint>
+#include <deque>
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace vorlane {
 class DataObject;
@@ -88,7 +91,10 @@ struct Mouse {
     bool DragArmed = false;      // a move may become a drag
     int32_t DownX = 0;           // where it was armed, in twips of the slide
     int32_t DownY = 0;
-    bool KeyHeld = false;  // a key is down and has been heard
+    bool KeyHeld = false;                      // a key is down and has been heard
+    bool InGroundDown = false;                 // a press on the ground is about to be told
+    bool LetGo = false;                        // the left button has gone up since that press
+    std::deque<std::function<void()>> InTurn;  // presses, releases and clicks on the ground that wait for its end
 };
 
 // The rubber band.
@@ -96,8 +102,9 @@ struct Band {
     bool Active = false;
     int32_t StartX = 0;  // its anchor, in pixels of the sheet; moves along while the sheet scrolls
     int32_t StartY = 0;
-    Box Rect;                    // whole pixels
-    bool AutoScrolling = false;  // it is scrolling the sheet
+    Box Rect;                     // whole pixels
+    bool AutoScrolling = false;   // it is scrolling the sheet
+    std::vector<int32_t> Before;  // the items that were selected when it started, ascending
 };
 
 // A drag over the sheet, or from it.

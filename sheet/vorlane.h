@@ -587,11 +587,13 @@ private:
     void Arm(float x, float y);
     bool StartsDrag(float x, float y) const;
     void StartDrag(eDiapoLight& slide, float x, float y);
+    void DisarmUnlessHeld();
     using MouseEvent = Event<int16_t, int16_t, float, float>;
     void RaiseFrom(const eDiapoLight& slide, const MouseEvent& event, int16_t button, int16_t shift, float x, float y);
 
     // interaction/mouseground.cpp
     void ConnectGround();
+    void InTurn(std::function<void()> act);
     void GroundMouseDown(int16_t button, int16_t shift, float x, float y);
     void GroundMouseMove(int16_t button, int16_t shift, float x, float y);
     void GroundMouseUp(int16_t button, int16_t shift, float x, float y);

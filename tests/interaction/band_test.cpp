@@ -171,6 +171,42 @@ TEST_F(BandTest, ABandThatIsLetGoWhileItYieldsSweepsNothingMore) {
     for (int32_t k = 0; k < 9; ++k) EXPECT_FALSE(sheet->Diapo.Item(k)->SelectedTmp());
 }
 
+TEST_F(BandTest, APressThatIsLetGoWhileItClearsTheSelectionStartsNoBand) {
+    Show(40);
+    Click(4);
+    Heard();
+    desktop.clock.AtYield(1, [this] {
+        window.MouseTo(kGroundX + 1, kGroundY);
+        LetGo(kGroundX + 1, kGroundY);
+    });
+    window.Press(kGroundX, kGroundY);
+    EXPECT_EQ(Heard(),
+              "host TraitementFeedBack 1/1\n"
+              "host MouseDown 1 at 2,2\n"
+              "host MouseUp 1 at 3,2\n"
+              "host BackgroundClick 1\n");
+    EXPECT_EQ(desktop.screen.Captured(), 0);
+    EXPECT_FALSE(sheet->SelRect.Visible());
+    window.MouseTo(150, 50);
+    EXPECT_EQ(States(), ".........");
+}
+
+TEST_F(BandTest, TheNextPressStartsABandAgainEvenWhenItComesInMeanwhile) {
+    Show(40);
+    Click(4);
+    desktop.clock.AtYield(1, [this] {
+        LetGo(kGroundX, kGroundY);
+        desktop.clock.Advance(1000);
+        window.Press(kGroundX, kGroundY);
+    });
+    window.Press(kGroundX, kGroundY);
+    EXPECT_NE(desktop.screen.Captured(), 0);
+    window.MouseTo(150, 50);
+    EXPECT_EQ(States(), "ss.......");
+    LetGo(150, 50);
+    EXPECT_EQ(desktop.screen.Captured(), 0);
+}
+
 TEST_F(BandTest, ASheetWhoseFirstSlideIsHiddenHasNoneToSweep) {
     Show(40);
     sheet->Diapo.Item(0)->SetVisible(false);
@@ -209,6 +245,20 @@ TEST_F(BandTest, SlidesThatScrollIntoTheBandAreSweptWithTheirItems) {
     EXPECT_EQ(SelectedItems(), "0 1 3 4 6 7");
     LetGo(150, 160);
     EXPECT_EQ(SelectedItems(), "0 1 3 4 6 7");
+}
+
+TEST_F(BandTest, AnItemSelectedBeforeThatScrollsIntoTheBandIsSelectedWhenTheBandHasLeft) {
+    Show(40);
+    sheet->LstInterne.SetSelected(9, true);
+    Sweep(150, 178, kCtrl);
+    ASSERT_EQ(sheet->VScroll.Value(), 3);
+    EXPECT_TRUE(sheet->LstInterne.Selected(9));
+    EXPECT_TRUE(sheet->LstInterne.Selected(10));
+    window.MouseTo(150, 20, kCtrl);
+    EXPECT_TRUE(sheet->LstInterne.Selected(9));
+    EXPECT_FALSE(sheet->LstInterne.Selected(10));
+    LetGo(150, 20);
+    ExpectSlidesAgreeWithList();
 }
 
 TEST_F(BandTest, AtTheTopTheSheetScrollsBackByARow) {
@@ -277,6 +327,16 @@ TEST_F(SidewaysBandTest, AtTheRightTheSheetScrollsOnByASlide) {
     EXPECT_LT(sheet->SelRect.Left(), kGroundX);
     LetGo(343, 50);
     ExpectSlidesAgreeWithList();
+}
+
+TEST_F(SidewaysBandTest, ABandThatIsLetGoWhileItScrollsGoesNoFurther) {
+    ShowSideways(20);
+    window.Press(kGroundX, kGroundY);
+    desktop.clock.AtYield(1, [this] { LetGo(343, 50); });
+    window.MouseTo(343, 50);
+    EXPECT_EQ(sheet->VScroll.Value(), 0);
+    EXPECT_EQ(SelectedItems(), "");
+    for (int32_t k = 0; k < sheet->Diapo.Count(); ++k) EXPECT_FALSE(sheet->Diapo.Item(k)->SelectedTmp());
 }
 
 TEST_F(SidewaysBandTest, AtTheLeftTheItemBeforeTheFirstSlideIsTakenOrDroppedByTheInsertionMarksPlace) {

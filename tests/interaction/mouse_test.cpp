@@ -113,6 +113,54 @@ TEST_F(MouseTest, WithCtrlOrShiftNoDragStarts) {
     Release(4, headless::kShift);
 }
 
+// A press whose release comes in at its yield: the left button goes down next on a part of the slide that does not tell
+// the sheet of presses.
+class LetGoTest : public MouseTest {
+protected:
+    LetGoTest() {
+        Show(40);
+        sheet->SetOLEDragMode(1);
+        sheet->SetShowInfo(true);
+        sheet->SetShowZoom(true);
+        desktop.films.Add(File(1), 60, 40);
+    }
+    void PullFrom(const Control& part) {
+        const Box box = part.BoundsInRoot();
+        const float x = box.Left + box.Width / 2;
+        const float y = box.Top + box.Height / 2;
+        desktop.clock.Advance(1000);
+        window.Press(x, y);
+        window.MouseTo(x + 10, y);
+        window.Release(x + 10, y);
+    }
+    std::string Drags() { return desktop.trace.Take({"drag"}); }
+};
+
+TEST_F(LetGoTest, InsideItsPressASlideIsNotDraggedByItsInfoButton) {
+    desktop.clock.AtYield(1, [this] { Release(1); });
+    Press(1);
+    PullFrom(sheet->Diapo.Item(1)->ImgInfo);
+    EXPECT_EQ(Drags(), "");
+}
+
+TEST_F(LetGoTest, InsideItsPressASlideIsNotDraggedByItsCorner) {
+    Click(4);
+    desktop.clock.AtYield(1, [this] { Release(1); });  // while the selection is cleared: the drag is armed behind that
+    Press(1);
+    PullFrom(sheet->Diapo.Item(1)->CornerResize);
+    EXPECT_EQ(Drags(), "");
+}
+
+TEST_F(LetGoTest, OnASlideThatHasGoneItLeavesNoDragBehind) {
+    const Point place = InSlide(8);
+    Press(8);
+    sheet->Diapo.Unload(8);
+    window.Release(static_cast<float>(place.X), static_cast<float>(place.Y));
+    window.MouseTo(150, 20);
+    PullFrom(sheet->Diapo.Item(1)->CornerResize);
+    EXPECT_EQ(Drags(), "");
+}
+
 // --- Keys ---
 
 TEST_F(MouseTest, AKeyThatIsLetGoOverADisabledSheetSwallowsNoOther) {
