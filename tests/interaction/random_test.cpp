@@ -21,7 +21,10 @@ class RandomGestures : public RandomDrops {
 protected:
     std::string Step() {
         if (Maybe(5)) desktop.clock.AtYield(Pick(1, 3), [this] { ActAtYield(); });
-        return Act();
+        if (Maybe(10)) desktop.clock.AtYield(Pick(1, 2), [this] { MoveAtYield(); });
+        const std::string act = Act();
+        while (Holds()) LetGo();
+        return act;
     }
 
     // A hand that drags does nothing else; a host may.
@@ -29,6 +32,12 @@ protected:
         ++disturbances_;
         desktop.trace.Add("act at a yield");
         desktop.trace.Add("act " + (DragRuns() ? ActAsHost(Pick(1, 20)) : Act()));
+    }
+
+    void MoveAtYield() {
+        if (DragRuns()) return;
+        ++disturbances_;
+        desktop.trace.Add("act " + MoveAlone());
     }
 
     std::string Act() {

@@ -58,7 +58,7 @@ protected:
         desktop.clock.Advance(1000);
         window.Press(x, y, headless::kLeftButton, Keys());
         window.MouseTo(x + static_cast<float>(Pick(-9, 9)), y);
-        if (!dragged_) window.Release(x, y);
+        if (!dragged_ && Holds()) window.Release(x, y);
         if (disturbed == disturbances_ && !renames) CompareItems(before);
         return dragged_ ? "drag" : "press";
     }
@@ -98,9 +98,12 @@ protected:
 
     // --- What has to hold ---
 
-    // No row is open, no mark and no ghost show; one sound on a channel.
+    // No row is open, no mark, no ghost and no band show, the mouse is free; one sound on a channel.
     void CheckRest() {
         const auto holds = [this](bool good, const char* what) { errors_ += good ? "" : std::string(what) + "\n"; };
+        holds(desktop.screen.Captured() == 0, "the mouse is still captured");
+        holds(!sheet->SelRect.Visible(), "the band still stands");
+        holds(!IsDragArmed(), "a drag is still armed");
         holds(!sheet->ImgDrag.Visible(), "the mark still stands");
         holds(!sheet->TimerDrag.Enabled(), "the drag's timer runs on");
         holds(desktop.forms.OpenForms() == 0, "a ghost is left");
@@ -124,6 +127,21 @@ protected:
     int32_t disturbances_ = 0;  // what has come in at yields
 
 private:
+    // Whether a slide that is pulled without having been pressed starts a drag.
+    bool IsDragArmed() {
+        const auto slide = sheet->Diapo.Item(0);
+        dragStarts_ = false;
+        for (const int32_t key : {kShiftKey, kCtrlKey}) desktop.keyboard.Set(key, false);
+        slide->Events.MouseMove(0, 0, 0, 0);
+        desktop.keyboard.Set(headless::kLeftButton, true);
+        slide->Events.MouseMove(headless::kLeftButton, 0, kFar, kFar);
+        desktop.keyboard.Set(headless::kLeftButton, false);
+        return dragStarts_;
+    }
+
+    static constexpr int32_t kShiftKey = 16;
+    static constexpr int32_t kCtrlKey = 17;
+    static constexpr float kFar = 100000;  // twips
     static constexpr const char* kSound = "/s/a.mp3";
     static constexpr int32_t kEscape = 27;
 
@@ -139,6 +157,7 @@ private:
             text = std::to_string(count);
             cancel = Maybe(5);
         });
+        events.OLEStartDrag.connect([this](DataObject&, int32_t&) { dragStarts_ = true; });
         events.OLECompleteDrag.connect([this](int32_t&) { leading_ = false; });
         events.OLEBeforeDropStart.connect([this](int32_t, bool& cancel) { cancel = Maybe(10); });
         events.OLENewFileAdded.connect([this](const std::string&, int32_t& key, bool& cancel) {
@@ -234,6 +253,7 @@ private:
     TemporaryFolder folder_;
     std::multiset<std::string> contents_;  // of all files: the name that each had at first
     bool dragged_ = false;
+    bool dragStarts_ = false;
     bool leading_ = false;
 };
 

@@ -52,6 +52,30 @@ protected:
         sheet->StartLecture();
     }
 
+    // --- One press, one move, one release ---
+
+    bool Holds() const { return desktop.keyboard.KeyIsDown(headless::kLeftButton); }
+    void LetGo() {
+        const float x = Across();
+        const float y = Down();
+        if (Holds()) window.Release(x, y);
+    }
+    // Alone, in the middle of something else.
+    std::string MoveAlone() {
+        const float x = Across();
+        const float y = Down();
+        if (Maybe(30)) {
+            window.MouseTo(x, y, Keys());
+            return "move alone";
+        }
+        if (Holds()) {
+            window.Release(x, y);
+            return "release alone";
+        }
+        window.Press(x, y, headless::kLeftButton, Keys());
+        return "press alone";
+    }
+
     // --- What the hand does ---
 
     std::string ClickSomewhere() {
@@ -72,7 +96,7 @@ protected:
         window.Press(Maybe(50) ? kGroundX : Across(), Maybe(50) ? kGroundY : Down(), headless::kLeftButton, keys);
         for (int32_t n = Pick(0, 5); n > 0; --n) window.MouseTo(Across(), Down(), keys);
         if (Maybe(10)) sheet->VScroll.SetValue(Pick(0, sheet->VScroll.Max()));
-        window.Release(Across(), Down(), headless::kLeftButton, keys);
+        LetGo();
         return "band";
     }
 
@@ -151,7 +175,7 @@ protected:
     }
 
     std::string ChangeTheGrid() {
-        switch (Pick(0, 3)) {
+        switch (Pick(0, 4)) {
             case 0:
                 width_ = Pick(60, 600);
                 height_ = Pick(60, 400);
@@ -162,6 +186,10 @@ protected:
                 break;
             case 2:
                 sheet->SetSelectionMultiple(Maybe(80));
+                break;
+            case 3:
+                sheet->SetScrollDirection(Maybe(30) ? ScrollDirectionType::sdHorizontal
+                                                    : ScrollDirectionType::sdVertical);
                 break;
             default:
                 sheet->VScroll.SetValue(Pick(0, sheet->VScroll.Max()));
