@@ -14,6 +14,15 @@ std::string KeyText(int32_t diapoKey) {
     return std::to_string(diapoKey) + "k";
 }
 
+// Of a slide's sound with that file name in small letters; -1 for none.
+int32_t IndexOf(const SonCollection& sounds, int32_t diapoKey, const std::string& lowerName) {
+    for (int32_t i = 1; i <= sounds.Count(); ++i) {
+        const tSon& son = sounds.Item(i);
+        if (son.DiapoKey == diapoKey && Trelmic6::LowerCase(son.Nom) == lowerName) return i;
+    }
+    return -1;
+}
+
 }  // namespace
 
 // --- What the owner answers ---
@@ -193,12 +202,12 @@ void ClsSon::RemoveFromName(const std::string& fileName) {
     const std::string name = Trelmic6::LowerCase(fileName);
     int16_t diapoIndex = 0;
     for (int32_t index = sounds_->FindLowerName(name); index != -1; index = sounds_->FindLowerName(name)) {
-        const tSon son = sounds_->Item(index);
-        Events.csGetDiapoIndex(son.DiapoKey, diapoIndex);
-        if (diapoIndex > -1) Events.csRemoveSound(son.DiapoKey, diapoIndex);
-        // A handler may have taken the sound out itself, or moved it by a sort.
-        const int32_t now = sounds_->FindDiapoKey(son.DiapoKey);
-        if (now != -1 && sounds_->Item(now) == son) sounds_->Remove(now);
+        const int32_t diapoKey = sounds_->Item(index).DiapoKey;
+        Events.csGetDiapoIndex(diapoKey, diapoIndex);
+        if (diapoIndex > -1) Events.csRemoveSound(diapoKey, diapoIndex);
+        // A handler may have taken the sound out itself, put another one in its place, or moved it by a sort.
+        const int32_t now = IndexOf(*sounds_, diapoKey, name);
+        if (now != -1) sounds_->Remove(now);
     }
     FollowDisplay();
 }

@@ -127,6 +127,54 @@ TEST_F(ClsSonTest, RemoveFromNameTakesNoOtherSoundWhenAHandlerRemovesTheSoundIts
     EXPECT_EQ(Keys(), "2");
 }
 
+TEST_F(ClsSonTest, RemoveFromNameTakesTheSoundItFoundThoughAnEarlierOneHasItsSlide) {
+    Put(1, 1, "a.wav");
+    Put(2, 2, "b.wav");
+    Put(3, 3, "c.wav");
+    tSon son = *sounds.Item(1);
+    son.DiapoKey = 2;
+    sounds.SetItem(1, son);
+    ASSERT_EQ(Keys(), "2 2 3");
+    sounds.RemoveFromName(folder.At("b.wav"));
+    ASSERT_EQ(Keys(), "2 3");
+    EXPECT_EQ(sounds.ItemFromPos(1).Nom, folder.At("a.wav"));
+    sounds.RemoveFromName(folder.At("a.wav"));
+    EXPECT_EQ(Keys(), "3");
+}
+
+TEST_F(ClsSonTest, RemoveFromNameTakesTheSoundThoughAHandlerSortsOrWritesIt) {
+    Put(1, 1, "a.wav");
+    Put(2, 2, "b.wav");
+    Put(3, 3, "a.wav");
+    indices = {{1, 0}, {3, 2}};
+    sounds.Events.csRemoveSound.connect([&](int32_t key, int16_t) {
+        tSon son = *sounds.Item(key);
+        son.VolNormal ^= 1;
+        sounds.SetItem(key, son);
+        numbers[key] = 9;
+        sounds.Sort();
+    });
+    Heard();
+    sounds.RemoveFromName(folder.At("a.wav"));
+    EXPECT_EQ(Keys(), "2");
+    const std::string heard = Heard();
+    EXPECT_NE(heard.find("removed 1 at 0"), std::string::npos);
+    EXPECT_EQ(heard.find("removed 1 at 0"), heard.rfind("removed 1 at 0")) << "told once";
+}
+
+TEST_F(ClsSonTest, RemoveFromNameLeavesASoundOfAnotherFileThatAHandlerPutsInItsPlace) {
+    Put(1, 1, "a.wav");
+    indices[1] = 0;
+    const std::string other = File("b.wav");
+    sounds.Events.csRemoveSound.connect([&](int32_t key, int16_t) {
+        sounds.Remove(key);
+        sounds.Add(other, key);
+    });
+    sounds.RemoveFromName(folder.At("a.wav"));
+    ASSERT_EQ(Keys(), "1");
+    EXPECT_EQ(sounds.ItemFromPos(1).Nom, other);
+}
+
 TEST_F(ClsSonTest, ClearEmptiesAndRepaints) {
     redraw = true;
     Put(1, 1);
