@@ -181,7 +181,9 @@ void eTimeLine::RunMenuItem(int32_t mnuItemID) {
     const int32_t from = Sheet().Diapos.Item(current)->Key();
     const bool next = mnuItemID % 2 == 0;
     const int32_t quoi = (-mnuItemID - 1) / 2;
-    SelectSlide(next ? NextSound(from, quoi).DiapoKey : PreviousSound(from, quoi).DiapoKey);
+    const std::weak_ptr<const bool> alive = alive_;
+    const int32_t found = next ? NextSound(from, quoi).DiapoKey : PreviousSound(from, quoi).DiapoKey;
+    if (!alive.expired()) SelectSlide(found);
 }
 
 // The time line may end while the sheet shows the slide; then the slide is shown and not selected.

@@ -103,8 +103,9 @@ void eTimeLine::SetRowTops() {
 
 void eTimeLine::DrawBar(const Row& row, size_t i, Alternation& colors, const BarColors& set0, const BarColors& set1) {
     if (i >= row.Bars.size()) return;
-    const tBarreSon& bar = row.Bars[i];
-    const int32_t slide = PositionOf(bar.Son.DiapoKey);
+    // A host that hears of a failure may end the bars.
+    const bars::Extent bar{row.Bars[i].x, row.Bars[i].W};
+    const int32_t slide = PositionOf(row.Bars[i].Son.DiapoKey);
     if (i == 0) colors.LastSlide = slide;
     if (slide != colors.LastSlide) {
         colors.LastSlide = slide;

@@ -378,5 +378,23 @@ TEST_F(NavigationTest, ATimeLineMayEndWhileTheSheetShowsTheChosenSlide) {
     });
 }
 
+TEST_F(NavigationTest, ATimeLineMayEndAsASearchThatFailedIsReportedAndThenNothingIsSelected) {
+    for (int32_t n = 12; n < 70000; ++n) {
+        sheet.LstInterne.AddItem("/p/x.jpg");
+        sheet.LstInterne.SetItemData(n, 100 + n);
+    }
+    Start();
+    Music(6, 3);
+    Comment(69999, 3);  // its start is beyond any number
+    line->SetExpositionTime(32767);
+    ShowSheet();
+    MakeCurrent(0);
+    line->Events.Error.connect([this](auto&&...) { line.reset(); });
+    line->MnuCtx_ItemClic(emnutlNextSound);
+    EXPECT_EQ(line, nullptr);
+    EXPECT_EQ(Heard(), "host Error 6 [TimeLine NextSound 100 - 2]\n");
+    EXPECT_EQ(Top(), 100);
+}
+
 }  // namespace
 }  // namespace vorlane

@@ -1,6 +1,7 @@
 #include "timelinetest.h"
 
 #include <random>
+#include <vector>
 
 namespace vorlane {
 namespace {
@@ -198,6 +199,26 @@ TEST_F(SoundBarsTest, ABarThatCantBeExtendedIsReportedAndThePaintGoesOn) {
     EXPECT_EQ(Heard(), "host Error 6 [TimeLine RepetSon ]\n");
     EXPECT_NE(Drawn("Box"), "\n");
     EXPECT_NE(Drawn("Text"), "\n");
+}
+
+TEST_F(SoundBarsTest, AHostMayEndTheTimeLineAsItHearsOfABarWithoutAGround) {
+    Start();
+    line->SetShowBarres(false);
+    for (int32_t n = 0; n < 20; ++n) Music(n, 2);
+    line->SetDiapoWidth(3e9F);
+    line->Move(0, 0, 6e10F, 40);
+    line->SetShowBarres(true);
+    const std::string whole = Boxes();
+    int32_t heard = 0;
+    std::vector<std::vector<float>> others;  // in place of what the bars had
+    line->Events.Error.connect([&](auto&&...) {
+        if (++heard != 15) return;
+        line->Terminate();
+        for (int i = 0; i < 100; ++i) others.emplace_back(128, 7.0F);
+    });
+    line->Paint();
+    EXPECT_EQ(heard, 15);
+    EXPECT_EQ(Boxes(), whole) << "the one that the surface can hold";
 }
 
 // --- Without a walk over all sounds ---
