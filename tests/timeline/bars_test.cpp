@@ -198,6 +198,12 @@ TEST_F(InSightTest, ASoundThatReachesInFromFarIsFoundWithoutAWalk) {
     EXPECT_EQ(LookedAt(Places(3, 24984)) + " ", inSight) << "it ends a second before";
 }
 
+TEST_F(InSightTest, AsLongAsAnySoundMayStillShowNoneIsLeftOut) {
+    scale = {30, 100, 105};
+    EXPECT_EQ(LookedAt(Places(4, 80), false), "20 19 18 17 16 15 14 13 12 11 10 9 8 7 6 5 4");
+    EXPECT_EQ(LookedAt(Places(4, 80), true), "20 19 4");
+}
+
 TEST_F(InSightTest, NothingIsLookedUpInAListOutOfOrderOrOnAScaleThatRunsBackwards) {
     SoundPlaces places = Places();
     EXPECT_TRUE(CanLookUp(places, scale, 1));

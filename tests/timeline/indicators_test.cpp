@@ -55,6 +55,17 @@ TEST_F(IndicatorsTest, TheTriangleShowsAtTheTopAtTheBottomOrAtBoth) {
     EXPECT_EQ(line->Surface().FillStyle(), 1);
 }
 
+TEST_F(IndicatorsTest, TheTrianglesOutlineIsOfTheColourThatTheStripLastDrewWith) {
+    Start();
+    line->SetRound(true);
+    line->SetBorderStyle(12);
+    line->SetBorderColor(0x123456);
+    line->Lecture(2, 0);
+    EXPECT_EQ(Triangles(), "\nPolygon 56,0 61,5 66,0 #123456 fill #FF0000\n");
+    line->SetBorderStyle(1);
+    EXPECT_EQ(Triangles(), "\nPolygon 56,0 61,5 66,0 #FFFFFF fill #FF0000\n");
+}
+
 TEST_F(IndicatorsTest, ATriangleOutsideWhatIsSeenIsNotDrawn) {
     Start();
     line->SetStartPoint(2);

@@ -166,6 +166,7 @@ TEST_F(NavigationTest, OffTheBarsAndBeforeAPaintTheRecordIsEmpty) {
 TEST_F(NavigationTest, APlaceThatHasNoSecondIsReportedWithWhatWasFound) {
     Start();
     Music(0, 4, true);
+    Comment(0, 3);
     line->Paint();
     line->SetRedraw(false);
     line->SetShowBarres(false);  // the bars stay as they are
@@ -173,6 +174,8 @@ TEST_F(NavigationTest, APlaceThatHasNoSecondIsReportedWithWhatWasFound) {
     desktop.trace.Clear();
     EXPECT_EQ(Told(line->GetMusicAt(50)), "music 100 4");
     EXPECT_EQ(Heard(), "host Error 6 [TimeLine GetMusicAt 50]\n");
+    EXPECT_EQ(Told(line->GetCommentAt(50)), "comment 100 3");
+    EXPECT_EQ(Heard(), "host Error 6 [TimeLine GetCommentAt 50]\n");
 }
 
 // --- The menu ---

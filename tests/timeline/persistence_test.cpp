@@ -161,6 +161,11 @@ TEST_F(PersistenceTest, TheFontOfANewTimeLineIsTheHosts) {
     EXPECT_EQ(line->Font(), ambient.Font);
 }
 
+TEST_F(PersistenceTest, TheDeviceContextIsTheNumberOfTheWindow) {
+    EXPECT_NE(line->hDC(), 0);
+    EXPECT_EQ(line->hDC(), window.Handle());
+}
+
 TEST_F(PersistenceTest, TheFirstPaintFollowsShow) {
     line->AttachVorlane(&sheet);
     EXPECT_EQ(PaintsIn([&] { window.Host(*line, Plain()); }), 1);
