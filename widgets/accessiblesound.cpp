@@ -1,5 +1,6 @@
 #include "widgets/accessiblesound.h"
 
+#include "platform/failure.h"
 #include "platform/trelmic6.h"
 #include "timeline/etimeline.h"
 #include "widgets/conversions.h"
@@ -35,11 +36,15 @@ bool AccessibleSound::isValid() const {
     return Sound().has_value();
 }
 
+bool AccessibleSound::Answers() const {
+    return isValid() && widget_->isEnabled() && widget_->Enabled();
+}
+
 QAccessible::State AccessibleSound::state() const {
     QAccessible::State state;
     state.invalid = !isValid();
     if (state.invalid) return state;
-    state.disabled = !widget_->isEnabled();
+    state.disabled = !Answers();
     state.offscreen = !widget_->isVisible() || rect().isEmpty();
     return state;
 }
@@ -55,12 +60,15 @@ QRect AccessibleSound::rect() const {
     return place.isEmpty() ? QRect() : place.toAlignedRect().translated(widget_->mapToGlobal(QPoint()));
 }
 
-// The name of the file and the time at which it starts, where its slide is on the sheet.
+// The name of the file and the time at which it starts, where its slide is on the sheet and the time can be told.
 QString AccessibleSound::Name(const TimeLineSound& sound) const {
     const QString file = QFileInfo(sound.Nom).fileName();
     const eTimeLine& line = widget_->timeline();
     if (line.PositionOf(diapoKey_) < 0) return file;
-    return tr("%1, à %2").arg(file, FromText(Trelmic6::SecondsToText(line.StartOf(diapoKey_), false)));
+    QString name = file;
+    Attempt(
+        [&] { name = tr("%1, à %2").arg(file, FromText(Trelmic6::SecondsToText(line.StartOf(diapoKey_), false))); });
+    return name;
 }
 
 QString AccessibleSound::text(QAccessible::Text kind) const {
@@ -86,7 +94,7 @@ QStringList AccessibleSound::actionNames() const {
 
 void AccessibleSound::doAction(const QString& name) {
     const bool known = diapoKey_ >= 0 && diapoKey_ < std::numeric_limits<int32_t>::max();  // others would be commands
-    if (isValid() && known && name == pressAction()) widget_->MnuCtx_ItemClic(diapoKey_ + 1);
+    if (Answers() && known && name == pressAction()) widget_->MnuCtx_ItemClic(diapoKey_ + 1);
 }
 
 }  // namespace vorlane

@@ -37,6 +37,7 @@ public:
 
 private:
     std::optional<TimeLineSound> Sound() const;
+    bool Answers() const;
     QString Name(const TimeLineSound& sound) const;
 
     QPointer<TimeLineWidget> widget_;

@@ -61,15 +61,15 @@ void TimeLineWidget::Report(const Failure& failure, const char* name) const {
 
 // The release of the right button opens the popup by itself.
 void TimeLineWidget::contextMenuEvent(QContextMenuEvent* event) {
-    event->accept();
-    if (event->reason() != QContextMenuEvent::Keyboard) return;
+    event->setAccepted(Enabled());
+    if (!Enabled() || event->reason() != QContextMenuEvent::Keyboard) return;
     const QPoint place = mapToGlobal(QPoint(line_.BorderWidth() + line_.MargeGauche(), height()));
     Do("ContextMenu", [&] { line_.ContextMenu(place.x(), place.y()); });
 }
 
 void TimeLineWidget::keyPressEvent(QKeyEvent* event) {
     ControlHost::keyPressEvent(event);
-    if (event->isAccepted()) return;
+    if (event->isAccepted() || !Enabled()) return;
     Do("KeyCommand", [&] { event->setAccepted(line_.KeyCommand(VirtualKeyOf(event->key()))); });
 }
 

@@ -89,6 +89,37 @@ TEST_F(AccessibleTimeLineTest, ASoundOfASlideThatHasLeftHasNoTime) {
     EXPECT_EQ(Name(1), "m11.wav");
 }
 
+TEST_F(AccessibleTimeLineTest, ASoundWhoseStartNoNumberHoldsHasNoTime) {
+    sheet->Liste().Clear();
+    ListBox& list = sheet->sheet().LstInterne;
+    for (int n = 0; n < 70000; ++n) {
+        list.AddItem("/nowhere/x.jpg");
+        list.SetItemData(n, 100 + n);
+    }
+    strip->SetExpositionTime(32767);
+    Music(69999, 2);
+    ASSERT_EQ(Strip().childCount(), 4);
+    EXPECT_EQ(Name(1), QStringLiteral("m11.wav, à 100:07:17"));
+    EXPECT_EQ(Name(2), "m69999.wav");
+}
+
+TEST_F(AccessibleTimeLineTest, ADisabledStripIsNotPressed) {
+    const auto press = [this] {
+        Sound(1).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        return sheet->CurrentDiapo() < 0 ? 0 : sheet->Value(sheet->CurrentDiapo());
+    };
+    EXPECT_FALSE(Sound(1).state().disabled);
+    strip->setEnabled(false);
+    EXPECT_TRUE(Sound(1).state().disabled);
+    EXPECT_EQ(press(), 0);
+    strip->setEnabled(true);
+    strip->SetEnabled(false);
+    EXPECT_TRUE(Sound(1).state().disabled);
+    EXPECT_EQ(press(), 0);
+    strip->SetEnabled(true);
+    EXPECT_EQ(press(), 11);
+}
+
 TEST_F(AccessibleTimeLineTest, SoundsThatTheStripHasNoMoreAreHeardNoMore) {
     const auto former = strip->timeline().Musiques();
     EXPECT_TRUE(former->Events.csRepaint.connected());

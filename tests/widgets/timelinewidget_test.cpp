@@ -374,6 +374,35 @@ TEST_F(TimeLineWidgetTest, TheFunctionKeysJumpFromSoundToSoundOnTheSheetAndOnThe
     EXPECT_NE(strip->focusPolicy() & Qt::TabFocus, 0);
 }
 
+TEST_F(TimeLineWidgetTest, AStripThatIsNotEnabledLeavesTheKeysToOthers) {
+    Music(2, 4);
+    sheet->SetCurrentDiapo(0);
+    strip->SetEnabled(false);
+    bool opened = false;
+    QTimer::singleShot(0, [&opened] {
+        QWidget* popup = QApplication::activePopupWidget();
+        opened = popup != nullptr;
+        if (opened) popup->close();
+    });
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, {300, 30}, strip->mapToGlobal(QPoint(300, 30)));
+    QCoreApplication::sendEvent(strip.get(), &menu);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(menu.isAccepted());
+    EXPECT_FALSE(opened);
+    const auto takes = [this](int key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(strip.get(), &event);
+        return event.isAccepted();
+    };
+    EXPECT_FALSE(takes(Qt::Key_F6));
+    EXPECT_EQ(sheet->Value(sheet->CurrentDiapo()), 0);
+    QKeyEvent onSheet(QEvent::KeyPress, Qt::Key_F6, Qt::NoModifier);
+    QCoreApplication::sendEvent(sheet.get(), &onSheet);
+    EXPECT_EQ(sheet->Value(sheet->CurrentDiapo()), 2);
+    strip->SetEnabled(true);
+    EXPECT_TRUE(takes(Qt::Key_F6));
+}
+
 TEST_F(TimeLineWidgetTest, SoundsAreSoughtByTheHost) {
     Music(2, 4);
     Comment(7, 3);
