@@ -42,6 +42,7 @@ void EditorWindow::ConnectReader() {
 
 void EditorWindow::ForgetOpening() {
     complete_ = false;
+    slices_.stop();
     opened_.reset();
     loading_.reset();
     failed_.clear();
@@ -116,6 +117,7 @@ void EditorWindow::Failed(const QString& folder) {
         keeper_->begin({});
         recovered_.clear();
         ShowTitle();
+        ShowSheet();
     }
     total_ = read_;  // what was being read has ended
     Complete();

@@ -24,6 +24,17 @@ ShowReading NotRead(const QString& path, const QString& why) {
     return {std::nullopt, Tr(QT_TRANSLATE_NOOP("ShowFile", "Impossible d'ouvrir « %1 » : %2")).arg(name, why)};
 }
 
+// A disk that fills up takes a part, and tells why only when it is given the rest.
+bool WriteAll(QIODevice& file, const QByteArray& text) {
+    qint64 done = 0;
+    while (done < text.size()) {
+        const qint64 more = file.write(text.constData() + done, text.size() - done);
+        if (more <= 0) return false;
+        done += more;
+    }
+    return true;
+}
+
 }  // namespace
 
 bool IsShowFile(const QString& path) {
@@ -41,10 +52,11 @@ ShowReading LoadShow(const QString& path) {
     return reading.show ? reading : NotRead(path, reading.failure);
 }
 
+// Without a buffer: what fails as one is emptied would go unnoticed.
 QString SaveShow(const QString& path, const SavedShow& show) {
     QSaveFile file(path);
     const QByteArray text = ShowText(show, FolderOf(path));
-    if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit()) return {};
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteAll(file, text) && file.commit()) return {};
     return Tr(QT_TRANSLATE_NOOP("ShowFile", "Impossible d'enregistrer « %1 » : %2"))
         .arg(QDir::toNativeSeparators(path), file.errorString());
 }

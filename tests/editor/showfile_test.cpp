@@ -3,7 +3,11 @@
 
 #include "editor/show.h"
 #include "editor/showkeeper.h"
+#include "editor/strip.h"
+#include "tests/editor/fulldisk.h"
 #include "tests/editor/windowfixture.h"
+
+#include <cerrno>
 
 #include <QDialog>
 #include <QFile>
@@ -156,26 +160,41 @@ TEST_F(ShowFileTest, AFailedSavingLeavesTheFileAndTheMark) {
     ASSERT_TRUE(OpenShow(path));
     RemoveFirst();
     const QByteArray before = BytesOf(path);
-    const QString unwritable = files_.filePath("none/a.vorlane");
-    EXPECT_NE(SaveShow(unwritable, SavedShow{}), "");
-    QDir().mkdir(files_.filePath("folder.vorlane"));
-    EXPECT_NE(SaveShow(files_.filePath("folder.vorlane"), SavedShow{}), "");
+    const auto saves = [this] {
+        const test::FullDisk full(10);
+        return window_->save();
+    };
+    EXPECT_FALSE(saves());
+    EXPECT_EQ(Status(),
+              QStringLiteral("Impossible d'enregistrer «\u00A0%1\u00A0»\u00A0: %2").arg(path, qt_error_string(EFBIG)));
     EXPECT_EQ(BytesOf(path), before);
     EXPECT_TRUE(window_->isWindowModified());
+    EXPECT_TRUE(window_->save());
+    EXPECT_EQ(LoadShow(path).show, OfPictures("b"));
+}
+
+TEST_F(ShowFileTest, AShowIsSavedNeitherInAFolderThatIsMissingNorInTheNameOfOne) {
+    EXPECT_NE(SaveShow(files_.filePath("none/a.vorlane"), SavedShow{}), "");
+    ASSERT_TRUE(QDir().mkdir(files_.filePath("folder.vorlane")));
+    EXPECT_NE(SaveShow(files_.filePath("folder.vorlane"), SavedShow{}), "");
 }
 
 TEST_F(ShowFileTest, AShowWhoseReadingIsCutOffIsNoLongerThatOfItsFile) {
-    const SavedShow show = OfPictures("abcdefgh");
+    constexpr int kPictures = 500;
+    SavedShow show;
+    for (int i = 0; i < kPictures; ++i) show.pictures.push_back(pictures_.Write(QStringLiteral("p%1.jpg").arg(i), {}));
     const QString path = Write("a.vorlane", show);
+    window_->setSliceTime(0);
+    const auto hold = [this] { window_->slides().beginMove(); };
+    QObject::connect(&window_->sheet(), &VorlaneWidget::OnDisplayStart, window_.get(), hold, Qt::SingleShotConnection);
     ASSERT_TRUE(window_->openShow(path));
-    ASSERT_TRUE(test::WaitFor([this] { return window_->showPath() != "" || window_->isSettled(); }));
+    ASSERT_TRUE(test::WaitFor([this] { return window_->count() > 0; }));
+    ASSERT_EQ(window_->showPath(), path);
     window_->openFolder(files_.filePath("nowhere"));
+    window_->slides().endMove();
     ASSERT_TRUE(Settle());
-    if (window_->count() == show.pictures.size()) {
-        EXPECT_EQ(window_->showPath(), path);
-    } else {
-        EXPECT_EQ(window_->showPath(), "");
-    }
+    ASSERT_LT(window_->count(), kPictures);
+    EXPECT_EQ(window_->showPath(), "");
     EXPECT_EQ(LoadShow(path).show, show);
 }
 
