@@ -61,9 +61,11 @@ Recording CommentRecorder::stop() {
     microphone_.reset();
     const auto file = std::exchange(file_, nullptr);
     const bool whole = file->finish();
-    const QString why = ended_ && whole ? tr("le microphone ne répond plus") : file->failure();
-    if (why.isEmpty()) return {file->fileName()};
-    if (file->hasSound()) return {file->fileName(), tr("Le commentaire est incomplet : %1").arg(why)};
+    const bool sounds = file->hasSound();
+    QString why = ended_ && whole ? tr("le microphone ne répond plus") : file->failure();
+    if (why.isEmpty() && sounds) return {file->fileName()};
+    if (why.isEmpty()) why = tr("aucun son n'a été capté");
+    if (sounds) return {file->fileName(), tr("Le commentaire est incomplet : %1").arg(why)};
     file->remove();
     return {{}, tr("Le commentaire n'a pas pu être enregistré : %1").arg(why)};
 }

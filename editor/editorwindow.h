@@ -211,7 +211,8 @@ private:
     void MakePlayMenu();
     void NamePlayMenu();
     void PlayFrom(int first);
-    void FollowPlaying(int second);
+    void EndPlay();
+    void FollowPlaying(qint64 second);
 
     QSettings& settings_;
     Recents recent_{settings_};

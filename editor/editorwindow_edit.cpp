@@ -53,6 +53,7 @@ void EditorWindow::ConnectShow() {
 // The length of the show follows its slides and their time.
 void EditorWindow::ConnectStrip() {
     connect(soundMenu_, &StripMenu::said, this, &EditorWindow::Say);
+    connect(soundMenu_, &StripMenu::recordAsked, this, &EditorWindow::EndPlay);
     connect(strip_, &TimeLineWidget::PropertyChanged, this, [this](const QString& key) {
         if (key != QLatin1String("ExpositionTime")) return;
         if (!keeper_->path().isEmpty()) keeper_->touch();

@@ -7,6 +7,7 @@
 #include "widgets/vorlanewidget.h"
 
 #include <algorithm>
+#include <limits>
 
 #include <QAction>
 #include <QMenu>
@@ -55,9 +56,14 @@ void EditorWindow::PlayFrom(int first) {
     player_->play(std::move(*show), first, this);
 }
 
-// The strip counts from the first slide: it knows no farther one than 32,767 to count from.
-void EditorWindow::FollowPlaying(int second) {
-    strip_->Lecture(second, 0);
+void EditorWindow::EndPlay() {
+    if (player_) player_->stop();
+}
+
+// The strip counts from the first slide: it knows no farther one than 32,767 to count from. No slide that it can show
+// starts beyond what its seconds hold.
+void EditorWindow::FollowPlaying(qint64 second) {
+    strip_->Lecture(static_cast<int>(std::min(second, qint64{std::numeric_limits<int>::max()})), 0);
 }
 
 }  // namespace vorlane::editor

@@ -58,8 +58,8 @@ void Playback::advance(qint64 milliseconds) {
     if (isActive()) TellSecond();
 }
 
-int Playback::second() const {
-    return isActive() ? slide_ * exposure_ + static_cast<int>(within_ / 1000) : 0;
+qint64 Playback::second() const {
+    return isActive() ? qint64{slide_} * exposure_ + within_ / 1000 : 0;
 }
 
 void Playback::SetPlaying(bool playing) {
@@ -77,7 +77,7 @@ void Playback::Begin(int slide, bool inTurn) {
 }
 
 void Playback::TellSecond() {
-    const int now = second();
+    const qint64 now = second();
     if (std::exchange(told_, now) != now) Q_EMIT secondBegan(now);
 }
 

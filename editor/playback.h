@@ -32,12 +32,12 @@ public:
     // -1 when it isn't active.
     int slide() const { return slide_; }
     // Whole seconds since the start of the show.
-    int second() const;
+    qint64 second() const;
 
 Q_SIGNALS:
     // inTurn: the one before has lasted its time; otherwise the show began there, or the user went there.
     void slideBegan(int slide, bool inTurn);
-    void secondBegan(int second);
+    void secondBegan(qint64 second);
     void playingChanged(bool playing);
     // After its last slide, or stopped there. slide: where it was.
     void ended(int slide);
@@ -53,7 +53,7 @@ private:
     int exposure_ = 1;
     int slide_ = -1;
     qint64 within_ = 0;  // milliseconds since the slide began
-    int told_ = -1;      // the last second that was told
+    qint64 told_ = -1;   // the last second that was told
     bool playing_ = false;
 };
 

@@ -24,7 +24,7 @@ public:
 
 Q_SIGNALS:
     // Whole seconds since the start of the show, as it plays.
-    void secondBegan(int second);
+    void secondBegan(qint64 second);
     // picture: where it was.
     void ended(int picture);
     // Something is wrong with a sound; for the user.

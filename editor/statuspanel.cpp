@@ -3,6 +3,8 @@
 #include "editor/slidesize.h"
 #include "widgets/timelinewidget.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 #include <QEvent>
@@ -133,8 +135,9 @@ QString StatusPanel::text() const {
     return text_->text();
 }
 
-void StatusPanel::setLength(int seconds) {
-    if (std::exchange(seconds_, seconds) != seconds) ShowLength();
+void StatusPanel::setLength(qint64 seconds) {
+    const int told = static_cast<int>(std::min(seconds, qint64{std::numeric_limits<int>::max()}));
+    if (std::exchange(seconds_, told) != told) ShowLength();
 }
 
 QString StatusPanel::length() const {

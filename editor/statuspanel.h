@@ -26,8 +26,8 @@ public:
     // Nothing to say, as long as no folder is open.
     void clear();
     QString text() const;
-    // The length of the whole show, in seconds; none for 0.
-    void setLength(int seconds);
+    // The length of the whole show, in seconds; none for 0. The most that it tells is what an int holds.
+    void setLength(qint64 seconds);
     QString length() const;
 
     // value of maximum is done; hidden when all is.

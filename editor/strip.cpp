@@ -121,8 +121,8 @@ int Strip::itemOf(int key) const {
     return sheet_.GetListIndexFromItemData(key);
 }
 
-int Strip::showSeconds() const {
-    return sheet_.Liste().ListCount() * ExpositionTime();
+qint64 Strip::showSeconds() const {
+    return qint64{sheet_.Liste().ListCount()} * ExpositionTime();
 }
 
 // --- Drops ---

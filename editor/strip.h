@@ -30,7 +30,7 @@ public:
     // The place of that item in the list, -1 when it has left.
     int itemOf(int key) const;
     // The length of the whole show, seconds.
-    int showSeconds() const;
+    qint64 showSeconds() const;
 
     QSize sizeHint() const override;
 

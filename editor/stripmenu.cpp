@@ -185,6 +185,7 @@ void StripMenu::setFolder(const QString& folder) {
 
 void StripMenu::Record(bool on) {
     if (!on) return endRecording();
+    Q_EMIT recordAsked();
     const int item = std::max(Current(), 0);
     const QString music = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
     const QString path = CommentRecorder::freeName(folder_.isEmpty() ? music : folder_, tr("Commentaire"));

@@ -41,6 +41,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void said(const QString& notice);
+    // A recording is about to begin.
+    void recordAsked();
 
 private:
     QAction* AddAction(const QKeySequence& keys = {});

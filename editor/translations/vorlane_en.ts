@@ -835,6 +835,10 @@
         <translation>the microphone does not answer any more</translation>
     </message>
     <message>
+        <source>aucun son n&apos;a été capté</source>
+        <translation>no sound was picked up</translation>
+    </message>
+    <message>
         <source>Le commentaire est incomplet&#xa0;: %1</source>
         <translation>The comment is incomplete: %1</translation>
     </message>

@@ -89,6 +89,21 @@ TEST_F(CommentRecorderTest, OfARecordingWithoutSoundNothingStays) {
     EXPECT_TRUE(Files().isEmpty());
 }
 
+TEST_F(CommentRecorderTest, OfAMicrophoneThatGivesNothingNothingStays) {
+    ASSERT_EQ(recorder_.start(Path()), "");
+    Recording recording = recorder_.stop();
+    EXPECT_EQ(recording.path, "");
+    EXPECT_EQ(recording.failure, "Le commentaire n'a pas pu être enregistré : aucun son n'a été capté");
+    EXPECT_TRUE(Files().isEmpty());
+    ASSERT_EQ(recorder_.start(Path()), "");
+    microphone_->Break();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return broken_ == 1; }, 30000));
+    recording = recorder_.stop();
+    EXPECT_EQ(recording.path, "");
+    EXPECT_EQ(recording.failure, "Le commentaire n'a pas pu être enregistré : le microphone ne répond plus");
+    EXPECT_TRUE(Files().isEmpty());
+}
+
 TEST_F(CommentRecorderTest, AMicrophoneThatGoesIsTold) {
     ASSERT_EQ(recorder_.start(Path()), "");
     EXPECT_TRUE(microphone_->Hear(1));

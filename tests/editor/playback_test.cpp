@@ -17,7 +17,7 @@ protected:
             trace_.push_back(QString::number(slide) + (inTurn ? "" : "!"));
         });
         QObject::connect(&playback_, &Playback::secondBegan,
-                         [this](int second) { trace_.push_back(QString::number(second) + "s"); });
+                         [this](qint64 second) { trace_.push_back(QString::number(second) + "s"); });
         QObject::connect(&playback_, &Playback::playingChanged,
                          [this](bool playing) { trace_.push_back(playing ? "on" : "off"); });
         QObject::connect(&playback_, &Playback::ended,
@@ -40,6 +40,12 @@ TEST_F(PlaybackTest, TellsEachSecondAndEachSlideOnce) {
     EXPECT_EQ(Trace(), "2 4s");
     EXPECT_EQ(playback_.slide(), 2);
     EXPECT_EQ(playback_.second(), 4);
+}
+
+TEST_F(PlaybackTest, CountsTheSecondsOfTheLongestShows) {
+    playback_.start(700000, 1000000, 3600);
+    EXPECT_EQ(Trace(), "on 700000! 2520000000s");
+    EXPECT_EQ(playback_.second(), 2520000000);
 }
 
 TEST_F(PlaybackTest, EndsAfterTheLastSlide) {

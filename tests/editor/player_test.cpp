@@ -5,6 +5,7 @@
 #include "editor/showplayer.h"
 #include "editor/strip.h"
 #include "editor/stripmenu.h"
+#include "editor/stripsounds.h"
 #include "tests/editor/fakemicrophone.h"
 #include "tests/editor/windowfixture.h"
 #include "timeline/etimeline.h"
@@ -136,6 +137,26 @@ TEST_F(PlayerTest, APlayEndsARecordingFirst) {
     window_->playFromStart();
     EXPECT_FALSE(record.isChecked());
     EXPECT_EQ(QDir(Folder()).entryList({"*.wav"}).size(), 1);
+}
+
+TEST_F(PlayerTest, ARecordingEndsAPlayFirstAndIsForThePictureThatItShowed) {
+    ASSERT_TRUE(OpenColors());
+    test::FakeMicrophone* microphone = nullptr;
+    window_->soundMenu().setMicrophone([&microphone] {
+        auto made = std::make_unique<test::FakeMicrophone>();
+        microphone = made.get();
+        return made;
+    });
+    window_->playFromStart();
+    PressInPlayer(Qt::Key_Right);
+    QAction& record = Action("Enregistrer un commentaire");
+    record.trigger();
+    EXPECT_FALSE(Player().playback().isActive());
+    EXPECT_FALSE(Player().window().isVisible());
+    ASSERT_TRUE(record.isChecked());
+    EXPECT_TRUE(microphone->Hear(2));
+    record.trigger();
+    EXPECT_TRUE(window_->sounds().find(SoundKind::Comment, window_->sheet().Key(1)));
 }
 
 TEST_F(PlayerTest, TextsStandOneBelowTheOther) {

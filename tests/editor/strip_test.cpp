@@ -1,5 +1,6 @@
 // The time line under the sheet, in step with it.
 #include "tests/editor/stripfixture.h"
+#include "timeline/etimeline.h"
 
 #include <QScrollBar>
 
@@ -59,6 +60,16 @@ TEST_F(StripTest, TheStatusLineTellsTheLengthOfTheShow) {
     window_->navigator().setCurrent(0);
     window_->removeSelected();
     EXPECT_EQ(window_->status().length(), QStringLiteral("Durée\u00A0: 48 s"));
+}
+
+TEST_F(StripTest, TheLengthOfTheLongestShowsIsCounted) {
+    VorlaneWidget sheet;
+    const Strip strip(sheet);
+    for (int i = 0; i < 70000; ++i) sheet.sheet().LstInterne.AddItem("/nowhere/x.jpg");
+    strip.timeline().SetExpositionTime(32767);
+    EXPECT_EQ(strip.showSeconds(), qint64{70000} * 32767);
+    window_->status().setLength(strip.showSeconds());
+    EXPECT_EQ(window_->status().length(), QStringLiteral("Durée\u00A0: 596523 h 14 min 07 s")) << "the most it tells";
 }
 
 TEST_F(StripTest, TheStripIsHiddenWhereItIsNotWantedAndTheTimeOfSlidesIsKept) {

@@ -61,6 +61,18 @@ TEST_F(StripRecordingTest, ARecordingThatFailsTellsTheReason) {
     EXPECT_TRUE(Status().endsWith(qt_error_string(EFBIG))) << Status().toStdString();
 }
 
+TEST_F(StripRecordingTest, ARecordingOfNothingLeavesTheCommentThatTheSlideHas) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    window_->navigator().setCurrent(1);
+    Sounds().add(SoundKind::Comment, {Sound("c.wav", 2)}, 1);
+    QAction& record = StartRecording();
+    record.trigger();
+    EXPECT_EQ(Told(SoundKind::Comment), "b:c");
+    EXPECT_TRUE(QDir(Folder()).entryList({"Commentaire*"}).isEmpty());
+    EXPECT_TRUE(Status().endsWith("aucun son n'a été capté")) << Status().toStdString();
+    EXPECT_FALSE(record.isChecked());
+}
+
 TEST_F(StripRecordingTest, ACommentGoesToItsSlideWhereverThatIsByThen) {
     ASSERT_TRUE(OpenPictures("abcd"));
     window_->navigator().setCurrent(1);
