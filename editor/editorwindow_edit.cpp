@@ -56,7 +56,7 @@ void EditorWindow::ConnectStrip() {
     connect(soundMenu_, &StripMenu::recordAsked, this, &EditorWindow::EndPlay);
     connect(strip_, &TimeLineWidget::PropertyChanged, this, [this](const QString& key) {
         if (key != QLatin1String("ExpositionTime")) return;
-        if (!keeper_->path().isEmpty()) keeper_->touch();
+        if (!keeper_->path().isEmpty() || keeper_->isModified()) keeper_->touch();  // in a folder it's a preference
         ShowStatus();
     });
     connect(buttons_, &SoundButtons::said, this, &EditorWindow::Say);

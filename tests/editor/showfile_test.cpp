@@ -381,6 +381,24 @@ TEST_F(ShowFileTest, AChangeIsKeptAfterAWhileAndForgottenOnceItIsSaved) {
     EXPECT_TRUE(Kept().isEmpty());
 }
 
+TEST_F(ShowFileTest, TheTimeOfAShowWithoutAFileIsKeptAlongWithItsOtherChanges) {
+    ASSERT_TRUE(OpenPictures("abc"));
+    window_->setRecoveryFolder(RecoveryFolder());
+    auto* keeper = window_->findChild<ShowKeeper*>();
+    ASSERT_NE(keeper, nullptr);
+    auto* pause = keeper->findChild<QTimer*>();
+    window_->strip().SetExpositionTime(9);
+    EXPECT_FALSE(window_->isWindowModified()) << "the time of a folder is nothing to keep";
+    RemoveFirst();
+    EXPECT_EQ(keeper->keep(), "");
+    pause->stop();
+    window_->strip().SetExpositionTime(12);
+    EXPECT_TRUE(pause->isActive());
+    EXPECT_EQ(keeper->keep(), "");
+    ASSERT_EQ(Kept().size(), 1);
+    EXPECT_EQ(LoadShow(RecoveryFolder() + "/" + Kept().first()).show->exposure, 12);
+}
+
 TEST_F(ShowFileTest, AShowThatIsBeingReadIsNeitherSavedNorKept) {
     ShowKeeper keeper(window_->slides(), [] { return std::optional<SavedShow>(); });
     keeper.setRecoveryFolder(RecoveryFolder());
