@@ -128,6 +128,7 @@ void StripMenu::AddTo(SoundKind kind, const QStringList& files, int listIndex) {
 QString StripMenu::added(SoundKind kind, const QStringList& files, int listIndex) {
     QStringList sounds = files;
     sounds.removeIf([](const QString& file) { return FileKindOf(file) != FileKind::Sound; });
+    if (!sounds.isEmpty() && sounds_.isBusy()) return tr("La planche est occupée");
     const int count = sounds_.add(kind, sounds, listIndex < 0 ? std::max(Current(), 0) : listIndex);
     return count == 0 ? tr("Aucun son à ajouter") : AddedText(kind, count, static_cast<int>(sounds.size()) - count);
 }

@@ -128,8 +128,12 @@ void StripSounds::Push(std::vector<Change> changes, const QString& name) {
     show_.push(new Command(*this, std::move(changes), name));
 }
 
+bool StripSounds::isBusy() const {
+    return show_.isBusy();
+}
+
 int StripSounds::add(SoundKind kind, const QStringList& files, int listIndex) {
-    if (show_.isBusy() || listIndex < 0) return 0;
+    if (isBusy() || listIndex < 0) return 0;
     std::vector<Change> changes;
     int place = listIndex;
     for (const QString& file : files) {
@@ -146,7 +150,7 @@ int StripSounds::add(SoundKind kind, const QStringList& files, int listIndex) {
 
 bool StripSounds::remove(SoundKind kind, int listIndex) {
     const int key = sheet_.Key(listIndex);
-    if (show_.isBusy() || listIndex < 0 || !find(kind, key)) return false;
+    if (isBusy() || listIndex < 0 || !find(kind, key)) return false;
     Push({ChangeOf(kind, key, std::nullopt)}, tr("le retrait d'un son"));
     return true;
 }
@@ -154,14 +158,14 @@ bool StripSounds::remove(SoundKind kind, int listIndex) {
 bool StripSounds::setRepeated(SoundKind kind, int listIndex, bool repeated) {
     const int key = sheet_.Key(listIndex);
     auto sound = listIndex < 0 ? std::nullopt : find(kind, key);
-    if (show_.isBusy() || !sound || sound->Repetition == repeated) return false;
+    if (isBusy() || !sound || sound->Repetition == repeated) return false;
     sound->Repetition = repeated;
     Push({ChangeOf(kind, key, sound)}, repeated ? tr("la répétition") : tr("la fin de la répétition"));
     return true;
 }
 
 bool StripSounds::setVolumes(int key, std::optional<MusicVolumes> music, std::optional<int> comment) {
-    if (show_.isBusy() || sheet_.GetListIndexFromItemData(key) < 0) return false;
+    if (isBusy() || sheet_.GetListIndexFromItemData(key) < 0) return false;
     std::vector<Change> changes;
     const auto change = [&](SoundKind kind, auto&& set) {
         const auto before = find(kind, key);

@@ -51,6 +51,7 @@ public:
     void follow();
 
     // --- With a way back; not for a show that is at work ---
+    bool isBusy() const;
     // Puts files on a slide and those behind it, each where the one before has ended, in place of what is there. How
     // many have found a slide.
     int add(SoundKind kind, const QStringList& files, int listIndex);

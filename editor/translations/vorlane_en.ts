@@ -605,6 +605,10 @@
         <translation>The slide is gone; the comment is in “%1”</translation>
     </message>
     <message>
+        <source>La planche est occupée</source>
+        <translation>The sheet is busy</translation>
+    </message>
+    <message>
         <source>La planche est occupée&#xa0;; le commentaire est dans «&#xa0;%1&#xa0;»</source>
         <translation>The sheet is busy; the comment is in “%1”</translation>
     </message>

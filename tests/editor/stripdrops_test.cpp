@@ -103,7 +103,7 @@ TEST_F(StripDropsTest, SoundsWithoutAPlaceAreToldAlongWithThePicturesThatHaveOne
     window_->slides().endMove();
     ASSERT_TRUE(Settle());
     EXPECT_EQ(Letters(), "ab");
-    EXPECT_EQ(Status(), QStringLiteral("Aucun son à ajouter\u00A0; 1 image ajoutée"));
+    EXPECT_EQ(Status(), QStringLiteral("La planche est occupée\u00A0; 1 image ajoutée"));
 }
 
 TEST_F(StripDropsTest, TheDropIsShownWhereItWouldGo) {

@@ -38,6 +38,17 @@ TEST_F(StripSoundsTest, SeveralSoundsFollowEachOther) {
     EXPECT_EQ(Musics(), "a:m d:n e:o");
 }
 
+TEST_F(StripSoundsTest, SoundsThatAreAddedToAShowAtWorkAreRefusedWithTheReason) {
+    ASSERT_TRUE(OpenPictures("ab"));
+    ASSERT_TRUE(window_->slides().beginMove());
+    window_->soundMenu().addFiles(SoundKind::Music, {Sound("m.wav", 2)});
+    EXPECT_EQ(Status(), "La planche est occupée");
+    window_->soundMenu().addFiles(SoundKind::Music, {pictures_.Write("notes.txt", "x")});
+    EXPECT_EQ(Status(), "Aucun son à ajouter");
+    window_->slides().endMove();
+    EXPECT_EQ(Musics(), "");
+}
+
 TEST_F(StripSoundsTest, AMusicRepeatsUntilTheNext) {
     ASSERT_TRUE(OpenPictures("abcdef"));
     window_->soundMenu().addFiles(SoundKind::Music, {Sound("m.wav", 2)});
