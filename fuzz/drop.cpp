@@ -6,6 +6,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include <QMimeData>
 
@@ -16,12 +17,23 @@ namespace {
 constexpr std::array kForms{"text/uri-list", "text/plain", kOwnDragForm};
 
 // Paths are absolute, and no line is hidden in one.
+void CheckPath(const std::string& path) {
+    fuzz::Require(!path.empty() && path.front() == '/', "a dropped path is absolute");
+    for (const char letter : path)
+        fuzz::Require(static_cast<unsigned char>(letter) >= 32, "a dropped path holds no control codes");
+}
+
+void CheckText(const DataObject& dropped) {
+    const std::vector<std::string> paths = DroppedPaths(dropped.Text());
+    for (const std::string& path : paths) CheckPath(path);
+    const bool whole = paths.empty() || static_cast<int64_t>(paths.size()) == DroppedLines(dropped.Text());
+    fuzz::Require(whole, "a dropped text holds nothing but paths");
+}
+
 void CheckFiles(const DataObject& dropped) {
     for (const std::string& entry : dropped.Files()) {
         const DraggedFile file = ReadDraggedFile(entry);
-        fuzz::Require(!file.Path.empty() && file.Path.front() == '/', "a dropped path is absolute");
-        for (const char letter : entry)
-            fuzz::Require(static_cast<unsigned char>(letter) >= 32, "a dropped path holds no control codes");
+        CheckPath(file.Path);
         fuzz::Require(ReadDraggedFile(DraggedFileEntry(file.Path, file.Key)).Key == file.Key, "a key comes back");
     }
 }
@@ -39,6 +51,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
                  QByteArray(text.data(), static_cast<qsizetype>(text.size())));
     const DataObject dropped = DataObjectFrom(mime);
     CheckFiles(dropped);
+    CheckText(dropped);
     const DataObject again = DataObjectFrom(*MimeDataFrom(dropped));
     fuzz::Require(again.Files() == dropped.Files(), "what is dragged on comes in as it went out");
     return 0;

@@ -92,11 +92,19 @@ TEST_F(DragTest, ADragOutOfTheWindowClosesTheRow) {
     });
 }
 
-TEST_F(DragTest, OverTheBarNothingIsOpenedByALeave) {
+TEST_F(DragTest, OverTheBarNoRowOpensAndALeaveClosesTheOneThatIs) {
     ShowDraggable(30);
     DragSlide(1, [&](UserDrag& drag) {
+        Over(drag, 4, 0.2F);
         drag.Over(window, kWidth - 5, 40);
         EXPECT_EQ(drag.Effect(), 2);
+        EXPECT_EQ(Lefts(0, 5), "5 111 217 0 117 217") << "the row beside the pointer is closed";
+        EXPECT_EQ(Mark(), "100,86");
+        DataObject none;
+        int32_t effect = 0;
+        sheet->Input.OLEDragOver(none, effect, 0, 0, kWidth - 5, 40, 1);
+        EXPECT_EQ(Lefts(0, 5), "5 111 217 5 111 217");
+        EXPECT_EQ(Mark(), "hidden");
     });
 }
 
