@@ -132,7 +132,7 @@ void EditorWindow::NameMenus() {
     menus_.recent->setTitle(tr("Ouverts &récemment"));
     menus_.forget->setText(tr("E&ffacer la liste"));
     menus_.quit->setText(tr("&Quitter"));
-    menus_.edit->setTitle(tr("É&dition"));
+    menus_.edit->setTitle(tr("Éd&ition"));
     NameUndo();
     menus_.selectAll->setText(tr("&Tout sélectionner"));
     menus_.show->setText(tr("&Ouvrir l'image"));

@@ -125,7 +125,7 @@
     </message>
     <message>
         <source>&amp;Réduire les diapositives</source>
-        <translation>&amp;Smaller Slides</translation>
+        <translation>S&amp;maller Slides</translation>
     </message>
     <message>
         <source>&amp;Plein écran</source>
@@ -203,10 +203,10 @@
     </message>
     <message>
         <source>&amp;Ajouter des images…</source>
-        <translation>&amp;Add Pictures…</translation>
+        <translation>Add &amp;Pictures…</translation>
     </message>
     <message>
-        <source>É&amp;dition</source>
+        <source>Éd&amp;ition</source>
         <translation>&amp;Edit</translation>
     </message>
     <message>
@@ -219,7 +219,7 @@
     </message>
     <message>
         <source>Retirer de &amp;la planche</source>
-        <translation>&amp;Remove from Sheet</translation>
+        <translation>Remo&amp;ve from Sheet</translation>
     </message>
     <message>
         <source>Déplacer vers le &amp;début</source>
@@ -513,7 +513,7 @@
     </message>
     <message>
         <source>Retirer &amp;la musique</source>
-        <translation>Remo&amp;ve Music</translation>
+        <translation>Remove Mus&amp;ic</translation>
     </message>
     <message>
         <source>Retirer le c&amp;ommentaire</source>
@@ -582,7 +582,7 @@
     </message>
     <message>
         <source>&amp;Enregistrer un commentaire</source>
-        <translation>Record a &amp;Comment</translation>
+        <translation>Recor&amp;d a Comment</translation>
     </message>
     <message>
         <source>&amp;Volumes…</source>

@@ -87,6 +87,23 @@ TEST_F(SheetUnderX, AClickWithCtrlAddsToTheSelection) {
     EXPECT_EQ(widget.CountSelected(), 2);
 }
 
+TEST_F(SheetUnderX, AClickOnTheGroundLeavesNoSelectionAndTheMouseFree) {
+    widget.SetSelectionMultiple(true);
+    Click(0);
+    EXPECT_TRUE(User::Until([&] { return widget.Selected(0); }));
+    int clicks = 0;
+    QObject::connect(&widget, &VorlaneWidget::OnBackgroundClick, &widget, [&](int) { ++clicks; });
+    User::PointAt(widget.mapToGlobal(QPoint(2, 2)));
+    User::Click();
+    EXPECT_TRUE(User::Until([&] { return clicks == 1; }));
+    EXPECT_EQ(widget.CountSelected(), 0);
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+    EXPECT_FALSE(widget.sheet().SelRect.Visible());
+    Click(1);
+    EXPECT_TRUE(User::Until([&] { return widget.Selected(1); }));
+    EXPECT_EQ(widget.CountSelected(), 1);
+}
+
 TEST_F(SheetUnderX, AClickGivesTheSheetTheKeyboard) {
     widget.activateWindow();
     Click(0);
