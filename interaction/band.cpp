@@ -23,6 +23,7 @@ void Vorlane::StartBand(float x, float y) {
 void Vorlane::EndBand() {
     Desktop().screen.ReleaseCapture();
     band_.Active = false;
+    band_.Before = {};
     SharedFrmDrag(Desktop()).Unload();
     SelRect.SetVisible(false);
     ForEachSlide([](eDiapoLight& slide) { slide.SetSelectedTmp(false); });

@@ -73,7 +73,7 @@ RenameAnswer RenameOverPlaceholder(const fs::path& from, const fs::path& to) {
     if (const int refused = Occupy(to, fs::is_directory(fs::symlink_status(from, error)))) return refused;
     fs::rename(from, to, error);
     std::error_code stays;
-    if (error) fs::remove(to, stays);
+    if (error && fs::is_empty(to, stays)) fs::remove(to, stays);  // what another program has put there stays
     return error.value();
 }
 

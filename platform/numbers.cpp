@@ -9,14 +9,9 @@ namespace vorlane {
 
 namespace {
 
-// A sum with it has no room for fractions: it comes out rounded, halves to even.
-constexpr double kNoFractions = 0x1.8p52;
-
-// Most numbers of a recording pass here, so it takes no call.
 template <class Integer>
 Integer Converted(double value) {
-    if (!(std::abs(value) < kNoFractions / 2)) throw failures::Overflow();
-    const double rounded = (value + kNoFractions) - kNoFractions;
+    const double rounded = Round(value);
     if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max())) {
         throw failures::Overflow();
     }
@@ -26,11 +21,7 @@ Integer Converted(double value) {
 }  // namespace
 
 double Round(double value) {
-    const double below = std::floor(value);
-    const double rest = value - below;
-    if (rest < 0.5) return below;
-    if (rest > 0.5) return below + 1;
-    return std::fmod(below, 2) == 0 ? below : below + 1;
+    return std::nearbyint(value) + 0.0;  // a negative zero is none
 }
 
 double Int(double value) {

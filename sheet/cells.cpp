@@ -8,6 +8,15 @@ namespace {
 
 constexpr double kHeightByWidth = 0.76;  // of a slide
 
+int16_t CountAcross(const grid::Area& area, const grid::Frame& frame, int16_t gap) {
+    return grid::CountThatFit(area.AreaWidth, frame.SlideWidth, gap);
+}
+
+int16_t CountDown(const grid::Area& area, const grid::Frame& frame, int16_t gap) {
+    if (frame.Direction == ScrollDirectionType::sdHorizontal) return 1;
+    return grid::CountThatFit(area.AreaHeight, frame.SlideHeight, gap);
+}
+
 }  // namespace
 
 grid::Frame Vorlane::Frame() const {
@@ -20,12 +29,11 @@ void Vorlane::ComputeArea() {
 }
 
 int16_t Vorlane::ComputeCountX() const {
-    return grid::CountThatFit(grid_.Area.AreaWidth, First().Width(), grid_.MargeDiapoMin);
+    return CountAcross(grid_.Area, Frame(), grid_.MargeDiapoMin);
 }
 
 int16_t Vorlane::ComputeCountY() const {
-    if (bar_.ScrollDirection == ScrollDirectionType::sdHorizontal) return 1;
-    return grid::CountThatFit(grid_.Area.AreaHeight, First().Height(), grid_.MargeDiapoMin);
+    return CountDown(grid_.Area, Frame(), grid_.MargeDiapoMin);
 }
 
 // Fails where slides of that size make no grid.
@@ -34,9 +42,7 @@ void Vorlane::RequireGrid(double width, double height) const {
     frame.SlideWidth = static_cast<float>(width);
     frame.SlideHeight = static_cast<float>(height);
     const grid::Area area = grid::ComputeArea(frame, grid_.Marges);
-    const bool row = bar_.ScrollDirection == ScrollDirectionType::sdHorizontal;
-    const int16_t rows = row ? int16_t{1} : grid::CountThatFit(area.AreaHeight, frame.SlideHeight, grid_.MargeDiapoMin);
-    grid::PoolSize(grid::CountThatFit(area.AreaWidth, frame.SlideWidth, grid_.MargeDiapoMin), rows);
+    grid::PoolSize(CountAcross(area, frame, grid_.MargeDiapoMin), CountDown(area, frame, grid_.MargeDiapoMin));
 }
 
 int16_t Vorlane::RowLength() const {

@@ -374,7 +374,7 @@ private:
     // navigation.cpp
     void ConnectMenu();
     void ShowMenu(bool musics, bool comments, bool onlyFiles, int32_t x, int32_t y);
-    void DescribeSlide(int32_t diapoKey, int32_t& secStart, std::string& nomImage);
+    void MnuCtx_GetSecond(int32_t diapoKey, int32_t& secStart, std::string& nomImage);
     void RunMenuItem(int32_t mnuItemID);
     void SelectSlide(int32_t diapoKey);
     template <class Judge>

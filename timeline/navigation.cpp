@@ -145,7 +145,7 @@ void eTimeLine::ShowMenu(bool musics, bool comments, bool onlyFiles, int32_t x, 
     menu_.Heard.emplace_back(menu->Events.ItemClic.connect([this](int32_t item) { MnuCtx_ItemClic(item); }));
     menu_.Heard.emplace_back(
         menu->Events.GetSecond.connect([this](int32_t diapoKey, int32_t& secStart, std::string& nomImage) {
-            DescribeSlide(diapoKey, secStart, nomImage);
+            MnuCtx_GetSecond(diapoKey, secStart, nomImage);
         }));
     menu_.MnuCtx = menu;
     const std::weak_ptr<const bool> alive = alive_;
@@ -158,7 +158,7 @@ void eTimeLine::ShowMenu(bool musics, bool comments, bool onlyFiles, int32_t x, 
     if (!alive.expired()) menu_ = {};
 }
 
-void eTimeLine::DescribeSlide(int32_t diapoKey, int32_t& secStart, std::string& nomImage) {
+void eTimeLine::MnuCtx_GetSecond(int32_t diapoKey, int32_t& secStart, std::string& nomImage) {
     const int32_t position = Sheet().GetListIndexFromItemData(diapoKey);
     if (position < 0) return;
     secStart = timescale::Start(position, settings_.ExpositionTime);

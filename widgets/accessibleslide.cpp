@@ -75,10 +75,9 @@ QStringList AccessibleSlide::actionNames() const {
 }
 
 void AccessibleSlide::doAction(const QString& name) {
-    if (!isValid() || !widget_->isEnabled()) return;
+    if (!actionNames().contains(name) || !widget_->isEnabled()) return;
     Vorlane& sheet = widget_->sheet();
     const int16_t slot = ToInt16(slot_);
-    if (!actionNames().contains(name)) return;
     Attempt([&] {
         if (name == toggleAction()) {
             const bool selected = !sheet.Selected(slot);

@@ -36,22 +36,14 @@ QPixmap SharedReplayOf(const Surface& surface, QSize size, double scale, const P
 }
 
 // Where the controls on a surface leave it bare.
-class BareGround : public SurfaceImage {
-public:
-    BareGround(const QRect& area, std::vector<QRect> covered) : area_(area), covered_(std::move(covered)) {
-        QRegion bare(area);
-        for (const QRect& rect : covered_) bare -= rect;
-        Bare = bare;
-    }
-    bool IsOf(const QRect& area, const std::vector<QRect>& covered) const {
-        return area == area_ && covered == covered_;
+struct BareGround : SurfaceImage {
+    BareGround(const QRect& area, std::vector<QRect> covered) : Area(area), Covered(std::move(covered)), Bare(area) {
+        for (const QRect& rect : Covered) Bare -= rect;
     }
 
+    QRect Area;
+    std::vector<QRect> Covered;
     QRegion Bare;
-
-private:
-    QRect area_;
-    std::vector<QRect> covered_;
 };
 
 }  // namespace
@@ -92,16 +84,16 @@ void ControlPainter::PaintAll(const UserControl& control, const QRect& area, Rep
 void ControlPainter::PaintGround(const UserControl& control, const QRect& inside) {
     const Surface& surface = control.Surface();
     std::vector<QRect> covered;
-    for (const auto& child : control.Children()) {
-        if (child->Visible() && dynamic_cast<const UserControl*>(&*child) != nullptr) covered.push_back(AreaOf(*child));
+    for (const Control* child : control.Children()) {
+        if (child->Visible() && dynamic_cast<const UserControl*>(child) != nullptr) covered.push_back(AreaOf(*child));
     }
     auto ground = std::dynamic_pointer_cast<BareGround>(surface.Image());
-    if (!ground || !ground->IsOf(inside, covered)) {
+    if (!ground || ground->Area != inside || ground->Covered != covered) {
         ground = std::make_shared<BareGround>(inside, std::move(covered));
         surface.KeepImage(ground);
     }
     const QColor color = ToQColor(surface.BackColor(), tools_.screen);
-    for (const QRect& rect : ground->Bare& damaged_) painter_.fillRect(rect, color);
+    for (const QRect& rect : ground->Bare.intersected(damaged_)) painter_.fillRect(rect, color);
 }
 
 void ControlPainter::PaintSurface(const Surface& surface, QSize size, Replays replays) {

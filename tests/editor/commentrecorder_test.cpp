@@ -19,11 +19,7 @@ namespace {
 class CommentRecorderTest : public testing::Test {
 protected:
     CommentRecorderTest() {
-        recorder_.setMicrophone([this] {
-            auto microphone = std::make_unique<test::FakeMicrophone>();
-            microphone_ = microphone.get();
-            return microphone;
-        });
+        recorder_.setMicrophone(test::FakesOf(microphone_));
         QObject::connect(&recorder_, &CommentRecorder::broken, &recorder_, [this] { ++broken_; });
     }
     QString Path() const { return folder_.filePath("a.wav"); }

@@ -3,6 +3,8 @@
 
 #include "editor/microphone.h"
 
+#include <memory>
+
 #include <QByteArray>
 #include <QIODevice>
 
@@ -27,5 +29,14 @@ public:
 private:
     QIODevice* to_ = nullptr;
 };
+
+// Makes microphones; last is the latest of them.
+inline auto FakesOf(FakeMicrophone*& last) {
+    return [&last] {
+        auto made = std::make_unique<FakeMicrophone>();
+        last = made.get();
+        return made;
+    };
+}
 
 }  // namespace vorlane::test

@@ -125,11 +125,7 @@ TEST_F(PlayerTest, APictureThatCannotBeShownIsNamedWithTheReasonAndThePlayGoesOn
 TEST_F(PlayerTest, APlayEndsARecordingFirst) {
     ASSERT_TRUE(OpenColors());
     test::FakeMicrophone* microphone = nullptr;
-    window_->soundMenu().setMicrophone([&microphone] {
-        auto made = std::make_unique<test::FakeMicrophone>();
-        microphone = made.get();
-        return made;
-    });
+    window_->soundMenu().setMicrophone(test::FakesOf(microphone));
     QAction& record = Action("Enregistrer un commentaire");
     record.trigger();
     ASSERT_TRUE(record.isChecked());
@@ -142,11 +138,7 @@ TEST_F(PlayerTest, APlayEndsARecordingFirst) {
 TEST_F(PlayerTest, ARecordingEndsAPlayFirstAndIsForThePictureThatItShowed) {
     ASSERT_TRUE(OpenColors());
     test::FakeMicrophone* microphone = nullptr;
-    window_->soundMenu().setMicrophone([&microphone] {
-        auto made = std::make_unique<test::FakeMicrophone>();
-        microphone = made.get();
-        return made;
-    });
+    window_->soundMenu().setMicrophone(test::FakesOf(microphone));
     window_->playFromStart();
     PressInPlayer(Qt::Key_Right);
     QAction& record = Action("Enregistrer un commentaire");

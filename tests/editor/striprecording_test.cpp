@@ -13,11 +13,7 @@ namespace {
 class StripRecordingTest : public StripFixture {
 protected:
     QAction& StartRecording() {
-        window_->soundMenu().setMicrophone([this] {
-            auto microphone = std::make_unique<test::FakeMicrophone>();
-            microphone_ = microphone.get();
-            return microphone;
-        });
+        window_->soundMenu().setMicrophone(test::FakesOf(microphone_));
         QAction& record = Beginning("Enregistrer un commentaire");
         record.trigger();
         return record;
